@@ -1,0 +1,210 @@
+#include "app/LineaComandos.h"
+
+#include <charconv>
+#include <cmath>
+#include <ostream>
+#include <set>
+#include <sstream>
+
+#include "fluids/AireHumedo.h"
+
+namespace vanta::cli {
+
+namespace {
+
+struct Opcion {
+    const char* nombre;
+    const char* porDefecto;  // nullptr: no default (depends on other options or unused)
+};
+
+// The options with a value, and the defaults the screens start with.
+const Opcion kOpciones[] = {
+    {"presion-ambiente", "100000"},
+    {"temperatura-ambiente", "300"},
+    {"humedad", "0"},
+    {"combustible", "Gasolina"},
+    {"formula", nullptr},
+    {"masa", nullptr},
+    {"masa-molecular", nullptr},
+    {"entalpia-formacion", nullptr},
+    {"fr", "1"},
+    {"lambda", nullptr},
+    {"ciclo", "Otto"},
+    {"cilindrada", "100"},
+    {"rc", "10"},
+    {"p1", nullptr},  // the ambient pressure, as the cycle window loads it
+    {"t1", nullptr},  // the ambient temperature
+    {"compresion", "medio"},
+    {"n-compresion", "1,39"},
+    {"expansion", "medio"},
+    {"n-expansion", "1,23"},
+    {"proporcion-vcte", "50"},
+    {"pmax", "10000000"},
+    {"rpm", nullptr},
+    {"html", nullptr},
+    {"guardar", nullptr},
+};
+
+const Opcion* BuscarOpcion(const std::string& nombre) {
+    for (const auto& o : kOpciones)
+        if (nombre == o.nombre) return &o;
+    return nullptr;
+}
+
+size_t Campos(const std::string& lista) {
+    size_t n = 1;
+    for (char c : lista) n += c == ',';
+    return n;
+}
+
+std::string Comprobar(const OpcionesCalcular& o) {
+    const std::set<std::string> ciclos{"Otto", "Diesel", "Mixto"};
+    const std::set<std::string> modelos{"medio", "politropica", "variable"};
+    if (o.Tiene("ciclo") && !ciclos.count(o.Valor("ciclo"))) return "ciclo desconocido: " + o.Valor("ciclo");
+    for (const char* m : {"compresion", "expansion"})
+        if (o.Tiene(m) && !modelos.count(o.Valor(m))) return std::string("modelo de ") + m + " desconocido: " + o.Valor(m);
+    if (o.Tiene("formula") && Campos(o.Valor("formula")) != 5) return "--formula lleva cinco números: C,H,N,O,S";
+    if (o.Tiene("masa") && Campos(o.Valor("masa")) != 4) return "--masa lleva cuatro porcentajes: C,N,O,S";
+    const int definiciones = o.Tiene("combustible") + o.Tiene("formula") + o.Tiene("masa");
+    if (definiciones > 1) return "--combustible, --formula y --masa se excluyen entre sí";
+    if (o.Tiene("masa") && !o.Tiene("masa-molecular")) return "--masa necesita --masa-molecular";
+    if (o.Tiene("fr") && o.Tiene("lambda")) return "--fr y --lambda se excluyen entre sí";
+    if (o.Tiene("proporcion-vcte") && o.Tiene("pmax")) return "--proporcion-vcte y --pmax se excluyen entre sí";
+    return {};
+}
+
+}  // namespace
+
+std::string OpcionesCalcular::Valor(const std::string& nombre) const {
+    if (auto it = valores.find(nombre); it != valores.end()) return it->second;
+    if (nombre == "p1") return Valor("presion-ambiente");
+    if (nombre == "t1") return Valor("temperatura-ambiente");
+    const Opcion* op = BuscarOpcion(nombre);
+    return op && op->porDefecto ? op->porDefecto : "";
+}
+
+Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
+    OpcionesCalcular o;
+    for (size_t i = 0; i < argumentos.size(); ++i) {
+        const std::string& a = argumentos[i];
+        if (a == "--json") {
+            o.json = true;
+            continue;
+        }
+        if (a.rfind("--", 0) != 0) return {std::nullopt, "argumento inesperado: " + a};
+        const std::string nombre = a.substr(2);
+        if (!BuscarOpcion(nombre)) return {std::nullopt, "opción desconocida: " + a};
+        if (i + 1 >= argumentos.size()) return {std::nullopt, "falta el valor de " + a};
+        o.valores[nombre] = argumentos[++i];
+    }
+    if (std::string error = Comprobar(o); !error.empty()) return {std::nullopt, error};
+    o.html = o.Valor("html");
+    o.guardar = o.Valor("guardar");
+    return {o, {}};
+}
+
+std::string TextoUso() {
+    return "Uso: vanta                              la ventana principal\n"
+           "     vanta calcular [opciones]          el cálculo completo sin ventana; escribe el informe\n"
+           "     vanta tablas [opciones]            las tablas de propiedades como texto\n"
+           "\n"
+           "Opciones de calcular (por defecto, lo que muestran las pantallas al abrirse):\n"
+           "  --json                          en lugar del informe, todas las variables del cálculo en JSON\n"
+           "  --html CARPETA                  escribe también la página HTML y sus siete imágenes\n"
+           "  --guardar NOMBRE                guarda también el resultado en la base de datos\n"
+           "  --presion-ambiente PA (100000)  --temperatura-ambiente K (300)  --humedad PCT (0)\n"
+           "  --combustible NOMBRE (Gasolina) | --formula C,H,N,O,S --entalpia-formacion J_MOL\n"
+           "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion J_MOL\n"
+           "  --fr X (1) | --lambda X\n"
+           "  --ciclo Otto|Diesel|Mixto (Otto)  --cilindrada CC (100)  --rc X (10)  --p1 PA  --t1 K\n"
+           "  --compresion medio|politropica|variable (medio)  --n-compresion X (1,39)\n"
+           "  --expansion medio|politropica|variable (medio)   --n-expansion X (1,23)\n"
+           "  --proporcion-vcte PCT (50) | --pmax PA (10000000)   ciclo Mixto: reparto del calor o presión máxima\n"
+           "  --rpm N                         escribe también la potencia a ese régimen\n"
+           "Los números se escriben como en las casillas: \"1,39\" y \"1.39\" valen lo mismo.\n";
+}
+
+namespace {
+
+// The air screen with the option texts in its boxes.
+bool EtapaAire(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s) {
+    CajaTextoSimple txtPreAmb(o.Valor("presion-ambiente")), txtTemAmb(o.Valor("temperatura-ambiente")),
+        txtHum(o.Valor("humedad"));
+    InterruptorSimple chkOcultar(true);
+    VentanaSimple ventana;
+    ControlesAire c{txtPreAmb, txtTemAmb, txtHum, chkOcultar, ventana, s.pct1};
+    return CalcularAire(e, dlg, c) && !e.ErrorCalculo;
+}
+
+}  // namespace
+
+int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, std::ostream& out) {
+    const bool bien = EtapaAire(e, o, dlg, s);
+    if (o.json) out << EstadoJSON(e) << '\n';
+    return bien ? kSalidaBien : kSalidaFallo;
+}
+
+// ---- JSON ----------------------------------------------------------------------
+
+namespace {
+
+void EscribirTexto(std::ostream& os, const std::string& t) {
+    os << '"';
+    for (unsigned char c : t) {
+        if (c == '"' || c == '\\')
+            os << '\\' << c;
+        else if (c < 0x20) {
+            char b[8];
+            std::snprintf(b, sizeof b, "\\u%04x", c);
+            os << b;
+        } else
+            os << c;
+    }
+    os << '"';
+}
+
+template <class T>
+void EscribirNumero(std::ostream& os, T v) {
+    if (!std::isfinite(v)) {
+        os << "null";
+        return;
+    }
+    char b[64];
+    auto r = std::to_chars(b, b + sizeof b, v);
+    os.write(b, r.ptr - b);
+}
+
+struct EscritorJSON {
+    std::ostream& os;
+    bool primero = true;
+    void Clave(const char* nombre) {
+        os << (primero ? "{" : ",") << '"' << nombre << "\":";
+        primero = false;
+    }
+    void operator()(const char* nombre, double v) { Clave(nombre), EscribirNumero(os, v); }
+    void operator()(const char* nombre, float v) { Clave(nombre), EscribirNumero(os, v); }
+    void operator()(const char* nombre, int16_t v) { Clave(nombre), os << v; }
+    void operator()(const char* nombre, int32_t v) { Clave(nombre), os << v; }
+    void operator()(const char* nombre, const std::string& v) { Clave(nombre), EscribirTexto(os, v); }
+    void operator()(const char* nombre, const Variante& v) {
+        Clave(nombre);
+        if (const std::string* t = v.Texto())
+            EscribirTexto(os, *t);
+        else if (v.EsNumero())
+            EscribirNumero(os, v.Numero());
+        else
+            os << "\"\"";  // an empty variant reads as the empty text
+    }
+};
+
+}  // namespace
+
+std::string EstadoJSON(const Estado& e) {
+    std::ostringstream os;
+    EscritorJSON escritor{os};
+    VisitarCampos(e, escritor);
+    os << '}';
+    return os.str();
+}
+
+}  // namespace vanta::cli

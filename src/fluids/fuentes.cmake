@@ -1,0 +1,3 @@
+list(APPEND VANTA_CORE_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/AireHumedo.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Graficas.cpp)

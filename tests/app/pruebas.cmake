@@ -1,0 +1,1 @@
+list(APPEND VANTA_CORE_TESTS ${CMAKE_CURRENT_LIST_DIR}/test_LineaComandos.cpp)

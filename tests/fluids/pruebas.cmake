@@ -1,0 +1,3 @@
+list(APPEND VANTA_CORE_TESTS
+  ${CMAKE_CURRENT_LIST_DIR}/test_AireHumedo.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/test_Graficas.cpp)
