@@ -1,3 +1,5 @@
 list(APPEND VANTA_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/AireHumedo.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Combustible.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Combustion.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Graficas.cpp)
