@@ -82,6 +82,18 @@ QFont Letra(double pixeles, bool negrita = false) {
     return f;
 }
 
+// A line that does not fit `ancho` broken in two at the blank nearest its
+// middle, so that the two lines are of a length.
+QString PartirEnDos(const QString& texto, const QFontMetricsF& fm, double ancho) {
+    if (fm.horizontalAdvance(texto) <= ancho) return texto;
+    const qsizetype mitad = texto.size() / 2;
+    qsizetype mejor = -1;
+    for (qsizetype i = 0; i < texto.size(); ++i)
+        if (texto[i] == QLatin1Char(' ') && (mejor < 0 || std::abs(i - mitad) < std::abs(mejor - mitad))) mejor = i;
+    if (mejor < 0) return texto;
+    return texto.left(mejor) + QLatin1Char('\n') + texto.mid(mejor + 1);
+}
+
 // ---- The schematic cycles --------------------------------------------------------
 
 enum class Forma { Otto, Diesel, Mixto, Ninguna };
@@ -107,9 +119,10 @@ struct Ciclo {
     std::array<QString, 5> etiquetas;
 };
 
-// Shapes chosen to read well, not to scale: compression ratio 8, exponents
-// 1.35 and 1.30.
-constexpr double kV2 = 1.0 / 8;
+// Shapes chosen to read well, not to scale: a low compression ratio opens the
+// loop; exponents 1.35 and 1.30.
+constexpr double kRcDibujo = 6;
+constexpr double kRcIcono = 4;
 constexpr double kNCompresion = 1.35;
 constexpr double kNExpansion = 1.30;
 constexpr int kPasosCurva = 40;
@@ -125,34 +138,35 @@ std::vector<QPointF> Politropica(double va, double pa, double vb, double n) {
     return r;
 }
 
-Ciclo CicloDe(Forma forma) {
+Ciclo CicloDe(Forma forma, double rc = kRcDibujo) {
     // Pressures in units of p1; state 1 at V1 = 1.
+    const double v2 = 1 / rc;
     const double p1 = 1;
-    const double p2 = p1 * std::pow(1 / kV2, kNCompresion);
-    double p3 = p2, v4 = kV2;
+    const double p2 = p1 * std::pow(1 / v2, kNCompresion);
+    double p3 = p2, v4 = v2;
     switch (forma) {
         case Forma::Otto:
             p3 = 2.6 * p2;
             break;
         case Forma::Diesel:
-            v4 = 2.6 * kV2;
+            v4 = 2.6 * v2;
             break;
         case Forma::Mixto:
         case Forma::Ninguna:
             p3 = 1.6 * p2;
-            v4 = 1.7 * kV2;
+            v4 = 1.7 * v2;
             break;
     }
     const double p4 = p3;
     const double p5 = p4 * std::pow(v4 / 1.0, kNExpansion);
 
     Ciclo c;
-    c.tramos.push_back({Politropica(1, p1, kV2, kNCompresion), kPlumas.compresion});
-    if (p3 > p2) c.tramos.push_back({{QPointF(kV2, p2), QPointF(kV2, p3)}, kPlumas.calorV});
-    if (v4 > kV2) c.tramos.push_back({{QPointF(kV2, p3), QPointF(v4, p4)}, kPlumas.calorP});
+    c.tramos.push_back({Politropica(1, p1, v2, kNCompresion), kPlumas.compresion});
+    if (p3 > p2) c.tramos.push_back({{QPointF(v2, p2), QPointF(v2, p3)}, kPlumas.calorV});
+    if (v4 > v2) c.tramos.push_back({{QPointF(v2, p3), QPointF(v4, p4)}, kPlumas.calorP});
     c.tramos.push_back({Politropica(v4, p4, 1, kNExpansion), kPlumas.expansion});
     c.tramos.push_back({{QPointF(1, p5), QPointF(1, p1)}, kPlumas.escape});
-    c.estados = {QPointF(1, p1), QPointF(kV2, p2), QPointF(kV2, p3), QPointF(v4, p4), QPointF(1, p5)};
+    c.estados = {QPointF(1, p1), QPointF(v2, p2), QPointF(v2, p3), QPointF(v4, p4), QPointF(1, p5)};
     c.etiquetas = {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"),
                    QStringLiteral("5")};
     if (forma == Forma::Otto) {
@@ -179,11 +193,17 @@ enum class Estilo {
 };
 
 // Where a cycle goes: the plot rectangle. Pressure is drawn through a square
-// root so that the low part of the cycle stays visible beside the peak.
+// root so that the low part of the cycle stays visible beside the peak, and
+// the bottom edge stands a little under state 1, not at zero, so that the
+// loop fills the rectangle.
 struct Plano {
     QRectF r;
+    double pie = 0;  // the square root of p / pmax at the bottom edge
+
+    Plano(const QRectF& rect, const Ciclo& c) : r(rect), pie(0.8 * std::sqrt(c.estados[0].y())) {}
     QPointF operator()(QPointF q) const {
-        return {r.left() + q.x() * r.width(), r.bottom() - std::sqrt(std::max(0.0, q.y())) * r.height()};
+        const double y = (std::sqrt(std::max(0.0, q.y())) - pie) / (1 - pie);
+        return {r.left() + q.x() * r.width(), r.bottom() - y * r.height()};
     }
 };
 
@@ -239,7 +259,7 @@ void Flecha(QPainter& p, const Tramo& t, const Plano& plano, double largo, const
 // states and their numbers (when `etiquetas`), the arrows (when `flechas`).
 void PintarCiclo(QPainter& p, const Ciclo& c, const QRectF& r, Estilo estilo, double grosor, bool etiquetas,
                  bool flechas) {
-    const Plano plano{r};
+    const Plano plano(r, c);
     const QPainterPath camino = Camino(c, plano);
     p.save();
     p.setRenderHint(QPainter::Antialiasing);
@@ -276,7 +296,6 @@ void PintarCiclo(QPainter& p, const Ciclo& c, const QRectF& r, Estilo estilo, do
             if (t.puntos.size() > 2) Flecha(p, t, plano, grosor * 4.2, PlumaSegun(t.color, estilo));
 
     if (etiquetas) {
-        const QPointF centro = camino.boundingRect().center();
         const double radio = grosor * 1.45;
         const QColor borde = estilo == Estilo::Elegido ? kTinta : estilo == Estilo::Noche ? QColor(235, 240, 250)
                                                                                           : kTintaSuave;
@@ -290,10 +309,12 @@ void PintarCiclo(QPainter& p, const Ciclo& c, const QRectF& r, Estilo estilo, do
             p.setPen(QPen(borde, std::max(1.0, grosor * 0.6)));
             p.setBrush(relleno);
             p.drawEllipse(q, radio, radio);
-            // The number stands outside the loop, away from its middle.
-            QPointF d = q - centro;
-            const double n = std::hypot(d.x(), d.y());
-            d = n > 0 ? d / n : QPointF(1, 0);
+            // The number stands outside the loop: 1 and 5 to the right, 2 and 3
+            // to the left, 4 above.
+            static const std::array<QPointF, 5> kHacia{QPointF(0.82, 0.57), QPointF(-0.96, 0.28),
+                                                       QPointF(-0.78, -0.62), QPointF(0.51, -0.86),
+                                                       QPointF(0.89, -0.45)};
+            const QPointF d = kHacia[i];
             const QString texto = c.etiquetas[i];
             const QSizeF t(fm.horizontalAdvance(texto), fm.capHeight());
             const double separacion = radio + fm.height() * 0.35;
@@ -320,6 +341,10 @@ void PintarEjes(QPainter& p, QPointF origen, double finX, double finY, const QCo
                             QPointF(finX - a * 0.4, origen.y() + a * 0.7)});
     p.drawPolygon(QPolygonF{QPointF(origen.x(), finY - a), QPointF(origen.x() - a * 0.7, finY + a * 0.4),
                             QPointF(origen.x() + a * 0.7, finY + a * 0.4)});
+    if (letra < 7) {
+        p.restore();
+        return;
+    }
     QFont f = Letra(letra);
     f.setItalic(true);
     p.setFont(f);
@@ -338,7 +363,7 @@ void PintarFicha(QPainter& p, Forma forma, const QString& nombre, const QRectF& 
                  bool conNombre) {
     const double s = std::min(marco.width(), marco.height());
     const double grosor = std::max(1.0, s / (estilo == Estilo::Elegido ? 45.0 : 60.0));
-    const double letraEje = std::max(7.0, s * 0.085);
+    const double letraEje = s * 0.085;
     const double arriba = conNombre ? s * 0.2 : s * 0.08;
     const QPointF origen(marco.left() + s * 0.12, marco.bottom() - s * 0.1);
     const double finX = marco.right() - s * 0.06;
@@ -356,8 +381,8 @@ void PintarFicha(QPainter& p, Forma forma, const QString& nombre, const QRectF& 
     }
     if (forma == Forma::Ninguna) return;
     // The loop stands clear of the axes.
-    const QRectF plot(origen.x() + s * 0.08, finY + s * 0.06, finX - origen.x() - s * 0.2,
-                      origen.y() - finY - s * 0.16);
+    const QRectF plot(origen.x() + s * 0.16, finY + s * 0.07, finX - origen.x() - s * 0.28,
+                      origen.y() - finY - s * 0.17);
     const bool detalle = estilo != Estilo::Tenue && s >= 56;
     PintarCiclo(p, CicloDe(forma), plot, estilo, grosor, detalle, detalle && s >= 110);
 }
@@ -461,24 +486,28 @@ QPixmap DibujoPresentacion(QSize tamano, qreal dpr) {
     for (double y = 0; y < h; y += paso) p.drawLine(QPointF(0, y), QPointF(w, y));
 
     // The cycle on the right, with a family of adiabats behind it.
-    const QRectF zona(w * 0.46, h * 0.12, w * 0.46, h * 0.58);
-    const Plano plano{zona};
+    const QRectF zona(w * 0.5, h * 0.13, w * 0.33, h * 0.55);
+    const Ciclo mixto = CicloDe(Forma::Mixto);
+    const Plano plano(zona, mixto);
     p.setPen(QPen(QColor(255, 255, 255, 22), std::max(1.0, s / 500)));
+    p.save();
+    p.setClipRect(QRectF(zona.left(), 0, w, zona.bottom() + s * 0.02));
     for (int k = 1; k <= 7; ++k) {
         QPolygonF curva;
         const double pa = 0.06 * k * k;
-        for (const QPointF& q : Politropica(kV2 * 0.8, pa, 1.06, kNExpansion)) curva << plano(q);
+        for (const QPointF& q : Politropica(0.1, pa, 1.06, kNExpansion)) curva << plano(q);
         p.drawPolyline(curva);
     }
+    p.restore();
     const double grosor = std::max(1.5, s / 190);
     PintarEjes(p, QPointF(zona.left() - s * 0.05, zona.bottom() + s * 0.04), zona.right() + s * 0.04,
                zona.top() - s * 0.05, QColor(200, 215, 235, 170), std::max(1.0, s / 400), s * 0.035);
-    PintarCiclo(p, CicloDe(Forma::Mixto), zona, Estilo::Noche, grosor, true, true);
+    PintarCiclo(p, mixto, zona, Estilo::Noche, grosor, true, true);
 
     // The cylinder under the diagram: head at V = 0, piston at bottom dead
     // centre, under V1; the crank beyond.
     const double x0 = zona.left();
-    const double xPms = plano(QPointF(kV2, 0)).x();
+    const double xPms = plano(QPointF(mixto.estados[1].x(), 0)).x();
     const double xPmi = plano(QPointF(1, 0)).x();
     const double yc = zona.bottom() + h * 0.14;
     const double radioCil = h * 0.045;
@@ -506,7 +535,7 @@ QPixmap DibujoPresentacion(QSize tamano, qreal dpr) {
     p.drawRoundedRect(QRectF(xPmi - anchoPiston, yc - radioCil * 0.92, anchoPiston, radioCil * 1.84),
                       radioCil * 0.12, radioCil * 0.12);
     const double radioMan = radioCil * 0.8;
-    const QPointF ejeCiguenal(xPmi + radioCil * 4.2, yc);
+    const QPointF ejeCiguenal(xPmi + radioCil * 3.4, yc);
     const QPointF munequilla = ejeCiguenal + QPointF(-radioMan * 0.7, -radioMan * 0.7);
     p.setPen(QPen(QColor(190, 205, 225, 200), radioCil * 0.22, Qt::SolidLine, Qt::RoundCap));
     p.drawLine(QPointF(xPmi - anchoPiston / 2, yc), munequilla);
@@ -543,27 +572,61 @@ QPixmap DibujoPresentacion(QSize tamano, qreal dpr) {
                    Aclarar(colores[i], i == 3 ? 0 : 0.25));
     }
     p.setPen(QColor(200, 215, 235));
-    const QFont linea1 = Letra(std::min(h * 0.038, w * 0.024));
+    // The description in at most two lines across the text column.
+    const double anchoColumna = w * 0.38;
+    QFont linea1 = Letra(std::min(h * 0.036, w * 0.024));
+    const QString descripcion = PartirEnDos(DescripcionPrograma(), QFontMetricsF(linea1), anchoColumna);
+    const double ancho = QFontMetricsF(linea1).boundingRect(QRectF(0, 0, w, h), 0, descripcion).width();
+    if (ancho > anchoColumna) linea1.setPixelSize(std::max(1, static_cast<int>(linea1.pixelSize() * anchoColumna / ancho)));
     p.setFont(linea1);
-    const QRectF cajaTexto(margen, yRegla + h * 0.04, w * 0.38, h * 0.3);
-    p.drawText(cajaTexto, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, DescripcionPrograma());
+    QRectF ocupado;
+    p.drawText(QRectF(margen, yRegla + h * 0.045, anchoColumna, h * 0.2), Qt::AlignLeft | Qt::AlignTop, descripcion,
+               &ocupado);
+    // The three cycles it solves, in the accent of the heat.
+    p.setPen(QColor(255, 190, 120));
+    p.setFont(Letra(std::min(h * 0.032, w * 0.021), true));
+    const QString ciclos = QStringLiteral("%1  ·  %2  ·  %3")
+                               .arg(QLatin1String(kCicloOtto), QLatin1String(kCicloDiesel), QLatin1String(kCicloMixto));
+    p.drawText(QPointF(margen, ocupado.bottom() + h * 0.06), ciclos);
     return pm;
 }
 
-// The icon's picture: a cycle loop on a night-blue tile.
-static void PintarIcono(QPainter& p, double lado) {
+namespace {
+
+// The icon's picture: the loop of a mixed cycle, its work shaded in the warm
+// tint of the heat, on a night-blue tile; axes when there is room for them.
+void PintarIcono(QPainter& p, double lado) {
     p.setRenderHint(QPainter::Antialiasing);
     const double radio = lado * 0.2;
     QLinearGradient fondo(0, 0, lado, lado);
-    fondo.setColorAt(0, QColor(20, 52, 110));
+    fondo.setColorAt(0, QColor(24, 60, 125));
     fondo.setColorAt(1, QColor(8, 22, 50));
     p.setPen(Qt::NoPen);
     p.setBrush(fondo);
     p.drawRoundedRect(QRectF(0, 0, lado, lado), radio, radio);
-    const QRectF zona(lado * 0.2, lado * 0.17, lado * 0.64, lado * 0.64);
-    const double grosor = std::max(1.2, lado * (lado <= 24 ? 0.09 : 0.06));
-    PintarCiclo(p, CicloDe(Forma::Mixto), zona, Estilo::Noche, grosor, false, false);
+    if (lado >= 32) {
+        const QColor eje(200, 215, 235, 150);
+        p.setPen(QPen(eje, lado / 40, Qt::SolidLine, Qt::RoundCap));
+        p.drawLine(QPointF(lado * 0.17, lado * 0.15), QPointF(lado * 0.17, lado * 0.83));
+        p.drawLine(QPointF(lado * 0.17, lado * 0.83), QPointF(lado * 0.87, lado * 0.83));
+    }
+    const QRectF zona(lado * 0.28, lado * 0.2, lado * 0.55, lado * 0.66);
+    const Ciclo c = CicloDe(Forma::Mixto, kRcIcono);
+    const Plano plano(zona, c);
+    QLinearGradient calor(zona.topLeft(), zona.bottomRight());
+    calor.setColorAt(0, QColor(255, 196, 90));
+    calor.setColorAt(1, QColor(240, 90, 50));
+    p.fillPath(Camino(c, plano), calor);
+    const double grosor = std::max(1.3, lado * 0.055);
+    for (const Tramo& t : c.tramos) {
+        p.setPen(QPen(PlumaSegun(t.color, Estilo::Noche), grosor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        QPolygonF linea;
+        for (const QPointF& q : t.puntos) linea << plano(q);
+        p.drawPolyline(linea);
+    }
 }
+
+}  // namespace
 
 QIcon IconoVanta() {
     QIcon icono;
