@@ -1,5 +1,4 @@
 #include "reports/Informes.h"
-
 #include "reports/TextosInforme.h"
 
 namespace vanta {
@@ -40,9 +39,9 @@ void InformeHTMLCabeceraAire(std::string& s, const CifrasInforme& c) {
     AgregarLinea(s, "<HR>");
     // The banner's non-breaking blanks are spelt both with and without their
     // semicolon, as the page has always had them.
-    AgregarLinea(s, "<B>", kCiclo, c.tipoCiclo, " &nbsp; &nbsp; &nbsp;      ", kCombustibleBanner, c.tipoCombustible,
-                 "&nbsp &nbsp &nbsp ", kFrBanner, c.frBanner, "&nbsp; &nbsp; &nbsp; ", kAireBanner, c.humedadBanner,
-                 kDeHumedad, "</B><BR>");
+    AgregarLinea(s, "<B>", kCiclo, c.tipoCiclo, " &nbsp; &nbsp; &nbsp;      ", kCombustibleBanner,
+                 c.tipoCombustible, "&nbsp &nbsp &nbsp ", kFrBanner, c.frBanner, "&nbsp; &nbsp; &nbsp; ",
+                 kAireBanner, c.humedadBanner, kDeHumedad, "</B><BR>");
     AgregarLinea(s, "<HR>");
     AgregarLinea(s);
     AgregarLinea(s, "<P><LI><U> AIRE: </U></LI><BR>");
@@ -61,12 +60,12 @@ void InformeHTMLCombustible(std::string& s, const CifrasInforme& c) {
     AgregarLinea(s, " <P><LI><U> COMBUSTIBLE: </U></LI>", kBR);
     AgregarLinea(s, kCombustible, c.tipoCombustible, kBR);
     // The atoms of the formula as subscripts, with the spacing the page has.
-    AgregarLinea(s, kFormulaQuimica, " C <FONT SIZE = -4>", c.atomosC, " </FONT>    H<FONT SIZE = -4> ", c.atomosH,
-                 "</FONT>     N<FONT SIZE = -4> ", c.atomosN, "</FONT>     O<FONT SIZE = -4>  ", c.atomosO,
-                 "</FONT>     S<FONT SIZE = -4> ", c.atomosS, "</FONT> <BR>");
-    AgregarLinea(s, kPorcentajeEnMasa, kPorcientoC, c.cienC, kPorciento, "   &nbsp;    ", kPorcientoH, c.cienH,
-                 kPorciento, "  &nbsp;     ", kPorcientoN, c.cienN, kPorciento, "   &nbsp;    ", kPorcientoO, c.cienO,
-                 kPorciento, "   &nbsp;    ", kPorcientoS, c.cienS, kPorciento, kBR);
+    AgregarLinea(s, kFormulaQuimica, " C <FONT SIZE = -4>", c.atomosC, " </FONT>    H<FONT SIZE = -4> ",
+                 c.atomosH, "</FONT>     N<FONT SIZE = -4> ", c.atomosN, "</FONT>     O<FONT SIZE = -4>  ",
+                 c.atomosO, "</FONT>     S<FONT SIZE = -4> ", c.atomosS, "</FONT> <BR>");
+    AgregarLinea(s, kPorcentajeEnMasa, kPorcientoC, c.cienC, kPorciento, "   &nbsp;    ", kPorcientoH,
+                 c.cienH, kPorciento, "  &nbsp;     ", kPorcientoN, c.cienN, kPorciento, "   &nbsp;    ",
+                 kPorcientoO, c.cienO, kPorciento, "   &nbsp;    ", kPorcientoS, c.cienS, kPorciento, kBR);
     AgregarLinea(s, kPoderSuperior, kIgual, c.hcs, kJPorKg, kBR);
     AgregarLinea(s, kPoderInferior, kIgual, c.hci, kJPorKg, kBR);
     AgregarLinea(s, kCalorVaporizacion, c.calorVap, kJPorKg, kBR);
@@ -117,7 +116,8 @@ void InformeHTMLProcesos(std::string& s, const CifrasInforme& c) {
     AgregarLinea(s, "<P><LI><U>", kProceso12, ":</U></LI><BR>");
     AgregarLinea(s, kGamma1, c.gamma1, kBR);
     AgregarLinea(s, kGamma2, c.gamma2, kBR);
-    AgregarLinea(s, kTrabajo12, c.trabajo12, kJ, "  &nbsp;     ", kTrabajoMolar12, c.trabajoMolar12, kJPorMolAireBR);
+    AgregarLinea(s, kTrabajo12, c.trabajo12, kJ, "  &nbsp;     ", kTrabajoMolar12, c.trabajoMolar12,
+                 kJPorMolAireBR);
     AgregarLinea(s, kSalto21, c.salto21, kJPorMol, "      </P>");
     AgregarLinea(s, "<P><LI><U>", kProceso23, ": </U></LI><BR>");
     AgregarLinea(s, kQ23, c.q23, kJ, "  &nbsp;      ", kQMolar23, c.qMolar23, kJPorMolAireBR);
@@ -140,13 +140,15 @@ void InformeHTMLTotales(std::string& s, const CifrasInforme& c) {
     constexpr std::string_view kPorMolComburente = " J / mol de comburente</LI></P>";
     AgregarLinea(s);
     AgregarLinea(s, "<P><LI>", kCalorAportado, c.calorIdeal, kJHueco, c.calorIdealMolar, kPorMolComburente);
-    AgregarLinea(s, "<P><LI>", kTrabajoCiclo, c.trabajoCiclo, kJHueco, c.trabajoCicloMolar, kPorMolComburente);
+    AgregarLinea(s, "<P><LI>", kTrabajoCiclo, c.trabajoCiclo, kJHueco, c.trabajoCicloMolar,
+                 kPorMolComburente);
     Agregar(s, "<P><LI>", kRendimiento, c.rendimiento, "</LI></P>");
 }
 
 void InformeHTMLDiagramas(std::string& s) {
     AgregarLinea(s);
-    for (CuadroImagen cuadro : {CuadroImagen::pctPV, CuadroImagen::pctTV, CuadroImagen::pctTS, CuadroImagen::pctHS})
+    for (CuadroImagen cuadro :
+         {CuadroImagen::pctPV, CuadroImagen::pctTV, CuadroImagen::pctTS, CuadroImagen::pctHS})
         LineaImagen(s, cuadro);
     AgregarLinea(s, " </BODY>");
     Agregar(s, "</HTML>");

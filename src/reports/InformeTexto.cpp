@@ -1,5 +1,4 @@
 #include "reports/Informes.h"
-
 #include "reports/TextosInforme.h"
 #include "services/Numeros.h"
 
@@ -26,15 +25,21 @@ constexpr std::string_view kMascaraMolar = "### ### ##0.0";
 constexpr std::string_view kMascaraQMolar34 = "### ### ##00";
 constexpr std::string_view kMascaraRendimiento = "##0.0##";
 
-constexpr std::string_view kRaya =
-    " ******************************************************************************************************************";
+// The rules of the banner: one blank and 114 asterisks.
+const std::string kRaya = " " + std::string(114, '*');
 
 // [x, d, mask]: rounded to d decimals, then through the mask.
-std::string Enmascarado(double x, int d, std::string_view mascara) { return Format(Round(x, d), mascara); }
+std::string Enmascarado(double x, int d, std::string_view mascara) {
+    return Format(Round(x, d), mascara);
+}
 // [x, -, mask]: straight through the mask.
-std::string Enmascarado(double x, std::string_view mascara) { return Format(x, mascara); }
+std::string Enmascarado(double x, std::string_view mascara) {
+    return Format(x, mascara);
+}
 // [x, d]: rounded to d decimals, then the general conversion.
-std::string Redondeado(double x, int d) { return TextoGeneral(Round(x, d)); }
+std::string Redondeado(double x, int d) {
+    return TextoGeneral(Round(x, d));
+}
 
 // The quantities of state k, 1 to 5.
 struct CamposEstado {
@@ -68,7 +73,9 @@ CifrasEstadoCiclo CifrasEstado(const Estado& e, const CamposEstado& k) {
 }
 
 // The digit of state k in the captions ("p1 = ", "T 1 = ").
-std::string Digito(int k) { return std::string(1, static_cast<char>('0' + k)); }
+std::string Digito(int k) {
+    return std::string(1, static_cast<char>('0' + k));
+}
 
 }  // namespace
 
@@ -172,7 +179,8 @@ std::string LineaEntalpiaEntropia(const CifrasInforme& c, int k, std::string_vie
     const CifrasEstadoCiclo& s = c.estados[static_cast<size_t>(k - 1)];
     const std::string n = Digito(k);
     std::string linea;
-    Agregar(linea, "h", n, " = ", s.entalpia, kJPorMol, "      ", antes, "s", n, " = ", s.entropia, "  J/(mol·K)");
+    Agregar(linea, "h", n, " = ", s.entalpia, kJPorMol, "      ", antes, "s", n, " = ", s.entropia,
+            "  J/(mol·K)");
     return linea;
 }
 
@@ -203,9 +211,9 @@ void InformeTextoCombustible(std::string& s, const CifrasInforme& c) {
     AgregarLinea(s, kCombustible, c.tipoCombustible);
     AgregarLinea(s, kFormulaQuimica, " C ", c.atomosC, "     H ", c.atomosH, "     N ", c.atomosN, "     O  ",
                  c.atomosO, "     S ", c.atomosS);
-    AgregarLinea(s, kPorcentajeEnMasa, kPorcientoC, c.cienC, kPorciento, "     ", kPorcientoH, c.cienH, kPorciento,
-                 "     ", kPorcientoN, c.cienN, kPorciento, "     ", kPorcientoO, c.cienO, kPorciento, "     ",
-                 kPorcientoS, c.cienS, kPorciento);
+    AgregarLinea(s, kPorcentajeEnMasa, kPorcientoC, c.cienC, kPorciento, "     ", kPorcientoH, c.cienH,
+                 kPorciento, "     ", kPorcientoN, c.cienN, kPorciento, "     ", kPorcientoO, c.cienO,
+                 kPorciento, "     ", kPorcientoS, c.cienS, kPorciento);
     AgregarLinea(s, kPoderSuperior, kIgual, c.hcs, kJPorKg);
     AgregarLinea(s, kPoderInferior, kIgual, c.hci, kJPorKg);
     AgregarLinea(s, kCalorVaporizacion, c.calorVap, kJPorKg);
@@ -270,8 +278,8 @@ void InformeTextoTotales(std::string& s, const CifrasInforme& c) {
     constexpr std::string_view kJHueco = " J   ";
     constexpr std::string_view kPorMolAire = " J / mol de aire";
     AgregarLinea(s);
-    AgregarLinea(s, "CALOR IDEAL QUE APORTARÍA EL COMBUSTIBLE AL CICLO = ", c.calorIdeal, kJHueco, c.calorIdealMolar,
-                 kPorMolAire);
+    AgregarLinea(s, "CALOR IDEAL QUE APORTARÍA EL COMBUSTIBLE AL CICLO = ", c.calorIdeal, kJHueco,
+                 c.calorIdealMolar, kPorMolAire);
     AgregarLinea(s, kCalorAportado, c.calorCiclo, kJHueco, c.calorCicloMolar, kPorMolAire);
     AgregarLinea(s, kTrabajoCiclo, c.trabajoCiclo, kJHueco, c.trabajoCicloMolar, kPorMolAire);
     // The last line of the report has no line end.

@@ -19,9 +19,9 @@ namespace vanta {
 // One state of the cycle as its pair of report lines shows it.
 struct CifrasEstadoCiclo {
     std::string presion, presionBar;
-    std::string volumen;         // c.c.
-    std::string volumenMasico;   // m3 / kg of comburent
-    std::string volumenMolar;    // m3 / mol of comburent
+    std::string volumen;        // c.c.
+    std::string volumenMasico;  // m3 / kg of comburent
+    std::string volumenMolar;   // m3 / mol of comburent
     std::string temperatura, temperaturaCelsius;
     std::string entalpia, entropia;
 };
