@@ -7,6 +7,9 @@
 #include <sstream>
 
 #include "fluids/AireHumedo.h"
+#include "fluids/Combustible.h"
+#include "fluids/Combustion.h"
+#include "services/Fallos.h"
 
 namespace vanta::cli {
 
@@ -51,10 +54,25 @@ const Opcion* BuscarOpcion(const std::string& nombre) {
     return nullptr;
 }
 
-size_t Campos(const std::string& lista) {
-    size_t n = 1;
-    for (char c : lista) n += c == ',';
-    return n;
+// The texts of a list of numbers separated by commas.
+std::vector<std::string> Separar(const std::string& lista) {
+    std::vector<std::string> campos(1);
+    for (char c : lista) {
+        if (c == ',')
+            campos.emplace_back();
+        else
+            campos.back() += c;
+    }
+    return campos;
+}
+
+size_t Campos(const std::string& lista) { return Separar(lista).size(); }
+
+std::string NombresCombustibles() {
+    std::string nombres;
+    for (const auto& combustible : kBibliotecaCombustibles)
+        nombres += (nombres.empty() ? "" : ", ") + std::string(combustible.nombre);
+    return nombres;
 }
 
 std::string Comprobar(const OpcionesCalcular& o) {
@@ -68,6 +86,11 @@ std::string Comprobar(const OpcionesCalcular& o) {
     const int definiciones = o.Tiene("combustible") + o.Tiene("formula") + o.Tiene("masa");
     if (definiciones > 1) return "--combustible, --formula y --masa se excluyen entre sí";
     if (o.Tiene("masa") && !o.Tiene("masa-molecular")) return "--masa necesita --masa-molecular";
+    if (o.Tiene("masa-molecular") && !o.Tiene("masa")) return "--masa-molecular va con --masa";
+    if (o.Tiene("entalpia-formacion") && !o.Tiene("formula") && !o.Tiene("masa"))
+        return "--entalpia-formacion va con --formula o --masa";
+    if (o.Tiene("combustible") && !BuscarCombustible(o.Valor("combustible")))
+        return "combustible desconocido: " + o.Valor("combustible") + " (los de la lista: " + NombresCombustibles() + ")";
     if (o.Tiene("fr") && o.Tiene("lambda")) return "--fr y --lambda se excluyen entre sí";
     if (o.Tiene("proporcion-vcte") && o.Tiene("pmax")) return "--proporcion-vcte y --pmax se excluyen entre sí";
     return {};
@@ -136,10 +159,62 @@ bool EtapaAire(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesC
     return CalcularAire(e, dlg, c) && !e.ErrorCalculo;
 }
 
+// The text the fuel list shows: the named fuel, or the user's own.
+std::string TextoListaCombustible(const OpcionesCalcular& o) {
+    return o.Tiene("formula") || o.Tiene("masa") ? std::string(kOtrosCombustibles) : o.Valor("combustible");
+}
+
+// The fuel screen: the list entry chosen; for the user's own fuel, the option
+// clicked, the boxes typed and CALCULAR pressed.
+bool EtapaCombustible(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s) {
+    PantallaCombustibleSimple p;
+    ControlesCombustible c = p.Controles(s.pct2);
+    p.cboTipCom.SetText(TextoListaCombustible(o));
+    cboTipCom_Click(e, dlg, c);
+    if (o.Tiene("formula")) {
+        optFOR_Click(c);
+        const auto n = Separar(o.Valor("formula"));
+        CajaTexto* cajas[] = {&p.txtMolC, &p.txtMolH, &p.txtMolN, &p.txtMolO, &p.txtMolS};
+        for (size_t i = 0; i < n.size(); ++i) cajas[i]->SetText(n[i]);
+    } else if (o.Tiene("masa")) {
+        optMasa_Click(c);
+        const auto n = Separar(o.Valor("masa"));
+        CajaTexto* cajas[] = {&p.txtC, &p.txtN, &p.txtO, &p.txtS};
+        for (size_t i = 0; i < n.size(); ++i) cajas[i]->SetText(n[i]);
+        p.txtmmComb.SetText(o.Valor("masa-molecular"));
+    }
+    if (o.Tiene("entalpia-formacion")) p.txtEntPro.SetText(o.Valor("entalpia-formacion"));
+    if (o.Tiene("formula") || o.Tiene("masa")) cmdCal_Click(e, dlg, c);
+    return !e.ErrorCalculo;
+}
+
+// The combustion screen: Fr typed with its option leading, or Lambda, whose
+// change puts Fr rounded to 3 decimals into txtFr; then CALCULAR.
+bool EtapaCombustion(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s) {
+    PantallaCombustionSimple p;
+    ControlesCombustion c = p.Controles(s.pct3);
+    FormGases_Load(e, c);
+    if (o.Tiene("lambda")) {
+        txtLambda_Click(c);
+        p.txtLambda.SetText(o.Valor("lambda"));
+        txtLambda_Change(e, dlg, c);
+        // A Lambda of 0 changes nothing on the screen; here it would leave Fr
+        // at the box's 1 without a word.
+        if (!e.ErrorCalculo && p.variables.Lambda == 0)
+            FalloAritmetico(e, dlg, "Lambda es cero y el dosado relativo Fr = 1/Lambda no existe");
+    } else {
+        txtFr_Click(c);
+        p.txtFr.SetText(o.Valor("fr"));
+        txtFr_Change(e, dlg, c);
+    }
+    if (e.ErrorCalculo) return false;
+    return CalcularHumos(e, dlg, c);
+}
+
 }  // namespace
 
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, std::ostream& out) {
-    const bool bien = EtapaAire(e, o, dlg, s);
+    const bool bien = EtapaAire(e, o, dlg, s) && EtapaCombustible(e, o, dlg, s) && EtapaCombustion(e, o, dlg, s);
     if (o.json) out << EstadoJSON(e) << '\n';
     return bien ? kSalidaBien : kSalidaFallo;
 }

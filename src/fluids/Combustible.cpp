@@ -37,20 +37,6 @@ bool Finitos(std::initializer_list<double> valores) {
     return true;
 }
 
-// Selecting an option as the logic does it: the option set, the other one of
-// its frame cleared, and its click.
-void SeleccionarFormula(ControlesCombustible& c) {
-    c.optFOR.SetValue(true);
-    c.optMasa.SetValue(false);
-    optFOR_Click(c);
-}
-
-void SeleccionarMasa(ControlesCombustible& c) {
-    c.optMasa.SetValue(true);
-    c.optFOR.SetValue(false);
-    optMasa_Click(c);
-}
-
 void GraficaYOcultar(Estado& e, ControlesCombustible& c) {
     GraficaCombustible(e, c.pct2, c.cboTipCom.Text());
     if (c.chkOcultar.Value()) c.ventana.Hide();
@@ -67,8 +53,17 @@ bool EsEntradaListaCombustible(std::string_view nombre) {
     return nombre == kOtrosCombustibles || BuscarCombustible(nombre) != nullptr;
 }
 
-void optFOR_Click(ControlesCombustible& c) { c.formulario.BloquearCajas(true); }
-void optMasa_Click(ControlesCombustible& c) { c.formulario.BloquearCajas(false); }
+void optFOR_Click(ControlesCombustible& c) {
+    c.optFOR.SetValue(true);
+    c.optMasa.SetValue(false);
+    c.formulario.BloquearCajas(true);
+}
+
+void optMasa_Click(ControlesCombustible& c) {
+    c.optMasa.SetValue(true);
+    c.optFOR.SetValue(false);
+    c.formulario.BloquearCajas(false);
+}
 
 void cboTipCom_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
     const std::string entrada = c.cboTipCom.Text();
@@ -80,7 +75,7 @@ void cboTipCom_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
     c.formulario.HabilitarEntradaPropia(otros);
     c.formulario.PonerTituloOtros(entrada);
     if (otros) {
-        SeleccionarMasa(c);
+        optMasa_Click(c);
         return;
     }
     c.txtEntPro.SetText(TextoGeneral(combustible->EntalpiaFormacion));
@@ -90,7 +85,7 @@ void cboTipCom_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
 
 void CombustibleTipo(Estado& e, Dialogos& dlg, ControlesCombustible& c, double C, double H, double N, double O,
                      double S) {
-    SeleccionarFormula(c);
+    optFOR_Click(c);
     c.txtMolC.SetText(TextoGeneral(C));
     c.txtMolH.SetText(TextoGeneral(H));
     c.txtMolN.SetText(TextoGeneral(N));

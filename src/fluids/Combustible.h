@@ -115,6 +115,30 @@ struct ControlesCombustible {
     FormularioCombustible& formulario;  // enabling, captions and locks of the screen
 };
 
+// Starting texts of the boxes that do not start empty.
+inline constexpr std::string_view kTextoInicialMasaMolecular = "0.1";
+inline constexpr std::string_view kTextoInicialEntalpia = "0";
+
+// The fuel screen with plain boxes at their starting texts, nothing chosen in
+// the list and neither option selected: the command line and the tests.
+struct PantallaCombustibleSimple {
+    CajaTextoSimple cboTipCom{std::string(kElijaCombustible)};
+    CajaTextoSimple txtC, txtN, txtO, txtS, txtH;
+    CajaTextoSimple txtMolC, txtMolH, txtMolN, txtMolO, txtMolS;
+    CajaTextoSimple txtmmComb{std::string(kTextoInicialMasaMolecular)};
+    CajaTextoSimple txtEntPro{std::string(kTextoInicialEntalpia)};
+    CajaTextoSimple txtHcs, txtHci, txtQvap;
+    InterruptorSimple optMasa, optFOR, chkOcultar{true};
+    VentanaSimple ventana;
+    FormularioCombustibleSimple formulario;
+
+    ControlesCombustible Controles(Superficie& pct2) {
+        return {cboTipCom, txtC,    txtN,    txtO,      txtS,      txtH,    txtMolC, txtMolH,
+                txtMolN,   txtMolO, txtMolS, txtmmComb, txtEntPro, txtHcs,  txtHci,  txtQvap,
+                optMasa,   optFOR,  chkOcultar, ventana, pct2,     formulario};
+    }
+};
+
 // ---- Events of the fuel screen --------------------------------------------------
 
 // An entry of the list chosen: a named fuel is loaded and calculated at once;
@@ -123,9 +147,9 @@ struct ControlesCombustible {
 void cboTipCom_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c);
 // The button CALCULAR: the user's fuel, by formula or by mass, with its checks.
 void cmdCal_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c);
-// The options clicked (by the user or by the logic): lock the boxes of the
-// other way of input. Connect them to the user's click only; the logic calls
-// them itself when it selects an option.
+// An option clicked: it is selected (the other one cleared) and the boxes of
+// the other way of input are locked. The logic calls them when it selects an
+// option itself.
 void optFOR_Click(ControlesCombustible& c);
 void optMasa_Click(ControlesCombustible& c);
 

@@ -6,6 +6,9 @@
 // left stays as O2. The screen is "Gases de combustión".
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "fluids/Combustible.h"
 #include "services/Puertos.h"
 #include "services/Superficie.h"
@@ -45,6 +48,22 @@ struct ControlesCombustion {
     Ventana& ventana;         // the screen, to hide
     Superficie& pct3;         // the gases chart of the main window
     VariablesCombustion& variables;  // the screen's own variables, owned by the caller
+};
+
+// Starting text of both boxes.
+inline constexpr std::string_view kTextoInicialDosado = "1";
+
+// The combustion screen with plain boxes at their starting texts and neither
+// option selected: the command line and the tests.
+struct PantallaCombustionSimple {
+    CajaTextoSimple txtFr{std::string(kTextoInicialDosado)}, txtLambda{std::string(kTextoInicialDosado)};
+    InterruptorSimple optFr, optLambda, chkOcultar{true};
+    VentanaSimple ventana;
+    VariablesCombustion variables;
+
+    ControlesCombustion Controles(Superficie& pct3) {
+        return {txtFr, txtLambda, optFr, optLambda, chkOcultar, ventana, pct3, variables};
+    }
 };
 
 // ---- Events of the combustion screen ------------------------------------------------

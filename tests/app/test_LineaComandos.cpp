@@ -85,3 +85,69 @@ TEST(LineaComandosTest, OptionsDefaultToWhatTheScreensStartWith) {
     EXPECT_EQ(p.opciones->Valor("combustible"), "Gasolina");
     EXPECT_EQ(p.opciones->Valor("ciclo"), "Otto");
 }
+
+TEST(LineaComandosTest, JsonCarriesTheFuelAndGasFigures) {
+    if (std::string(VANTA_BINARIO).empty()) GTEST_SKIP() << "sin binario";
+    const Salida gasoil = Ejecutar("calcular --json --combustible Gasoil --fr 0.8");
+    const Salida heptano = Ejecutar("calcular --json --formula 7,16,0,0,0 --entalpia-formacion -187800 --fr 1.1");
+    for (const Salida* s : {&gasoil, &heptano}) {
+        EXPECT_EQ(s->estado, 0) << s->err;
+        EXPECT_EQ(s->err, "");
+        for (const char* clave : {"\"MasaMolecularCombustible\":", "\"HCS\":", "\"HCI\":", "\"CienC\":", "\"Fe\":",
+                                  "\"xCO2Humos\":", "\"xN2Humos\":", "\"MasaMolecularHumos\":", "\"HCIhumos\":",
+                                  "\"ErrorCalculo\":0"})
+            EXPECT_NE(s->out.find(clave), std::string::npos) << clave;
+        EXPECT_EQ(s->out.find("null"), std::string::npos);
+    }
+    for (const char* clave : {"\"AtomosS\":0.032", "\"Fr\":0.8,", "\"xSHumos\":0,", "\"xCOHumos\":0,"})
+        EXPECT_NE(gasoil.out.find(clave), std::string::npos) << clave;
+    for (const char* clave : {"\"AtomosC\":7,", "\"AtomosH\":16,", "\"EntalpiaFormacion\":-187800,", "\"Fr\":1.1,"})
+        EXPECT_NE(heptano.out.find(clave), std::string::npos) << clave;
+    EXPECT_EQ(heptano.out.find("\"xCOHumos\":0,"), std::string::npos);  // rich: CO in the gases
+}
+
+TEST(LineaComandosTest, LambdaLeadsWithFrRoundedTo3Decimals) {
+    if (std::string(VANTA_BINARIO).empty()) GTEST_SKIP() << "sin binario";
+    const Salida s = Ejecutar("calcular --json --lambda 1,2 --masa 85,0,0,0 --masa-molecular 0.1");
+    EXPECT_EQ(s.estado, 0) << s.err;
+    EXPECT_NE(s.out.find("\"Fr\":0.833,"), std::string::npos);
+    EXPECT_NE(s.out.find("\"CienH\":15,"), std::string::npos);
+}
+
+TEST(LineaComandosTest, RefusedFuelOrMixtureEndsTheRunWithOne) {
+    if (std::string(VANTA_BINARIO).empty()) GTEST_SKIP() << "sin binario";
+    const struct {
+        const char* orden;
+        const char* mensaje;  // the first line of stderr
+    } casos[] = {
+        {"--masa 85,0,20,0 --masa-molecular 0.1",
+         "Las proporciones en masa de combustible superan el 100%, revise los valores"},
+        {"--formula 0,0,0,0,0", "Introduzca la proporciones de los componentes del combustible o su fórmula química"},
+        {"--formula 8,x,0,0,0", " Nº de moles de H no es un número"},
+        {"--fr 2", "Exceso de combustible-Cambie el dosado"},
+        {"--fr -1", "Fr no puede ser negativo"},
+        {"--lambda mucho", "Dosado relativo Lambdano es un número"},
+        {"--fr 0", "Error de cálculo: "},
+        {"--lambda 0", "Error de cálculo: "},
+    };
+    for (const auto& caso : casos) {
+        const Salida s = Ejecutar(std::string("calcular --json ") + caso.orden);
+        EXPECT_EQ(s.estado, 1) << caso.orden;
+        EXPECT_EQ(s.err.substr(0, s.err.find('\n')).rfind(caso.mensaje, 0), 0u) << caso.orden << ": " << s.err;
+        EXPECT_NE(s.out.find("\"ErrorCalculo\":-1"), std::string::npos) << caso.orden;
+        EXPECT_EQ(s.out.find("null"), std::string::npos) << caso.orden;
+    }
+}
+
+TEST(LineaComandosTest, FuelOptionsThatDoNotFitAreUsageErrors) {
+    if (std::string(VANTA_BINARIO).empty()) GTEST_SKIP() << "sin binario";
+    for (const char* malos : {"calcular --combustible Queroseno", "calcular --combustible \"Otros combustibles\"",
+                              "calcular --entalpia-formacion -1000", "calcular --masa-molecular 0.1"}) {
+        const Salida s = Ejecutar(malos);
+        EXPECT_EQ(s.estado, 2) << malos;
+        EXPECT_NE(s.err.find("Uso: vanta"), std::string::npos) << malos;
+    }
+    const auto p = vanta::cli::ParsearCalcular({"--combustible", "Queroseno"});
+    EXPECT_FALSE(p.opciones);
+    EXPECT_NE(p.error.find("Etanol, Gasolina, Gasoil, GLP-Etano, GLP-Butano, GLP-Propano, Metanol"), std::string::npos);
+}
