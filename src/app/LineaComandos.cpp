@@ -6,6 +6,8 @@
 #include <set>
 #include <sstream>
 
+#include "cycle/PantallaCiclo.h"
+#include "cycle/Transformaciones.h"
 #include "fluids/AireHumedo.h"
 #include "fluids/Combustible.h"
 #include "fluids/Combustion.h"
@@ -211,11 +213,79 @@ bool EtapaCombustion(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, Superf
     return CalcularHumos(e, dlg, c);
 }
 
+// Selects one of three options, as a click on it does.
+void Elegir(Interruptor& elegida, std::initializer_list<Interruptor*> todas) {
+    for (Interruptor* o : todas) o->SetValue(o == &elegida);
+}
+
+// The cycle window: the cycle chosen by its picture, the boxes typed, the
+// models and the Mixto option clicked, then CALCULAR.
+bool EtapaCiclo(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, VentanaPrincipal& v) {
+    PantallaCicloSimple p;
+    ControlesCiclo c = p.Controles();
+    FormCiclo_Load(e, c);
+    FormCiclo_Activate(e);
+    const std::string ciclo = o.Valor("ciclo");
+    if (ciclo == "Otto") imgOtto_Click(e, p.formulario);
+    if (ciclo == "Diesel") imgDiesel_Click(e, p.formulario);
+    if (ciclo == "Mixto") imgMixto_Click(e, p.formulario);
+
+    p.txtCilindrada.SetText(o.Valor("cilindrada"));
+    p.txtRc.SetText(o.Valor("rc"));
+    if (o.Tiene("p1")) p.txtP1.SetText(o.Valor("p1"));
+    if (o.Tiene("t1")) p.txtT1.SetText(o.Valor("t1"));
+
+    const std::string compresion = o.Valor("compresion"), expansion = o.Valor("expansion");
+    const auto modelo = [](const std::string& m) {
+        return m == "politropica" ? kModeloPolitropico : m == "variable" ? kModeloGammaVariable : kModeloGammaMedio;
+    };
+    Elegir(compresion == "politropica" ? p.optPolitropicaCom : compresion == "variable" ? p.optGvariable : p.optGmedioCom,
+           {&p.optPolitropicaCom, &p.optGvariable, &p.optGmedioCom});
+    ElegirModeloCompresion(e, modelo(compresion));
+    p.txt_nCom.SetText(o.Valor("n-compresion"));
+    Elegir(expansion == "politropica" ? p.optPolitropica : expansion == "variable" ? p.optGvariableExp : p.optGmedioExp,
+           {&p.optPolitropica, &p.optGvariableExp, &p.optGmedioExp});
+    ElegirModeloExpansion(e, modelo(expansion));
+    p.txt_nExp.SetText(o.Valor("n-expansion"));
+
+    if (o.Tiene("proporcion-vcte")) {
+        Elegir(p.optProporcion, {&p.optProporcion, &p.optPmax});
+        optProporcion_Click(e);
+        p.txtPropVcte.SetText(o.Valor("proporcion-vcte"));
+        txtPropVcte_Change(e, dlg, c);
+    } else if (ciclo == "Mixto") {
+        optPmax_Click(e);
+    }
+    p.txtPMax.SetText(o.Valor("pmax"));
+    if (e.ErrorCalculo) return false;
+    CalcularCiclo(e, dlg, c, s.diagramas, v);
+    return !e.ErrorCalculo;
+}
+
+// The power block of the main window at the speed given.
+void EscribirPotencia(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, const TextosResultados& r,
+                      std::ostream& out) {
+    CajaTextoSimple txtRpm(o.Valor("rpm")), txtPotencia, txtPotenciaCV;
+    txtRpm_Change(e, dlg, txtRpm, txtPotencia, txtPotenciaCV);
+    out << "r.p.m. = " << txtRpm.Text() << "\r\n"
+        << "Potencia = " << txtPotencia.Text() << " W = " << txtPotenciaCV.Text() << " CV\r\n"
+        << "Consumo = " << r.txtConsumoMJ << " g / MJ = " << r.txtConsumoKwh << " g / (kW·h)\r\n";
+}
+
 }  // namespace
 
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, std::ostream& out) {
-    const bool bien = EtapaAire(e, o, dlg, s) && EtapaCombustible(e, o, dlg, s) && EtapaCombustion(e, o, dlg, s);
-    if (o.json) out << EstadoJSON(e) << '\n';
+    VentanaPrincipalSimple v;
+    v.tipoCombustible = TextoListaCombustible(o);
+    const bool bien = EtapaAire(e, o, dlg, s) && EtapaCombustible(e, o, dlg, s) && EtapaCombustion(e, o, dlg, s) &&
+                      EtapaCiclo(e, o, dlg, s, v);
+    if (o.json) {
+        out << EstadoJSON(e) << '\n';
+    } else if (bien) {
+        // The report as the program keeps it, CR LF, closed by one more line end.
+        out << v.informe << "\r\n";
+        if (o.Tiene("rpm")) EscribirPotencia(e, o, dlg, v.resultados, out);
+    }
     return bien ? kSalidaBien : kSalidaFallo;
 }
 

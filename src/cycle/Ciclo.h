@@ -115,6 +115,9 @@ void txtPropVcte_Change(Estado& e, Dialogos& dlg, ControlesCiclo& c);
 // keeps the results; the closing figures, the text report and the labels.
 void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, VentanaPrincipal& v);
 
+// The texts of the result labels from the state, with their masks.
+TextosResultados TextosDeResultados(const Estado& e);
+
 // The power boxes, when the text of txtRpm changes.
 void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPotencia, CajaTexto& txtPotenciaCV);
 
