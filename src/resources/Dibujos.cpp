@@ -17,7 +17,10 @@
 #include "resources/Programa.h"
 
 #ifndef VANTA_DIR_AYUDA_INSTALADA
-#define VANTA_DIR_AYUDA_INSTALADA "/usr/share/vanta/ayuda"
+#define VANTA_DIR_AYUDA_INSTALADA "/usr/local/share/vanta/ayuda"
+#endif
+#ifndef VANTA_AYUDA_RELATIVA
+#define VANTA_AYUDA_RELATIVA "../share/vanta/ayuda"
 #endif
 
 namespace vanta {
@@ -644,19 +647,22 @@ QIcon IconoVanta() {
 
 // ---- Help ------------------------------------------------------------------------
 
-QString RutaAyuda() {
+QString RutaAyudaDesde(const QString& carpetaPrograma) {
     const QString indice = QStringLiteral("Index.htm");
-    const QString programa = QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QString();
-    if (!programa.isEmpty()) {
-        const QDir dir(programa);
+    if (!carpetaPrograma.isEmpty()) {
+        const QDir dir(carpetaPrograma);
         // The build tree keeps the pages beside the program; an installed
         // program finds them under its prefix.
-        for (const QString& candidata :
-             {dir.filePath(QStringLiteral("ayuda/") + indice), dir.filePath(QStringLiteral("../share/vanta/ayuda/") + indice)}) {
+        for (const QString& candidata : {dir.filePath(QStringLiteral("ayuda/") + indice),
+                                         dir.filePath(QStringLiteral(VANTA_AYUDA_RELATIVA "/") + indice)}) {
             if (QFileInfo::exists(candidata)) return QDir::cleanPath(candidata);
         }
     }
     return QDir(QStringLiteral(VANTA_DIR_AYUDA_INSTALADA)).filePath(indice);
+}
+
+QString RutaAyuda() {
+    return RutaAyudaDesde(QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QString());
 }
 
 }  // namespace vanta

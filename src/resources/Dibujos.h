@@ -41,5 +41,7 @@ QIcon IconoVanta();
 // neither exists, the installed path all the same: the browser shows what it
 // finds.
 QString RutaAyuda();
+// The same search from a given program folder.
+QString RutaAyudaDesde(const QString& carpetaPrograma);
 
 }  // namespace vanta
