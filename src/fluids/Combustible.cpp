@@ -31,12 +31,6 @@ void CeroSiVacia(std::initializer_list<CajaTexto*> cajas) {
 
 void Mostrar(CajaTexto& caja, double x, int decimales) { caja.SetText(TextoGeneral(Round(x, decimales))); }
 
-bool Finitos(std::initializer_list<double> valores) {
-    for (double v : valores)
-        if (!std::isfinite(v)) return false;
-    return true;
-}
-
 void GraficaYOcultar(Estado& e, ControlesCombustible& c) {
     GraficaCombustible(e, c.pct2, c.cboTipCom.Text());
     if (c.chkOcultar.Value()) c.ventana.Hide();
@@ -118,7 +112,7 @@ void CalCien(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
         }
         const double cC = mC * 100 / masa, cH = mH * 100 / masa, cN = mN * 100 / masa, cO = mO * 100 / masa,
                      cS = mS * 100 / masa;
-        if (!Finitos({masa, cC, cH, cN, cO, cS})) {
+        if (!SonFinitos({masa, cC, cH, cN, cO, cS})) {
             FalloAritmetico(e, dlg, kCausaFueraDeRango);
             return;
         }
@@ -154,7 +148,7 @@ void CalAto(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
     const double aC = e.CienC * 0.01 * masa / kMasaAtomicaC, aH = e.CienH * 0.01 * masa / kMasaAtomicaH,
                  aN = e.CienN * 0.01 * masa / kMasaAtomicaN, aO = e.CienO * 0.01 * masa / kMasaAtomicaO,
                  aS = e.CienS * 0.01 * masa / kMasaAtomicaS;
-    if (!Finitos({aC, aH, aN, aO, aS})) {
+    if (!SonFinitos({aC, aH, aN, aO, aS})) {
         FalloAritmetico(e, dlg, kCausaFueraDeRango);
         return;
     }
@@ -179,7 +173,7 @@ bool Calcular(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
     const double hcs = (entalpiaProductos - e.EntalpiaFormacion) / (-e.MasaMolecularCombustible);
     const double calorVap = (e.AtomosH * 0.5 * (-kCalorVaporizacionH2O)) / (-e.MasaMolecularCombustible);
     const double hci = hcs - calorVap;
-    if (!Finitos({hcs, calorVap, hci})) {
+    if (!SonFinitos({hcs, calorVap, hci})) {
         FalloAritmetico(e, dlg, kCausaFueraDeRango);
         return false;
     }

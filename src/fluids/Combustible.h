@@ -5,7 +5,9 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -28,6 +30,13 @@ inline constexpr double kEntalpiaFormacionCO2 = -391904.0;
 inline constexpr double kEntalpiaFormacionCO = -110074.0;
 inline constexpr double kEntalpiaFormacionH2O = -286021.0;
 inline constexpr double kCalorVaporizacionH2O = 44037.0;
+
+// Whether every value is a finite number: results are written only then.
+inline bool SonFinitos(std::initializer_list<double> valores) {
+    for (double v : valores)
+        if (!std::isfinite(v)) return false;
+    return true;
+}
 
 // A named fuel of the list: its formula and enthalpy of formation (J/mol).
 struct CombustibleDeLista {

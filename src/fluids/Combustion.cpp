@@ -27,12 +27,6 @@ constexpr std::string_view kCausaInversoInfinito =
 constexpr std::string_view kCausaFueraDeRango =
     "la composición de los gases sale del intervalo de los números del programa";
 
-bool Finitos(std::initializer_list<double> valores) {
-    for (double v : valores)
-        if (!std::isfinite(v)) return false;
-    return true;
-}
-
 // Why the air per mole of fuel cannot be found, or empty when it can.
 std::string_view CausaSinAire(const Estado& e) {
     if (!(e.MasaMolecularCombustible > 0)) return kCausaSinCombustible;
@@ -107,7 +101,7 @@ bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
         const double fe = e.MasaMolecularCombustible / (o2 * kMasaMolecularO2 + n2 * kMasaMolecularN2 +
                                                         ar * kMasaMolecularAr + co2 * kMasaMolecularCO2 +
                                                         h2o * kMasaMolecularH2O);
-        if (Finitos({n2, o2, ar, co2, h2o, fe})) {
+        if (SonFinitos({n2, o2, ar, co2, h2o, fe})) {
             e.MolesN2Aire = n2, e.MolesO2Aire = o2, e.MolesArAire = ar, e.MolesCO2Aire = co2, e.MolesH2OAire = h2o;
             e.Fe = fe;
         } else {
@@ -183,7 +177,7 @@ bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
     const double entalpiaReaccion = entalpiaProductos - e.EntalpiaFormacion;
     const double hcs = -entalpiaReaccion / e.MasaMolecularCombustible;
     const double hci = (w * (-kCalorVaporizacionH2O)) / (Fr * e.MasaMolecularCombustible) + hcs;
-    if (!Finitos({d.nCO, d.nCO2, d.nS, d.nSO2, d.OxigenoSobrante, xH2O, xCO, xCO2, xSO2, xS, xN2, xAr, xO2,
+    if (!SonFinitos({d.nCO, d.nCO2, d.nS, d.nSO2, d.OxigenoSobrante, xH2O, xCO, xCO2, xSO2, xS, xN2, xAr, xO2,
                   masaHumos, entalpiaProductos, entalpiaReaccion, hcs, hci})) {
         FalloAritmetico(e, dlg, kCausaFueraDeRango);
         return false;
