@@ -1,3 +1,7 @@
+list(APPEND VANTA_GUI_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/Controles.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frmFase1.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frmFase1Distribucion.cpp)
 # The about and bibliography windows.
 list(APPEND VANTA_GUI_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/frmAcercaDe.cpp

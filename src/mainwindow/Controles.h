@@ -1,0 +1,24 @@
+// Making the controls of the windows: each gets the program's name as its
+// object name (the window tests find it by that name) and its caption.
+#pragma once
+
+#include <QString>
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QWidget;
+
+namespace vanta {
+
+QLabel* NuevaEtiqueta(QWidget* padre, const char* nombre, const char* texto);
+QLineEdit* NuevaCaja(QWidget* padre, const char* nombre, const char* texto, bool soloLectura = false);
+QGroupBox* NuevoMarco(QWidget* padre, const char* nombre, const char* titulo = "");
+QCheckBox* NuevaCasilla(QWidget* padre, const char* nombre, const char* texto, bool marcada);
+QPushButton* NuevoBoton(QWidget* padre, const char* nombre, const char* texto);
+QRadioButton* NuevaOpcion(QWidget* padre, const char* nombre, const char* texto);
+
+}  // namespace vanta
