@@ -57,7 +57,7 @@ QColor ConAlfa(QColor c, int alfa) {
 
 // The largest side, in device pixels, that a picture may have: a wrong size
 // gives a smaller picture, never a failed allocation.
-constexpr int kLadoMaximo = 8192;
+constexpr int kLadoMaximo = 4096;
 
 // An empty transparent pixmap of `tamano` logical pixels at `dpr`, or a null
 // pixmap when there is no application to paint with.
