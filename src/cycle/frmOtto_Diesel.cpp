@@ -270,6 +270,10 @@ void frmOtto_Diesel::Distribuir() {
     opcion->addWidget(txtPMax_, 3, 1);
     opcion->addWidget(lblPaPmax_, 3, 2);
 
+    // The boxes of the mean exponents hold their starting caption whole.
+    for (QLineEdit* c : {txtGammaMedioComp_, txtGMedioExp_})
+        c->setMinimumWidth(c->fontMetrics().horizontalAdvance(c->text()) + 16);
+
     auto modelos = [](QGroupBox* marco, QRadioButton* variable, QRadioButton* medio, QLineEdit* gamma,
                       QRadioButton* politropica, QLabel* n, QLineEdit* exponente) {
         auto* r = new QGridLayout(marco);

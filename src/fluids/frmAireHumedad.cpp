@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -52,10 +53,13 @@ frmAireHumedad::frmAireHumedad(Estado& e, Dialogos& dlg, Superficie& pct1, QWidg
     rejilla->addWidget(txtHum_, 2, 1);
     rejilla->addWidget(Label2_, 2, 2);
 
+    auto* abajo = new QHBoxLayout;
+    abajo->addWidget(chkOcultar_);
+    abajo->addStretch(1);
+    abajo->addWidget(cmdCal_);
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(Frame1_);
-    columna->addWidget(chkOcultar_);
-    columna->addWidget(cmdCal_);
+    columna->addLayout(abajo);
     connect(cmdCal_, &QPushButton::clicked, this, &frmAireHumedad::cmdCal_Click);
 }
 

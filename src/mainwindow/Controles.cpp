@@ -1,6 +1,7 @@
 #include "mainwindow/Controles.h"
 
 #include <QCheckBox>
+#include <QFontMetrics>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -47,6 +48,14 @@ QPushButton* NuevoBoton(QWidget* padre, const char* nombre, const char* texto) {
 
 QRadioButton* NuevaOpcion(QWidget* padre, const char* nombre, const char* texto) {
     return Nombrar(new QRadioButton(QString::fromUtf8(texto), padre), nombre);
+}
+
+void AjustarLetra(QWidget* control, const QString& texto, int ancho) {
+    constexpr qreal kPuntosMinimos = 6.0;
+    QFont letra = control->parentWidget() ? control->parentWidget()->font() : control->font();
+    while (QFontMetrics(letra).horizontalAdvance(texto) > ancho && letra.pointSizeF() > kPuntosMinimos)
+        letra.setPointSizeF(letra.pointSizeF() - 0.5);
+    control->setFont(letra);
 }
 
 }  // namespace vanta

@@ -21,4 +21,9 @@ QCheckBox* NuevaCasilla(QWidget* padre, const char* nombre, const char* texto, b
 QPushButton* NuevoBoton(QWidget* padre, const char* nombre, const char* texto);
 QRadioButton* NuevaOpcion(QWidget* padre, const char* nombre, const char* texto);
 
+// Makes the control's own letter smaller, never below a legible size, until
+// its caption fits the width given (pixels). The windows keep their fonts;
+// only a caption longer than its place in the design shrinks.
+void AjustarLetra(QWidget* control, const QString& texto, int ancho);
+
 }  // namespace vanta

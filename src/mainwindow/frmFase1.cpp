@@ -20,6 +20,8 @@
 #include "fluids/frmGasesCombustion.h"
 #include "resources/Dibujos.h"
 #include "mainwindow/Controles.h"
+#include "mainwindow/frmAcercaDe.h"
+#include "mainwindow/frmBibliografia.h"
 #include "resources/Programa.h"
 
 namespace vanta {
@@ -516,8 +518,7 @@ void frmFase1::mnuTablas_Click() {
 
 void frmFase1::mnuAyuda2_Click() { AbrirAyuda(); }
 
-// The about window comes with the program's resources.
-void frmFase1::mnuAcercaDe_Click() {}
+void frmFase1::mnuAcercaDe_Click() { MostrarAcercaDe(this); }
 
 void frmFase1::AbrirAyuda() {
     // No test that the pages are there: the browser shows what it finds.

@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 
+#include "mainwindow/Controles.h"
 #include "mainwindow/frmFase1.h"
 #include "resources/Dibujos.h"
 
@@ -123,6 +124,9 @@ void frmFase1::CambiarTamaño() {
     Colocar(cmdEnvBaseDatos_, kCmdEnvBaseDatos, W, H);
     Colocar(chkVerHs_, kChkVerHs, W, H);
     Colocar(fraEstadoActual_, kFraEstadoActual, W, H);
+    // Room for the caption inside the button's frame.
+    constexpr int kMargenBoton = 12;
+    for (QPushButton* b : {cmdInforme_, cmdEnvBaseDatos_}) AjustarLetra(b, b->text(), b->width() - kMargenBoton);
     DistribuirEstadoActual();
 }
 
@@ -130,6 +134,9 @@ void frmFase1::DistribuirPuntos() {
     const double w = fraPuntos_->width(), h = fraPuntos_->height();
     const int alto = fraPuntos_->fontMetrics().height();
     for (int c = 0; c < 5; ++c) {
+        // A head ends at the frame's edge.
+        const int hasta = qRound(w) - qRound(kPuntosCabezaIzquierda[c] * w) - 2;
+        AjustarLetra(cabezaPuntos_[c], cabezaPuntos_[c]->text(), hasta);
         cabezaPuntos_[c]->adjustSize();
         cabezaPuntos_[c]->move(qRound(kPuntosCabezaIzquierda[c] * w), qRound(kPuntosCabezaArriba * h));
         for (int f = 0; f < 5; ++f)

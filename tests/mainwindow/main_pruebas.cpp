@@ -2,6 +2,7 @@
 // library's point and the program's separator pinned to '.'.
 #include <QApplication>
 #include <QTest>
+#include <algorithm>
 #include <clocale>
 #include <memory>
 
@@ -22,10 +23,22 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(vanta::NombrePrograma());
     std::setlocale(LC_NUMERIC, "C");
     vanta::FijarSeparadorDecimal('.');
+    std::vector<std::unique_ptr<QObject>> pruebas;
+    for (const auto& fabrica : vanta::pruebas::Registro()) pruebas.emplace_back(fabrica());
+    // A first argument that names a test class runs that class alone, with
+    // the arguments that follow it.
+    const QString clase = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    auto esLaClase = [&](const std::unique_ptr<QObject>& p) {
+        return clase == QLatin1String(p->metaObject()->className());
+    };
+    const bool unaClase = std::any_of(pruebas.begin(), pruebas.end(), esLaClase);
+    if (unaClase) argv[1] = argv[0];
     int fallos = 0;
-    for (const auto& fabrica : vanta::pruebas::Registro()) {
-        std::unique_ptr<QObject> prueba(fabrica());
-        fallos += QTest::qExec(prueba.get(), argc, argv);
+    for (const auto& prueba : pruebas) {
+        if (!unaClase)
+            fallos += QTest::qExec(prueba.get(), argc, argv);
+        else if (esLaClase(prueba))
+            fallos += QTest::qExec(prueba.get(), argc - 1, argv + 1);
     }
     return fallos == 0 ? 0 : 1;
 }
