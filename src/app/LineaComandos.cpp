@@ -161,11 +161,6 @@ bool EtapaAire(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesC
     return CalcularAire(e, dlg, c) && !e.ErrorCalculo;
 }
 
-// The text the fuel list shows: the named fuel, or the user's own.
-std::string TextoListaCombustible(const OpcionesCalcular& o) {
-    return o.Tiene("formula") || o.Tiene("masa") ? std::string(kOtrosCombustibles) : o.Valor("combustible");
-}
-
 // The fuel screen: the list entry chosen; for the user's own fuel, the option
 // clicked, the boxes typed and CALCULAR pressed.
 bool EtapaCombustible(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s) {
@@ -274,11 +269,19 @@ void EscribirPotencia(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, const
 
 }  // namespace
 
+std::string TextoListaCombustible(const OpcionesCalcular& o) {
+    return o.Tiene("formula") || o.Tiene("masa") ? std::string(kOtrosCombustibles) : o.Valor("combustible");
+}
+
+bool DefinirFluido(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, bool conGases) {
+    if (!EtapaAire(e, o, dlg, s)) return false;
+    return !conGases || (EtapaCombustible(e, o, dlg, s) && EtapaCombustion(e, o, dlg, s));
+}
+
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, std::ostream& out) {
     VentanaPrincipalSimple v;
     v.tipoCombustible = TextoListaCombustible(o);
-    const bool bien = EtapaAire(e, o, dlg, s) && EtapaCombustible(e, o, dlg, s) && EtapaCombustion(e, o, dlg, s) &&
-                      EtapaCiclo(e, o, dlg, s, v);
+    const bool bien = DefinirFluido(e, o, dlg, s, true) && EtapaCiclo(e, o, dlg, s, v);
     if (o.json) {
         out << EstadoJSON(e) << '\n';
     } else if (bien) {

@@ -47,6 +47,13 @@ struct SuperficiesCalculo {
     Diagramas diagramas;
 };
 
+// The first stages of the run, as the screens run them: the air, then, with
+// conGases, the fuel and the combustion. False when a stage failed.
+bool DefinirFluido(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, bool conGases);
+
+// The text the fuel list shows: the named fuel, or the user's own.
+std::string TextoListaCombustible(const OpcionesCalcular& o);
+
 // Runs the stages in order; writes the report (or the JSON) on out and returns
 // the exit status. Messages go through dlg.
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, std::ostream& out);

@@ -1,0 +1,174 @@
+#include "app/LineaTablas.h"
+
+#include <ostream>
+
+#include "app/LineaComandos.h"
+#include "properties/Especies.h"
+#include "tables/TablasPropiedades.h"
+
+namespace vanta::cli {
+
+namespace {
+
+constexpr const char* kFluidoAire = "aire";
+constexpr const char* kFluidoHumos = "humos";
+constexpr const char* kPorMol = "mol";
+constexpr const char* kPorKg = "kg";
+
+// The tool's own options, with what the window starts with.
+struct OpcionesTablas {
+    std::string fluido = kFluidoAire;
+    std::string por = kPorMol;
+    std::string desde = kTextoTinicial;
+    std::string hasta = kTextoTfinal;
+    std::string paso = kTextoIncremento;
+    OpcionesCalcular fluidoDefinido;  // the options of the air, the fuel and the combustion
+};
+
+// The options of `calcular` that define the fluid; the cycle's have no place
+// in a table.
+const char* const kOpcionesFluido[] = {"presion-ambiente", "temperatura-ambiente", "humedad", "combustible",
+                                       "formula", "masa", "masa-molecular", "entalpia-formacion", "fr", "lambda"};
+
+bool EsOpcionFluido(const std::string& nombre) {
+    for (const char* o : kOpcionesFluido)
+        if (nombre == o) return true;
+    return false;
+}
+
+bool EsEspecie(const std::string& fluido) {
+    for (const char* s : kNombresEspecies)
+        if (fluido == s) return true;
+    return false;
+}
+
+// Why the words are off, or empty.
+std::string Parsear(const std::vector<std::string>& argumentos, OpcionesTablas& o) {
+    std::vector<std::string> delFluido;
+    for (size_t i = 0; i < argumentos.size(); ++i) {
+        const std::string& a = argumentos[i];
+        if (a.rfind("--", 0) != 0) return "argumento inesperado: " + a;
+        const std::string nombre = a.substr(2);
+        std::string* propia = nombre == "fluido"  ? &o.fluido
+                              : nombre == "por"   ? &o.por
+                              : nombre == "desde" ? &o.desde
+                              : nombre == "hasta" ? &o.hasta
+                              : nombre == "paso"  ? &o.paso
+                                                  : nullptr;
+        if (!propia && !EsOpcionFluido(nombre)) return "opción desconocida: " + a;
+        if (i + 1 >= argumentos.size()) return "falta el valor de " + a;
+        if (propia) {
+            *propia = argumentos[++i];
+        } else {
+            delFluido.push_back(a);
+            delFluido.push_back(argumentos[++i]);
+        }
+    }
+    if (o.fluido != kFluidoAire && o.fluido != kFluidoHumos && !EsEspecie(o.fluido))
+        return "fluido desconocido: " + o.fluido;
+    if (o.por != kPorMol && o.por != kPorKg) return "--por es mol o kg, no " + o.por;
+    Parseo p = ParsearCalcular(delFluido);
+    if (!p.opciones) return p.error;
+    o.fluidoDefinido = *p.opciones;
+    return {};
+}
+
+// Messages one a line on the stream of errors.
+class DialogosFlujo : public Dialogos {
+public:
+    explicit DialogosFlujo(std::ostream& err) : err_(err) {}
+    void MsgBox(std::string_view mensaje) override {
+        ++cuenta;
+        err_ << mensaje << '\n';
+    }
+    std::string InputBox(std::string_view, std::string_view porDefecto) override { return std::string(porDefecto); }
+    int cuenta = 0;
+
+private:
+    std::ostream& err_;
+};
+
+// The viewer on standard output. The text goes out in blocks as rows arrive,
+// so that a long table needs no memory; what comes before the rows is held
+// back, so that a refused number or range leaves nothing on the output.
+class VisorFlujo : public VisorTablas {
+public:
+    explicit VisorFlujo(std::ostream& out) : out_(out) {}
+    void Mostrar() override { visible_ = true; }
+    void Ocultar() override {
+        visible_ = false;
+        pendiente_.clear();
+    }
+    void PonerTexto(std::string_view t) override { pendiente_ = t; }
+    void Anadir(std::string_view pieza) override {
+        pendiente_ += pieza;
+        if (pendiente_.size() >= kBloque) Vaciar();
+    }
+    // The rest of the text, closed by one more line end.
+    void Terminar() {
+        if (!visible_) return;
+        pendiente_ += "\r\n";
+        Vaciar();
+    }
+
+private:
+    static constexpr size_t kBloque = 1 << 16;
+    void Vaciar() {
+        out_ << pendiente_;
+        pendiente_.clear();
+    }
+    std::ostream& out_;
+    std::string pendiente_;
+    bool visible_ = false;
+};
+
+}  // namespace
+
+std::string TextoUsoTablas() {
+    return "Uso: vanta tablas [opciones]   las tablas de propiedades como texto\n"
+           "  --fluido aire|humos|Ar|CO|CO2|H2O|N2|O2 (aire)   el comburente, los gases de combustión o una especie\n"
+           "  --por mol|kg (mol)               resultados por mol o por kilogramo\n"
+           "  --desde K (300)  --hasta K (5000)  --paso K (100)\n"
+           "El fluido se define con las opciones de calcular:\n"
+           "  --presion-ambiente PA (100000)  --temperatura-ambiente K (300)  --humedad PCT (0)\n"
+           "  --combustible NOMBRE (Gasolina) | --formula C,H,N,O,S --entalpia-formacion J_MOL\n"
+           "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion J_MOL\n"
+           "  --fr X (1) | --lambda X\n"
+           "Los números se escriben como en las casillas: \"0,5\" y \"0.5\" valen lo mismo.\n";
+}
+
+int EjecutarTablas(const std::vector<std::string>& argumentos, std::ostream& out, std::ostream& err) {
+    if (argumentos.size() == 1 && (argumentos[0] == "--help" || argumentos[0] == "-h")) {
+        out << TextoUsoTablas();
+        return kSalidaBien;
+    }
+    OpcionesTablas o;
+    if (std::string error = Parsear(argumentos, o); !error.empty()) {
+        err << "vanta tablas: " << error << "\n\n" << TextoUsoTablas();
+        return kSalidaUso;
+    }
+
+    Estado e;
+    DialogosFlujo dlg(err);
+    const bool aire = o.fluido == kFluidoAire, humos = o.fluido == kFluidoHumos;
+    if (aire || humos) {
+        SuperficieNula pct1, pct2, pct3;
+        DiagramasNulos diagramas;
+        SuperficiesCalculo s{pct1, pct2, pct3, diagramas.Todos()};
+        if (!DefinirFluido(e, o.fluidoDefinido, dlg, s, humos)) return kSalidaFallo;
+    }
+
+    CajaTextoSimple txtAT(o.paso), txtTinicial(o.desde), txtTfinal(o.hasta);
+    CajaTextoSimple cboElemento(aire || humos ? kTextoElegir : o.fluido);
+    InterruptorSimple optMol(o.por == kPorMol), optKg(o.por == kPorKg), optAire(aire), optHumos(humos);
+    ControlesHerramientas c{txtAT, txtTinicial, txtTfinal, optMol, optKg, optAire, optHumos, cboElemento};
+    MiembrosHerramientas m;
+    VisorFlujo visor(out);
+    const bool bien = aire || humos
+                          ? cmdTablas_Click(e, dlg, c, m, visor, TextoListaCombustible(o.fluidoDefinido))
+                          : cmdTab_Click(e, dlg, c, m, visor);
+    visor.Terminar();
+    return bien && !e.ErrorCalculo && dlg.cuenta == 0 ? kSalidaBien : kSalidaFallo;
+}
+
+}  // namespace vanta::cli

@@ -1,0 +1,1 @@
+list(APPEND VANTA_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/TablasPropiedades.cpp)

@@ -1,0 +1,2 @@
+list(APPEND VANTA_CORE_TESTS
+  ${CMAKE_CURRENT_LIST_DIR}/test_TablasPropiedades.cpp)
