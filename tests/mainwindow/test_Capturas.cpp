@@ -34,7 +34,6 @@ private slots:
         Guardar(p.f.AireHumedad(), "aire.png");
         QVERIFY(p.Pulsar(Hijo<QPushButton>(p.f.AireHumedad(), "cmdCal")));
         QVERIFY(p.Pulsar("cmdCombustible"));
-        Guardar(p.f.Combustible(), "combustible-inicio.png");
         Programa::ElegirCombustible(p.f.Combustible(), QStringLiteral("Gasolina"));
         QVERIFY(p.Pulsar("cmdCarCombustion"));
         Guardar(p.f.GasesCombustion(), "gases.png");
