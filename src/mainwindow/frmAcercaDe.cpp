@@ -83,8 +83,9 @@ frmAcercaDe::frmAcercaDe(QWidget* padre) : QDialog(padre) {
                                  .arg(LicenciaPrograma(), QString::fromUtf8(kAviso)),
                              this);
     licencia->setObjectName(QStringLiteral("lblLicencia"));
-    auto* qt = new QLabel(
-        QStringLiteral("Construido con Qt %1; en uso, Qt %2.").arg(QStringLiteral(QT_VERSION_STR), qVersion()), this);
+    auto* qt = new QLabel(QStringLiteral("Construido con Qt %1; en uso, Qt %2.")
+                              .arg(QStringLiteral(QT_VERSION_STR), qVersion()),
+                          this);
 
     auto* botones = new QDialogButtonBox(this);
     cmdBibliografia_ = botones->addButton(QStringLiteral("&Bibliografía"), QDialogButtonBox::ActionRole);
@@ -117,7 +118,8 @@ void frmAcercaDe::cmdBibliografia_Click() {
 }
 
 frmAcercaDe* MostrarAcercaDe(QWidget* padre) {
-    frmAcercaDe* ventana = padre ? padre->findChild<frmAcercaDe*>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
+    frmAcercaDe* ventana =
+        padre ? padre->findChild<frmAcercaDe*>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
     if (!ventana) {
         ventana = new frmAcercaDe(padre);
         if (!padre) ventana->setAttribute(Qt::WA_DeleteOnClose);

@@ -16,21 +16,23 @@ const std::vector<Libro>& Bibliografia() {
         {QStringLiteral("Internal Combustion Engine Fundamentals"), QStringLiteral("John B. Heywood"),
          QStringLiteral("McGraw-Hill"), 1988, QStringLiteral("1.ª"), QStringLiteral("0-07-028637-X")},
         {QStringLiteral("Internal Combustion Engine Fundamentals"), QStringLiteral("John B. Heywood"),
-         QStringLiteral("McGraw-Hill Education"), 2018, QStringLiteral("2.ª"), QStringLiteral("978-1-260-11610-6")},
+         QStringLiteral("McGraw-Hill Education"), 2018, QStringLiteral("2.ª"),
+         QStringLiteral("978-1-260-11610-6")},
         {QStringLiteral("Motores de combustión interna alternativos"),
          QStringLiteral("F. Payri y J. M. Desantes (coordinadores)"),
-         QStringLiteral("Reverté; Editorial Universitat Politècnica de València"), 2011, QStringLiteral("1.ª"),
-         QString()},
+         QStringLiteral("Reverté; Editorial Universitat Politècnica de València"), 2011,
+         QStringLiteral("1.ª"), QString()},
         {QStringLiteral("The Internal-Combustion Engine in Theory and Practice (2 vols.)"),
          QStringLiteral("Charles Fayette Taylor"), QStringLiteral("The MIT Press"), 1985,
          QStringLiteral("2.ª, revisada"), QString()},
         {QStringLiteral("Internal Combustion Engines and Air Pollution"), QStringLiteral("Edward F. Obert"),
          QStringLiteral("Intext Educational Publishers"), 1973, QStringLiteral("3.ª"), QString()},
-        {QStringLiteral("Internal Combustion Engines: Applied Thermosciences"), QStringLiteral("Colin R. Ferguson"),
-         QStringLiteral("John Wiley & Sons"), 1986, QStringLiteral("1.ª"), QStringLiteral("0-471-88129-5")},
         {QStringLiteral("Internal Combustion Engines: Applied Thermosciences"),
-         QStringLiteral("Colin R. Ferguson y Allan T. Kirkpatrick"), QStringLiteral("John Wiley & Sons"), 2016,
-         QStringLiteral("3.ª"), QStringLiteral("978-1-118-53331-4")},
+         QStringLiteral("Colin R. Ferguson"), QStringLiteral("John Wiley & Sons"), 1986,
+         QStringLiteral("1.ª"), QStringLiteral("0-471-88129-5")},
+        {QStringLiteral("Internal Combustion Engines: Applied Thermosciences"),
+         QStringLiteral("Colin R. Ferguson y Allan T. Kirkpatrick"), QStringLiteral("John Wiley & Sons"),
+         2016, QStringLiteral("3.ª"), QStringLiteral("978-1-118-53331-4")},
         {QStringLiteral("Introduction to Internal Combustion Engines"), QStringLiteral("Richard Stone"),
          QStringLiteral("Palgrave Macmillan"), 2012, QStringLiteral("4.ª"), QString()},
         {QStringLiteral("Engineering Fundamentals of the Internal Combustion Engine"),
@@ -38,10 +40,12 @@ const std::vector<Libro>& Bibliografia() {
          QString()},
         {QStringLiteral("Termodinámica"), QStringLiteral("Yunus A. Çengel y Michael A. Boles"),
          QStringLiteral("McGraw-Hill Education"), 2015, QStringLiteral("8.ª"), QString()},
-        {QStringLiteral("Thermodynamics: An Engineering Approach"), QStringLiteral("Yunus A. Çengel y Michael A. Boles"),
-         QStringLiteral("McGraw-Hill Education"), 2015, QStringLiteral("8.ª"), QStringLiteral("978-0-07-339817-4")},
-        {QStringLiteral("Fundamentos de termodinámica técnica"), QStringLiteral("Michael J. Moran y Howard N. Shapiro"),
-         QStringLiteral("Reverté"), 2004, QStringLiteral("2.ª"), QString()},
+        {QStringLiteral("Thermodynamics: An Engineering Approach"),
+         QStringLiteral("Yunus A. Çengel y Michael A. Boles"), QStringLiteral("McGraw-Hill Education"), 2015,
+         QStringLiteral("8.ª"), QStringLiteral("978-0-07-339817-4")},
+        {QStringLiteral("Fundamentos de termodinámica técnica"),
+         QStringLiteral("Michael J. Moran y Howard N. Shapiro"), QStringLiteral("Reverté"), 2004,
+         QStringLiteral("2.ª"), QString()},
         {QStringLiteral("Fundamentals of Engineering Thermodynamics"),
          QStringLiteral("Michael J. Moran, Howard N. Shapiro, Daisie D. Boettner y Margaret B. Bailey"),
          QStringLiteral("John Wiley & Sons"), 2018, QStringLiteral("9.ª"), QString()},
@@ -57,9 +61,12 @@ bool IsbnValido(const QString& isbn) {
         int suma = 0;
         for (int i = 0; i < 10; ++i) {
             int v;
-            if (d[i].isDigit()) v = d[i].digitValue();
-            else if (i == 9 && d[i] == QLatin1Char('X')) v = 10;
-            else return false;
+            if (d[i].isDigit())
+                v = d[i].digitValue();
+            else if (i == 9 && d[i] == QLatin1Char('X'))
+                v = 10;
+            else
+                return false;
             suma += (10 - i) * v;
         }
         return suma % 11 == 0;
@@ -80,11 +87,13 @@ frmBibliografia::frmBibliografia(QWidget* padre) : QDialog(padre) {
     setWindowTitle(QStringLiteral("Bibliografía"));
     setModal(false);
 
-    auto* cabecera = new QLabel(QStringLiteral("Libros sobre motores alternativos y termodinámica técnica"), this);
+    auto* cabecera =
+        new QLabel(QStringLiteral("Libros sobre motores alternativos y termodinámica técnica"), this);
     cabecera->setWordWrap(true);
 
-    const QStringList columnas{QStringLiteral("Título"),  QStringLiteral("Autores"), QStringLiteral("Editorial"),
-                               QStringLiteral("Año"),     QStringLiteral("Edición"), QStringLiteral("ISBN")};
+    const QStringList columnas{QStringLiteral("Título"),    QStringLiteral("Autores"),
+                               QStringLiteral("Editorial"), QStringLiteral("Año"),
+                               QStringLiteral("Edición"),   QStringLiteral("ISBN")};
     const auto& libros = Bibliografia();
     lstLibros_ = new QTableWidget(static_cast<int>(libros.size()), static_cast<int>(columnas.size()), this);
     lstLibros_->setObjectName(QStringLiteral("lstLibros"));
@@ -95,8 +104,9 @@ frmBibliografia::frmBibliografia(QWidget* padre) : QDialog(padre) {
     lstLibros_->setWordWrap(true);
     for (int fila = 0; fila < static_cast<int>(libros.size()); ++fila) {
         const Libro& l = libros[static_cast<size_t>(fila)];
-        const QStringList celdas{l.titulo, l.autores, l.editorial, QString::number(l.anio), l.edicion,
-                                 l.isbn.isEmpty() ? QStringLiteral("—") : l.isbn};
+        const QStringList celdas{l.titulo,    l.autores,
+                                 l.editorial, QString::number(l.anio),
+                                 l.edicion,   l.isbn.isEmpty() ? QStringLiteral("—") : l.isbn};
         for (int c = 0; c < celdas.size(); ++c) lstLibros_->setItem(fila, c, new QTableWidgetItem(celdas[c]));
     }
     QHeaderView* h = lstLibros_->horizontalHeader();

@@ -38,9 +38,9 @@ struct Plumas {
 const Plumas kPlumas{QColor(30, 70, 230), QColor(125, 0, 125), QColor(225, 30, 30), QColor(50, 50, 50),
                      QColor(20, 170, 70)};
 
-const QColor kAcento(30, 70, 230);       // frames and highlights
-const QColor kTinta(35, 45, 60);         // text
-const QColor kTintaSuave(120, 130, 145); // axes and idle text
+const QColor kAcento(30, 70, 230);        // frames and highlights
+const QColor kTinta(35, 45, 60);          // text
+const QColor kTintaSuave(120, 130, 145);  // axes and idle text
 
 // A colour pulled towards white: t = 0 keeps it, t = 1 is white.
 QColor Aclarar(const QColor& c, double t) {
@@ -76,7 +76,9 @@ QPixmap Lienzo(QSize tamano, qreal dpr) {
 }
 
 // The logical size of a canvas.
-QSizeF Logico(const QPixmap& pm) { return QSizeF(pm.size()) / pm.devicePixelRatio(); }
+QSizeF Logico(const QPixmap& pm) {
+    return QSizeF(pm.size()) / pm.devicePixelRatio();
+}
 
 QFont Letra(double pixeles, bool negrita = false) {
     QFont f = QGuiApplication::font();
@@ -92,7 +94,8 @@ QString PartirEnDos(const QString& texto, const QFontMetricsF& fm, double ancho)
     const qsizetype mitad = texto.size() / 2;
     qsizetype mejor = -1;
     for (qsizetype i = 0; i < texto.size(); ++i)
-        if (texto[i] == QLatin1Char(' ') && (mejor < 0 || std::abs(i - mitad) < std::abs(mejor - mitad))) mejor = i;
+        if (texto[i] == QLatin1Char(' ') && (mejor < 0 || std::abs(i - mitad) < std::abs(mejor - mitad)))
+            mejor = i;
     if (mejor < 0) return texto;
     return texto.left(mejor) + QLatin1Char('\n') + texto.mid(mejor + 1);
 }
@@ -229,8 +232,10 @@ QPainterPath Camino(const Ciclo& c, const Plano& plano) {
     bool primero = true;
     for (const Tramo& t : c.tramos)
         for (const QPointF& q : t.puntos) {
-            if (primero) camino.moveTo(plano(q));
-            else camino.lineTo(plano(q));
+            if (primero)
+                camino.moveTo(plano(q));
+            else
+                camino.lineTo(plano(q));
             primero = false;
         }
     camino.closeSubpath();
@@ -250,7 +255,8 @@ void Flecha(QPainter& p, const Tramo& t, const Plano& plano, double largo, const
     const QPointF normal(-d.y(), d.x());
     const QPointF punta = (a + b) / 2 + d * (largo / 2);
     QPolygonF cabeza;
-    cabeza << punta << punta - d * largo + normal * (largo * 0.45) << punta - d * largo - normal * (largo * 0.45);
+    cabeza << punta << punta - d * largo + normal * (largo * 0.45)
+           << punta - d * largo - normal * (largo * 0.45);
     p.save();
     p.setPen(Qt::NoPen);
     p.setBrush(color);
@@ -259,8 +265,9 @@ void Flecha(QPainter& p, const Tramo& t, const Plano& plano, double largo, const
 }
 
 // Paints a cycle into the plot rectangle: the shaded work, the processes, the
-// states and their numbers (when `etiquetas`), the arrows (when `flechas`).
-void PintarCiclo(QPainter& p, const Ciclo& c, const QRectF& r, Estilo estilo, double grosor, bool etiquetas,
+// states and their numbers in letters of `letra` pixels (none when 0), the
+// arrows (when `flechas`).
+void PintarCiclo(QPainter& p, const Ciclo& c, const QRectF& r, Estilo estilo, double grosor, double letra,
                  bool flechas) {
     const Plano plano(r, c);
     const QPainterPath camino = Camino(c, plano);
@@ -298,12 +305,13 @@ void PintarCiclo(QPainter& p, const Ciclo& c, const QRectF& r, Estilo estilo, do
         for (const Tramo& t : c.tramos)
             if (t.puntos.size() > 2) Flecha(p, t, plano, grosor * 4.2, PlumaSegun(t.color, estilo));
 
-    if (etiquetas) {
+    if (letra > 0) {
         const double radio = grosor * 1.45;
-        const QColor borde = estilo == Estilo::Elegido ? kTinta : estilo == Estilo::Noche ? QColor(235, 240, 250)
-                                                                                          : kTintaSuave;
+        const QColor borde = estilo == Estilo::Elegido ? kTinta
+                             : estilo == Estilo::Noche ? QColor(235, 240, 250)
+                                                       : kTintaSuave;
         const QColor relleno = estilo == Estilo::Noche ? QColor(20, 40, 75) : QColor(Qt::white);
-        QFont f = Letra(std::max(7.0, r.height() * 0.105), estilo == Estilo::Elegido);
+        QFont f = Letra(letra, estilo == Estilo::Elegido);
         p.setFont(f);
         const QFontMetricsF fm(f);
         for (size_t i = 0; i < c.estados.size(); ++i) {
@@ -321,7 +329,8 @@ void PintarCiclo(QPainter& p, const Ciclo& c, const QRectF& r, Estilo estilo, do
             const QString texto = c.etiquetas[i];
             const QSizeF t(fm.horizontalAdvance(texto), fm.capHeight());
             const double separacion = radio + fm.height() * 0.35;
-            const QPointF ancla = q + QPointF(d.x() * (separacion + t.width() / 2), d.y() * (separacion + t.height() / 2));
+            const QPointF ancla =
+                q + QPointF(d.x() * (separacion + t.width() / 2), d.y() * (separacion + t.height() / 2));
             p.setPen(borde);
             p.drawText(QPointF(ancla.x() - t.width() / 2, ancla.y() + t.height() / 2), texto);
         }
@@ -353,10 +362,12 @@ void PintarEjes(QPainter& p, QPointF origen, double finX, double finY, const QCo
     p.setFont(f);
     p.setPen(color);
     const QFontMetricsF fm(f);
-    p.drawText(QPointF(finX - fm.horizontalAdvance(QStringLiteral("V")), origen.y() + fm.ascent() + grosor * 2),
-               QStringLiteral("V"));
-    p.drawText(QPointF(origen.x() - fm.horizontalAdvance(QStringLiteral("p")) - grosor * 3, finY + fm.ascent()),
-               QStringLiteral("p"));
+    p.drawText(
+        QPointF(finX - fm.horizontalAdvance(QStringLiteral("V")), origen.y() + fm.ascent() + grosor * 2),
+        QStringLiteral("V"));
+    p.drawText(
+        QPointF(origen.x() - fm.horizontalAdvance(QStringLiteral("p")) - grosor * 3, finY + fm.ascent()),
+        QStringLiteral("p"));
     p.restore();
 }
 
@@ -377,8 +388,9 @@ void PintarFicha(QPainter& p, Forma forma, const QString& nombre, const QRectF& 
     if (conNombre) {
         QFont f = Letra(s * 0.13, true);
         p.setFont(f);
-        p.setPen(estilo == Estilo::Elegido ? kAcento : estilo == Estilo::Tenue ? ConAlfa(kTintaSuave, 110)
-                                                                                : kTintaSuave);
+        p.setPen(estilo == Estilo::Elegido ? kAcento
+                 : estilo == Estilo::Tenue ? ConAlfa(kTintaSuave, 110)
+                                           : kTintaSuave);
         const QRectF caja(marco.left() + s * 0.2, marco.top() + s * 0.03, marco.width() - s * 0.26, s * 0.16);
         p.drawText(caja, Qt::AlignRight | Qt::AlignVCenter, nombre);
     }
@@ -387,7 +399,21 @@ void PintarFicha(QPainter& p, Forma forma, const QString& nombre, const QRectF& 
     const QRectF plot(origen.x() + s * 0.16, finY + s * 0.07, finX - origen.x() - s * 0.28,
                       origen.y() - finY - s * 0.17);
     const bool detalle = estilo != Estilo::Tenue && s >= 56;
-    PintarCiclo(p, CicloDe(forma), plot, estilo, grosor, detalle, detalle && s >= 110);
+    PintarCiclo(p, CicloDe(forma), plot, estilo, grosor, detalle ? std::max(8.0, s * 0.075) : 0,
+                detalle && s >= 110);
+}
+
+// Paints a picture of `tamano` logical pixels at `dpr` with `pintor`, which
+// gets the painter, smoothing on, and the logical size.
+template <class Pintor>
+QPixmap Pintar(QSize tamano, qreal dpr, Pintor&& pintor) {
+    QPixmap pm = Lienzo(tamano, dpr);
+    if (pm.isNull()) return pm;
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::TextAntialiasing);
+    pintor(p, Logico(pm));
+    return pm;
 }
 
 }  // namespace
@@ -395,203 +421,194 @@ void PintarFicha(QPainter& p, Forma forma, const QString& nombre, const QRectF& 
 // ---- Public pictures -------------------------------------------------------------
 
 QPixmap DibujoCiclo(const QString& ciclo, bool elegido, QSize tamano, qreal dpr) {
-    QPixmap pm = Lienzo(tamano, dpr);
-    if (pm.isNull()) return pm;
-    const QSizeF t = Logico(pm);
-    QPainter p(&pm);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::TextAntialiasing);
-    const double s = std::min(t.width(), t.height());
-    const QRectF marco(QPointF(0, 0), t);
-    const double radio = s * 0.07;
-    // Ground: cool grey when idle, warm white with a blue edge when chosen.
-    if (elegido) {
-        QLinearGradient g(0, 0, 0, t.height());
-        g.setColorAt(0, QColor(255, 255, 255));
-        g.setColorAt(1, QColor(255, 247, 232));
-        p.setBrush(g);
-        const double borde = std::max(1.5, s / 40);
-        p.setPen(QPen(kAcento, borde));
-        p.drawRoundedRect(marco.adjusted(borde / 2, borde / 2, -borde / 2, -borde / 2), radio, radio);
-    } else {
-        p.setBrush(QColor(243, 245, 248));
-        p.setPen(QPen(QColor(210, 216, 224), 1));
-        p.drawRoundedRect(marco.adjusted(0.5, 0.5, -0.5, -0.5), radio, radio);
-    }
-    PintarFicha(p, FormaDe(ciclo), ciclo, marco.adjusted(s * 0.03, s * 0.03, -s * 0.03, -s * 0.03),
-                elegido ? Estilo::Elegido : Estilo::Reposo, true);
-    return pm;
+    return Pintar(tamano, dpr, [&](QPainter& p, QSizeF t) {
+        const double s = std::min(t.width(), t.height());
+        const QRectF marco(QPointF(0, 0), t);
+        const double radio = s * 0.07;
+        // Ground: cool grey when idle, warm white with a blue edge when chosen.
+        if (elegido) {
+            QLinearGradient g(0, 0, 0, t.height());
+            g.setColorAt(0, QColor(255, 255, 255));
+            g.setColorAt(1, QColor(255, 247, 232));
+            p.setBrush(g);
+            const double borde = std::max(1.5, s / 40);
+            p.setPen(QPen(kAcento, borde));
+            p.drawRoundedRect(marco.adjusted(borde / 2, borde / 2, -borde / 2, -borde / 2), radio, radio);
+        } else {
+            p.setBrush(QColor(243, 245, 248));
+            p.setPen(QPen(QColor(210, 216, 224), 1));
+            p.drawRoundedRect(marco.adjusted(0.5, 0.5, -0.5, -0.5), radio, radio);
+        }
+        PintarFicha(p, FormaDe(ciclo), ciclo, marco.adjusted(s * 0.03, s * 0.03, -s * 0.03, -s * 0.03),
+                    elegido ? Estilo::Elegido : Estilo::Reposo, true);
+    });
 }
 
 QPixmap DibujoElegirCiclo(QSize tamano, qreal dpr) {
-    QPixmap pm = Lienzo(tamano, dpr);
-    if (pm.isNull()) return pm;
-    const QSizeF t = Logico(pm);
-    QPainter p(&pm);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::TextAntialiasing);
-    const double s = std::min(t.width(), t.height());
-    const QRectF marco(QPointF(0, 0), t);
-    QLinearGradient g(0, 0, 0, t.height());
-    g.setColorAt(0, QColor(250, 251, 253));
-    g.setColorAt(1, QColor(234, 239, 246));
-    p.setBrush(g);
-    p.setPen(QPen(QColor(210, 216, 224), 1));
-    p.drawRoundedRect(marco.adjusted(0.5, 0.5, -0.5, -0.5), s * 0.04, s * 0.04);
+    return Pintar(tamano, dpr, [&](QPainter& p, QSizeF t) {
+        const double s = std::min(t.width(), t.height());
+        const QRectF marco(QPointF(0, 0), t);
+        QLinearGradient g(0, 0, 0, t.height());
+        g.setColorAt(0, QColor(250, 251, 253));
+        g.setColorAt(1, QColor(234, 239, 246));
+        p.setBrush(g);
+        p.setPen(QPen(QColor(210, 216, 224), 1));
+        p.drawRoundedRect(marco.adjusted(0.5, 0.5, -0.5, -0.5), s * 0.04, s * 0.04);
 
-    // The three shapes, faint, side by side in the lower part.
-    const double alto = t.height() * 0.5;
-    const double ancho = t.width() / 3;
-    const double lado = std::min(alto, ancho * 0.92);
-    const std::array<Forma, 3> formas{Forma::Otto, Forma::Diesel, Forma::Mixto};
-    const std::array<const char*, 3> nombres{kCicloOtto, kCicloDiesel, kCicloMixto};
-    for (int i = 0; i < 3; ++i) {
-        const QRectF celda(ancho * i + (ancho - lado) / 2, t.height() * 0.42 + (alto - lado) / 2, lado, lado);
-        PintarFicha(p, formas[i], QLatin1String(nombres[i]), celda, Estilo::Tenue, true);
-    }
+        // The three shapes, faint, side by side in the lower part.
+        const double alto = t.height() * 0.5;
+        const double ancho = t.width() / 3;
+        const double lado = std::min(alto, ancho * 0.92);
+        const std::array<Forma, 3> formas{Forma::Otto, Forma::Diesel, Forma::Mixto};
+        const std::array<const char*, 3> nombres{kCicloOtto, kCicloDiesel, kCicloMixto};
+        for (int i = 0; i < 3; ++i) {
+            const QRectF celda(ancho * i + (ancho - lado) / 2, t.height() * 0.42 + (alto - lado) / 2, lado,
+                               lado);
+            PintarFicha(p, formas[i], QLatin1String(nombres[i]), celda, Estilo::Tenue, true);
+        }
 
-    p.setPen(kTinta);
-    QFont titulo = Letra(std::min(t.height() * 0.14, t.width() * 0.085), true);
-    p.setFont(titulo);
-    p.drawText(QRectF(0, t.height() * 0.07, t.width(), t.height() * 0.2), Qt::AlignCenter,
-               QStringLiteral("Elija el ciclo"));
-    p.setPen(kTintaSuave);
-    p.setFont(Letra(std::min(t.height() * 0.055, t.width() * 0.036)));
-    p.drawText(QRectF(0, t.height() * 0.27, t.width(), t.height() * 0.1), Qt::AlignCenter,
-               QStringLiteral("Pulse sobre uno de los tres dibujos: Otto, Diesel o Mixto"));
-    return pm;
+        p.setPen(kTinta);
+        QFont titulo = Letra(std::min(t.height() * 0.14, t.width() * 0.085), true);
+        p.setFont(titulo);
+        p.drawText(QRectF(0, t.height() * 0.07, t.width(), t.height() * 0.2), Qt::AlignCenter,
+                   QStringLiteral("Elija el ciclo"));
+        p.setPen(kTintaSuave);
+        p.setFont(Letra(std::min(t.height() * 0.055, t.width() * 0.036)));
+        p.drawText(
+            QRectF(0, t.height() * 0.27, t.width(), t.height() * 0.1), Qt::AlignCenter,
+            QStringLiteral("Pulse sobre uno de los tres dibujos: %1, %2 o %3")
+                .arg(QLatin1String(kCicloOtto), QLatin1String(kCicloDiesel), QLatin1String(kCicloMixto)));
+    });
 }
 
 QPixmap DibujoPresentacion(QSize tamano, qreal dpr) {
-    QPixmap pm = Lienzo(tamano, dpr);
-    if (pm.isNull()) return pm;
-    const QSizeF t = Logico(pm);
-    QPainter p(&pm);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::TextAntialiasing);
-    const double w = t.width(), h = t.height();
-    const double s = std::min(w, h);
+    return Pintar(tamano, dpr, [&](QPainter& p, QSizeF t) {
+        const double w = t.width(), h = t.height();
+        const double s = std::min(w, h);
 
-    // Night-blue ground with a lighter glow behind the cycle.
-    QLinearGradient fondo(0, 0, w, h);
-    fondo.setColorAt(0, QColor(9, 22, 48));
-    fondo.setColorAt(1, QColor(16, 52, 92));
-    p.fillRect(QRectF(0, 0, w, h), fondo);
-    QRadialGradient brillo(QPointF(w * 0.68, h * 0.45), s * 0.6);
-    brillo.setColorAt(0, QColor(70, 130, 220, 70));
-    brillo.setColorAt(1, QColor(70, 130, 220, 0));
-    p.fillRect(QRectF(0, 0, w, h), brillo);
+        // Night-blue ground with a lighter glow behind the cycle.
+        QLinearGradient fondo(0, 0, w, h);
+        fondo.setColorAt(0, QColor(9, 22, 48));
+        fondo.setColorAt(1, QColor(16, 52, 92));
+        p.fillRect(QRectF(0, 0, w, h), fondo);
+        QRadialGradient brillo(QPointF(w * 0.68, h * 0.45), s * 0.6);
+        brillo.setColorAt(0, QColor(70, 130, 220, 70));
+        brillo.setColorAt(1, QColor(70, 130, 220, 0));
+        p.fillRect(QRectF(0, 0, w, h), brillo);
 
-    // Squared paper, faint.
-    p.setPen(QPen(QColor(255, 255, 255, 14), 1));
-    const double paso = std::max(8.0, s / 24);
-    for (double x = 0; x < w; x += paso) p.drawLine(QPointF(x, 0), QPointF(x, h));
-    for (double y = 0; y < h; y += paso) p.drawLine(QPointF(0, y), QPointF(w, y));
+        // Squared paper, faint.
+        p.setPen(QPen(QColor(255, 255, 255, 14), 1));
+        const double paso = std::max(8.0, s / 24);
+        for (double x = 0; x < w; x += paso) p.drawLine(QPointF(x, 0), QPointF(x, h));
+        for (double y = 0; y < h; y += paso) p.drawLine(QPointF(0, y), QPointF(w, y));
 
-    // The cycle on the right, with a family of adiabats behind it.
-    const QRectF zona(w * 0.5, h * 0.13, w * 0.33, h * 0.55);
-    const Ciclo mixto = CicloDe(Forma::Mixto);
-    const Plano plano(zona, mixto);
-    p.setPen(QPen(QColor(255, 255, 255, 22), std::max(1.0, s / 500)));
-    p.save();
-    p.setClipRect(QRectF(zona.left(), 0, w, zona.bottom() + s * 0.02));
-    for (int k = 1; k <= 7; ++k) {
-        QPolygonF curva;
-        const double pa = 0.06 * k * k;
-        for (const QPointF& q : Politropica(0.1, pa, 1.06, kNExpansion)) curva << plano(q);
-        p.drawPolyline(curva);
-    }
-    p.restore();
-    const double grosor = std::max(1.5, s / 190);
-    PintarEjes(p, QPointF(zona.left() - s * 0.05, zona.bottom() + s * 0.04), zona.right() + s * 0.04,
-               zona.top() - s * 0.05, QColor(200, 215, 235, 170), std::max(1.0, s / 400), s * 0.035);
-    PintarCiclo(p, mixto, zona, Estilo::Noche, grosor, true, true);
+        // The cycle on the right, with a family of adiabats behind it.
+        const QRectF zona(w * 0.5, h * 0.13, w * 0.33, h * 0.55);
+        const Ciclo mixto = CicloDe(Forma::Mixto);
+        const Plano plano(zona, mixto);
+        p.setPen(QPen(QColor(255, 255, 255, 22), std::max(1.0, s / 500)));
+        p.save();
+        p.setClipRect(QRectF(zona.left(), 0, w, zona.bottom() + s * 0.02));
+        for (int k = 1; k <= 7; ++k) {
+            QPolygonF curva;
+            const double pa = 0.06 * k * k;
+            for (const QPointF& q : Politropica(0.1, pa, 1.06, kNExpansion)) curva << plano(q);
+            p.drawPolyline(curva);
+        }
+        p.restore();
+        const double grosor = std::max(1.5, s / 190);
+        PintarEjes(p, QPointF(zona.left() - s * 0.05, zona.bottom() + s * 0.04), zona.right() + s * 0.04,
+                   zona.top() - s * 0.05, QColor(200, 215, 235, 170), std::max(1.0, s / 400), s * 0.035);
+        PintarCiclo(p, mixto, zona, Estilo::Noche, grosor, zona.height() * 0.105, true);
 
-    // The cylinder under the diagram: head at V = 0, piston at bottom dead
-    // centre, under V1; the crank beyond.
-    const double x0 = zona.left();
-    const double xPms = plano(QPointF(mixto.estados[1].x(), 0)).x();
-    const double xPmi = plano(QPointF(1, 0)).x();
-    const double yc = zona.bottom() + h * 0.14;
-    const double radioCil = h * 0.045;
-    const QColor linea(200, 215, 235, 150);
-    p.setPen(QPen(linea, std::max(1.0, s / 350)));
-    p.setBrush(Qt::NoBrush);
-    QPainterPath cilindro;
-    cilindro.moveTo(xPmi + (xPmi - x0) * 0.08, yc - radioCil);
-    cilindro.lineTo(x0, yc - radioCil);
-    cilindro.lineTo(x0, yc + radioCil);
-    cilindro.lineTo(xPmi + (xPmi - x0) * 0.08, yc + radioCil);
-    p.drawPath(cilindro);
-    // The dead centres, dashed up to the diagram.
-    QPen discontinua(QColor(200, 215, 235, 70), std::max(1.0, s / 500), Qt::DashLine);
-    p.setPen(discontinua);
-    p.drawLine(QPointF(xPms, yc - radioCil), QPointF(xPms, zona.bottom() + s * 0.04));
-    p.drawLine(QPointF(xPmi, yc - radioCil), QPointF(xPmi, zona.bottom() + s * 0.04));
-    // Piston at bottom dead centre, rod to the crank pin.
-    const double anchoPiston = radioCil * 1.2;
-    QLinearGradient metal(0, yc - radioCil, 0, yc + radioCil);
-    metal.setColorAt(0, QColor(190, 205, 225));
-    metal.setColorAt(1, QColor(110, 130, 160));
-    p.setPen(Qt::NoPen);
-    p.setBrush(metal);
-    p.drawRoundedRect(QRectF(xPmi - anchoPiston, yc - radioCil * 0.92, anchoPiston, radioCil * 1.84),
-                      radioCil * 0.12, radioCil * 0.12);
-    const double radioMan = radioCil * 0.8;
-    const QPointF ejeCiguenal(xPmi + radioCil * 3.4, yc);
-    const QPointF munequilla = ejeCiguenal + QPointF(-radioMan * 0.7, -radioMan * 0.7);
-    p.setPen(QPen(QColor(190, 205, 225, 200), radioCil * 0.22, Qt::SolidLine, Qt::RoundCap));
-    p.drawLine(QPointF(xPmi - anchoPiston / 2, yc), munequilla);
-    p.setPen(QPen(linea, std::max(1.0, s / 350)));
-    p.setBrush(Qt::NoBrush);
-    p.drawEllipse(ejeCiguenal, radioMan, radioMan);
-    p.setBrush(QColor(190, 205, 225));
-    p.drawEllipse(munequilla, radioCil * 0.14, radioCil * 0.14);
-    // A spark at the head: the heat enters at top dead centre.
-    QRadialGradient chispa(QPointF(x0 + (xPms - x0) * 0.5, yc), radioCil * 1.1);
-    chispa.setColorAt(0, QColor(255, 200, 110, 200));
-    chispa.setColorAt(1, QColor(255, 120, 40, 0));
-    p.setPen(Qt::NoPen);
-    p.setBrush(chispa);
-    p.drawEllipse(QPointF(x0 + (xPms - x0) * 0.5, yc), radioCil * 1.1, radioCil * 0.9);
+        // The cylinder under the diagram: head at V = 0, piston at bottom dead
+        // centre, under V1; the crank beyond.
+        const double x0 = zona.left();
+        const double xPms = plano(QPointF(mixto.estados[1].x(), 0)).x();
+        const double xPmi = plano(QPointF(1, 0)).x();
+        const double yc = zona.bottom() + h * 0.14;
+        const double radioCil = h * 0.045;
+        const QColor linea(200, 215, 235, 150);
+        p.setPen(QPen(linea, std::max(1.0, s / 350)));
+        p.setBrush(Qt::NoBrush);
+        QPainterPath cilindro;
+        cilindro.moveTo(xPmi + (xPmi - x0) * 0.08, yc - radioCil);
+        cilindro.lineTo(x0, yc - radioCil);
+        cilindro.lineTo(x0, yc + radioCil);
+        cilindro.lineTo(xPmi + (xPmi - x0) * 0.08, yc + radioCil);
+        p.drawPath(cilindro);
+        // The dead centres, dashed up to the diagram.
+        QPen discontinua(QColor(200, 215, 235, 70), std::max(1.0, s / 500), Qt::DashLine);
+        p.setPen(discontinua);
+        p.drawLine(QPointF(xPms, yc - radioCil), QPointF(xPms, zona.bottom() + s * 0.04));
+        p.drawLine(QPointF(xPmi, yc - radioCil), QPointF(xPmi, zona.bottom() + s * 0.04));
+        // Piston at bottom dead centre, rod to the crank pin.
+        const double anchoPiston = radioCil * 1.2;
+        QLinearGradient metal(0, yc - radioCil, 0, yc + radioCil);
+        metal.setColorAt(0, QColor(190, 205, 225));
+        metal.setColorAt(1, QColor(110, 130, 160));
+        p.setPen(Qt::NoPen);
+        p.setBrush(metal);
+        p.drawRoundedRect(QRectF(xPmi - anchoPiston, yc - radioCil * 0.92, anchoPiston, radioCil * 1.84),
+                          radioCil * 0.12, radioCil * 0.12);
+        const double radioMan = radioCil * 0.8;
+        const QPointF ejeCiguenal(xPmi + radioCil * 3.4, yc);
+        const QPointF munequilla = ejeCiguenal + QPointF(-radioMan * 0.7, -radioMan * 0.7);
+        p.setPen(QPen(QColor(190, 205, 225, 200), radioCil * 0.22, Qt::SolidLine, Qt::RoundCap));
+        p.drawLine(QPointF(xPmi - anchoPiston / 2, yc), munequilla);
+        p.setPen(QPen(linea, std::max(1.0, s / 350)));
+        p.setBrush(Qt::NoBrush);
+        p.drawEllipse(ejeCiguenal, radioMan, radioMan);
+        p.setBrush(QColor(190, 205, 225));
+        p.drawEllipse(munequilla, radioCil * 0.14, radioCil * 0.14);
+        // A spark at the head: the heat enters at top dead centre.
+        QRadialGradient chispa(QPointF(x0 + (xPms - x0) * 0.5, yc), radioCil * 1.1);
+        chispa.setColorAt(0, QColor(255, 200, 110, 200));
+        chispa.setColorAt(1, QColor(255, 120, 40, 0));
+        p.setPen(Qt::NoPen);
+        p.setBrush(chispa);
+        p.drawEllipse(QPointF(x0 + (xPms - x0) * 0.5, yc), radioCil * 1.1, radioCil * 0.9);
 
-    // The name and what the program does.
-    const double margen = w * 0.06;
-    p.setPen(QColor(245, 248, 255));
-    QFont nombre = Letra(std::min(h * 0.17, w * 0.12), true);
-    nombre.setLetterSpacing(QFont::PercentageSpacing, 104);
-    p.setFont(nombre);
-    const QFontMetricsF fmNombre(nombre);
-    const double base = h * 0.42;
-    p.drawText(QPointF(margen, base), NombrePrograma());
-    // An accent rule in the colours of the processes.
-    const std::array<QColor, 5> colores{kPlumas.compresion, kPlumas.calorV, kPlumas.calorP, QColor(235, 240, 250),
-                                        kPlumas.escape};
-    const double largoRegla = fmNombre.horizontalAdvance(NombrePrograma());
-    const double yRegla = base + h * 0.035;
-    const double grosorRegla = std::max(2.0, h * 0.008);
-    for (size_t i = 0; i < colores.size(); ++i) {
-        p.fillRect(QRectF(margen + largoRegla * i / colores.size(), yRegla, largoRegla / colores.size(), grosorRegla),
-                   Aclarar(colores[i], i == 3 ? 0 : 0.25));
-    }
-    p.setPen(QColor(200, 215, 235));
-    // The description in at most two lines across the text column.
-    const double anchoColumna = w * 0.38;
-    QFont linea1 = Letra(std::min(h * 0.036, w * 0.024));
-    const QString descripcion = PartirEnDos(DescripcionPrograma(), QFontMetricsF(linea1), anchoColumna);
-    const double ancho = QFontMetricsF(linea1).boundingRect(QRectF(0, 0, w, h), 0, descripcion).width();
-    if (ancho > anchoColumna) linea1.setPixelSize(std::max(1, static_cast<int>(linea1.pixelSize() * anchoColumna / ancho)));
-    p.setFont(linea1);
-    QRectF ocupado;
-    p.drawText(QRectF(margen, yRegla + h * 0.045, anchoColumna, h * 0.2), Qt::AlignLeft | Qt::AlignTop, descripcion,
-               &ocupado);
-    // The three cycles it solves, in the accent of the heat.
-    p.setPen(QColor(255, 190, 120));
-    p.setFont(Letra(std::min(h * 0.032, w * 0.021), true));
-    const QString ciclos = QStringLiteral("%1  ·  %2  ·  %3")
-                               .arg(QLatin1String(kCicloOtto), QLatin1String(kCicloDiesel), QLatin1String(kCicloMixto));
-    p.drawText(QPointF(margen, ocupado.bottom() + h * 0.06), ciclos);
-    return pm;
+        // The name and what the program does.
+        const double margen = w * 0.06;
+        p.setPen(QColor(245, 248, 255));
+        QFont nombre = Letra(std::min(h * 0.17, w * 0.12), true);
+        nombre.setLetterSpacing(QFont::PercentageSpacing, 104);
+        p.setFont(nombre);
+        const QFontMetricsF fmNombre(nombre);
+        const double base = h * 0.42;
+        p.drawText(QPointF(margen, base), NombrePrograma());
+        // An accent rule in the colours of the processes.
+        const std::array<QColor, 5> colores{kPlumas.compresion, kPlumas.calorV, kPlumas.calorP,
+                                            QColor(235, 240, 250), kPlumas.escape};
+        const double largoRegla = fmNombre.horizontalAdvance(NombrePrograma());
+        const double yRegla = base + h * 0.035;
+        const double grosorRegla = std::max(2.0, h * 0.008);
+        for (size_t i = 0; i < colores.size(); ++i) {
+            p.fillRect(QRectF(margen + largoRegla * i / colores.size(), yRegla, largoRegla / colores.size(),
+                              grosorRegla),
+                       Aclarar(colores[i], i == 3 ? 0 : 0.25));
+        }
+        p.setPen(QColor(200, 215, 235));
+        // The description in at most two lines across the text column.
+        const double anchoColumna = w * 0.38;
+        QFont linea1 = Letra(std::min(h * 0.036, w * 0.024));
+        const QString descripcion = PartirEnDos(DescripcionPrograma(), QFontMetricsF(linea1), anchoColumna);
+        const double ancho = QFontMetricsF(linea1).boundingRect(QRectF(0, 0, w, h), 0, descripcion).width();
+        if (ancho > anchoColumna)
+            linea1.setPixelSize(std::max(1, static_cast<int>(linea1.pixelSize() * anchoColumna / ancho)));
+        p.setFont(linea1);
+        QRectF ocupado;
+        p.drawText(QRectF(margen, yRegla + h * 0.045, anchoColumna, h * 0.2), Qt::AlignLeft | Qt::AlignTop,
+                   descripcion, &ocupado);
+        // The three cycles it solves, in the accent of the heat.
+        p.setPen(QColor(255, 190, 120));
+        p.setFont(Letra(std::min(h * 0.032, w * 0.021), true));
+        const QString ciclos =
+            QStringLiteral("%1  ·  %2  ·  %3")
+                .arg(QLatin1String(kCicloOtto), QLatin1String(kCicloDiesel), QLatin1String(kCicloMixto));
+        p.drawText(QPointF(margen, ocupado.bottom() + h * 0.06), ciclos);
+    });
 }
 
 namespace {
@@ -622,7 +639,8 @@ void PintarIcono(QPainter& p, double lado) {
     p.fillPath(Camino(c, plano), calor);
     const double grosor = std::max(1.3, lado * 0.055);
     for (const Tramo& t : c.tramos) {
-        p.setPen(QPen(PlumaSegun(t.color, Estilo::Noche), grosor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        p.setPen(
+            QPen(PlumaSegun(t.color, Estilo::Noche), grosor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         QPolygonF linea;
         for (const QPointF& q : t.puntos) linea << plano(q);
         p.drawPolyline(linea);

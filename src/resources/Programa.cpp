@@ -6,14 +6,20 @@
 
 namespace vanta {
 
-QString NombrePrograma() { return QStringLiteral("Vanta"); }
+QString NombrePrograma() {
+    return QStringLiteral("Vanta");
+}
 
-QString VersionPrograma() { return QStringLiteral(VANTA_VERSION); }
+QString VersionPrograma() {
+    return QStringLiteral(VANTA_VERSION);
+}
 
 QString DescripcionPrograma() {
     return QStringLiteral("Ciclos termodinámicos de motores alternativos de cuatro tiempos");
 }
 
-QString LicenciaPrograma() { return QStringLiteral("GPL-3.0-or-later"); }
+QString LicenciaPrograma() {
+    return QStringLiteral("GPL-3.0-or-later");
+}
 
 }  // namespace vanta

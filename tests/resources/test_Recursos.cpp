@@ -1,6 +1,5 @@
 // The program's pictures, the help pages as built, and the about and
 // bibliography windows.
-#include <QApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -17,6 +16,7 @@
 #include <cmath>
 #include <limits>
 
+#include "../mainwindow/Pruebas.h"
 #include "mainwindow/frmAcercaDe.h"
 #include "mainwindow/frmBibliografia.h"
 #include "resources/Dibujos.h"
@@ -53,7 +53,9 @@ Tonos ContarTonos(const QPixmap& pm) {
     return t;
 }
 
-bool Iguales(const QPixmap& a, const QPixmap& b) { return a.toImage() == b.toImage(); }
+bool Iguales(const QPixmap& a, const QPixmap& b) {
+    return a.toImage() == b.toImage();
+}
 
 void Escribir(const QString& ruta) {
     QDir().mkpath(QFileInfo(ruta).absolutePath());
@@ -111,7 +113,8 @@ private slots:
         for (const char* ciclo : {kCicloOtto, kCicloDiesel, kCicloMixto})
             for (bool elegido : {false, true}) todas << DibujoCiclo(QLatin1String(ciclo), elegido, t, 1);
         for (int i = 0; i < todas.size(); ++i)
-            for (int j = i + 1; j < todas.size(); ++j) QVERIFY2(!Iguales(todas[i], todas[j]), "two pictures alike");
+            for (int j = i + 1; j < todas.size(); ++j)
+                QVERIFY2(!Iguales(todas[i], todas[j]), "two pictures alike");
     }
 
     // The chosen variant is the stronger one.
@@ -225,7 +228,8 @@ private slots:
             const QString texto = utf8.decode(bytes);
             QVERIFY2(!utf8.hasError(), qPrintable(pagina));
             QVERIFY2(texto.contains(QStringLiteral("<meta charset=\"utf-8\">")), qPrintable(pagina));
-            QVERIFY2(texto.contains(QRegularExpression(QStringLiteral("<title>[^<]+</title>"))), qPrintable(pagina));
+            QVERIFY2(texto.contains(QRegularExpression(QStringLiteral("<title>[^<]+</title>"))),
+                     qPrintable(pagina));
             for (auto m = enlace.globalMatch(texto); m.hasNext();) {
                 const QString destino = m.next().captured(1);
                 QVERIFY2(QFileInfo::exists(dir.filePath(destino)), qPrintable(pagina + " -> " + destino));
@@ -311,12 +315,15 @@ private slots:
     void librosCompletos() {
         int espanol = 0, ingles = 0, motores = 0, termodinamica = 0;
         for (const Libro& l : Bibliografia()) {
-            QVERIFY(!l.titulo.isEmpty() && !l.autores.isEmpty() && !l.editorial.isEmpty() && !l.edicion.isEmpty());
+            QVERIFY(!l.titulo.isEmpty() && !l.autores.isEmpty() && !l.editorial.isEmpty() &&
+                    !l.edicion.isEmpty());
             QVERIFY(l.anio > 1900 && l.anio < 2100);
             if (!l.isbn.isEmpty()) QVERIFY2(IsbnValido(l.isbn), qPrintable(l.isbn));
             const QString t = l.titulo.toLower();
-            if (t.contains(QStringLiteral("motores")) || t.contains(QStringLiteral("termodinámica"))) ++espanol;
-            if (t.contains(QStringLiteral("engine")) || t.contains(QStringLiteral("thermodynamics"))) ++ingles;
+            if (t.contains(QStringLiteral("motores")) || t.contains(QStringLiteral("termodinámica")))
+                ++espanol;
+            if (t.contains(QStringLiteral("engine")) || t.contains(QStringLiteral("thermodynamics")))
+                ++ingles;
             if (t.contains(QStringLiteral("motores")) || t.contains(QStringLiteral("engine"))) ++motores;
             if (t.contains(QStringLiteral("termodinámica")) || t.contains(QStringLiteral("thermodynamics")))
                 ++termodinamica;
@@ -325,23 +332,10 @@ private slots:
     }
 };
 
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    int fallos = 0;
-    {
-        PruebasDibujos p;
-        fallos += QTest::qExec(&p, argc, argv);
-    }
-    {
-        PruebasAyuda p;
-        fallos += QTest::qExec(&p, argc, argv);
-    }
-    {
-        PruebasAcercaDe p;
-        fallos += QTest::qExec(&p, argc, argv);
-    }
-    return fallos == 0 ? 0 : 1;
-}
+namespace {
+const vanta::pruebas::Registrar<PruebasDibujos> registroDibujos;
+const vanta::pruebas::Registrar<PruebasAyuda> registroAyuda;
+const vanta::pruebas::Registrar<PruebasAcercaDe> registroAcercaDe;
+}  // namespace
 
 #include "test_Recursos.moc"
