@@ -76,6 +76,14 @@ void SuperficieQt::AjustarImagenes() {
     CerrarPintor();
     capa_ = QImage();
     capaVacia_ = true;
+    // Only the screen's pixel ratio changed (the window went to another
+    // screen): the same picture, at the new density.
+    if (!imagen_.isNull() && !tamano.isEmpty() &&
+        imagen_.deviceIndependentSize().toSize() == contentsRect().size()) {
+        imagen_ = imagen_.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        imagen_.setDevicePixelRatio(devicePixelRatioF());
+        return;
+    }
     if (tamano.isEmpty()) {
         imagen_ = QImage();
         return;
