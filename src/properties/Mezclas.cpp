@@ -18,8 +18,19 @@ constexpr std::string_view kCausaFueraDeRango = "las propiedades del gas salen d
 constexpr std::string_view kCausaSinCalor = "el calor del ciclo es cero y no se puede repartir entre aire y gases";
 constexpr std::string_view kCausaLinealIgual = "los dos extremos del reparto lineal entre aire y gases coinciden";
 
+// ln x of a fraction, taken again only when the fraction changed.
+inline double Ln(LogaritmosFracciones::Entrada& memoria, double x) {
+    if (x != memoria.x) {
+        memoria.x = x;
+        memoria.ln = std::log(x);
+    }
+    return memoria.ln;
+}
+
 // x·(s0 − R·ln x): the entropy of a species at 1 bar with its mixing term.
-inline double TerminoS0(double x, double s0) { return x * (s0 - kR * std::log(x)); }
+inline double TerminoS0(double x, double s0, LogaritmosFracciones::Entrada& memoria) {
+    return x * (s0 - kR * Ln(memoria, x));
+}
 // The same at the pressure p.
 inline double TerminoS(double x, double s0, double p) { return x * (s0 - kR * std::log(x * p / kPresionReferencia)); }
 
@@ -74,10 +85,11 @@ void PropiedadesAire(Estado& e, Dialogos& dlg) {
                       v.cp[N2] * e.xN2Aire;
     const double h = v.h[H2O] * e.xH2OAire + v.h[Ar] * e.xArAire + v.h[O2] * e.xO2Aire + v.h[CO2] * e.xCO2Aire +
                      v.h[N2] * e.xN2Aire;
-    double s0 = TerminoS0(e.xO2Aire, v.s0[O2]) + TerminoS0(e.xArAire, v.s0[Ar]) + TerminoS0(e.xCO2Aire, v.s0[CO2]) +
-                TerminoS0(e.xN2Aire, v.s0[N2]);
+    auto* ln = e.logaritmos.aire;
+    double s0 = TerminoS0(e.xO2Aire, v.s0[O2], ln[0]) + TerminoS0(e.xArAire, v.s0[Ar], ln[1]) +
+                TerminoS0(e.xCO2Aire, v.s0[CO2], ln[2]) + TerminoS0(e.xN2Aire, v.s0[N2], ln[3]);
     // Dry air has no water term, and no logarithm of zero.
-    if (e.xH2OAire > 0) s0 += (v.s0[H2O] - kR * std::log(e.xH2OAire)) * e.xH2OAire;
+    if (e.xH2OAire > 0) s0 += (v.s0[H2O] - kR * Ln(ln[4], e.xH2OAire)) * e.xH2OAire;
     double s = e.SAire;
     if (P != 0) {
         s = TerminoS(e.xO2Aire, v.s0[O2], P) + TerminoS(e.xArAire, v.s0[Ar], P) + TerminoS(e.xCO2Aire, v.s0[CO2], P) +
@@ -119,10 +131,12 @@ void PropiedadesHumos(Estado& e, Dialogos& dlg) {
                                 v.h[CO2] * e.xCO2Humos + v.h[N2] * e.xN2Humos + v.h[Ar] * e.xArHumos
                           : v.h[H2O] * e.xH2OHumos + v.h[Ar] * e.xArHumos + v.h[CO] * e.xCOHumos +
                                 v.h[CO2] * e.xCO2Humos + v.h[N2] * e.xN2Humos;
-    double s0 = TerminoS0(e.xCO2Humos, v.s0[CO2]) + TerminoS0(e.xArHumos, v.s0[Ar]) + TerminoS0(e.xN2Humos, v.s0[N2]);
-    if (e.xH2OHumos > 0) s0 += TerminoS0(e.xH2OHumos, v.s0[H2O]);
-    if (e.xCOHumos > 0) s0 += TerminoS0(e.xCOHumos, v.s0[CO]);
-    if (e.xO2Humos > 0) s0 += TerminoS0(e.xO2Humos, v.s0[O2]);
+    auto* ln = e.logaritmos.humos;
+    double s0 = TerminoS0(e.xCO2Humos, v.s0[CO2], ln[0]) + TerminoS0(e.xArHumos, v.s0[Ar], ln[1]) +
+                TerminoS0(e.xN2Humos, v.s0[N2], ln[2]);
+    if (e.xH2OHumos > 0) s0 += TerminoS0(e.xH2OHumos, v.s0[H2O], ln[3]);
+    if (e.xCOHumos > 0) s0 += TerminoS0(e.xCOHumos, v.s0[CO], ln[4]);
+    if (e.xO2Humos > 0) s0 += TerminoS0(e.xO2Humos, v.s0[O2], ln[5]);
     double s = e.SHumos;
     if (P != 0) {
         s = TerminoS(e.xCO2Humos, v.s0[CO2], P) + TerminoS(e.xArHumos, v.s0[Ar], P) + TerminoS(e.xN2Humos, v.s0[N2], P);

@@ -286,6 +286,18 @@ struct Graficas { VANTA_CAMPOS_GRAFICAS(VANTA_DECLARAR_CAMPO) };
     VANTA_CAMPOS_DIAGRAMA_TVPV(X)                                                \
     VANTA_CAMPOS_GRAFICAS(X)
 
+// The logarithms of the mole fractions, kept beside the fractions they were
+// taken of: the entropy of a mixture needs them at every evaluation, and the
+// fractions change only when a fluid is defined again. Derived data, not a
+// variable of the calculation.
+struct LogaritmosFracciones {
+    struct Entrada {
+        double x = -1;  // no fraction is negative when its logarithm is taken
+        double ln = 0;
+    };
+    Entrada aire[5], humos[6];
+};
+
 struct Estado : RegistroTransformacion,
                 ValoresObtenidos,
                 Varios,
@@ -294,7 +306,9 @@ struct Estado : RegistroTransformacion,
                 Transformaciones,
                 FuncionesAuxiliares,
                 DiagramaTVPV,
-                Graficas {};
+                Graficas {
+    LogaritmosFracciones logaritmos;
+};
 
 // RGB as the program writes colours: red in the low byte, blue in the high.
 constexpr int32_t RGB(int r, int g, int b) { return r | (g << 8) | (b << 16); }
