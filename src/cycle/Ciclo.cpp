@@ -32,6 +32,9 @@ constexpr std::string_view kMensajeT1 = "La temperatura al final de la admisión
 constexpr std::string_view kMensajeExponente = "El exponente politrópico n debe ser mayor que 1";
 constexpr std::string_view kMensajePropNegativa = "El % de calor a volumen constante no puede ser negativo";
 constexpr std::string_view kCausaMasas = "las masas o el calor del ciclo salen del intervalo de los números del programa";
+constexpr std::string_view kCausaVolumenNulo =
+    "el volumen al final de la compresión es tan pequeño que no se distingue de cero; revise la cilindrada y la "
+    "relación de compresión";
 constexpr std::string_view kCausaCierre = "el trabajo o el combustible del ciclo son cero y el consumo no se puede calcular";
 
 // With Rc above this the focus goes to the compression ratio instead of Pmax.
@@ -113,6 +116,11 @@ void MasasYVolumenes(Estado& e, Dialogos& dlg) {
             FalloAritmetico(e, dlg, kCausaMasas);
             return;
         }
+    }
+    // V1 near the smallest double over a large Rc: V2 or the step is lost to zero.
+    if (!(V2 > 0 && paso > 0)) {
+        FalloAritmetico(e, dlg, kCausaVolumenNulo);
+        return;
     }
     e.V2 = V2;
     e.V3 = V2;

@@ -32,6 +32,9 @@ constexpr std::string_view kCausaCvNulo = "el calor específico de los gases es 
 constexpr std::string_view kCausaFraccionQuemada =
     "la presión del gas quemado es igual a la del gas fresco y el grado de combustión no se puede hallar";
 constexpr std::string_view kCausaEstadoInicial = "el estado del comienzo de la combustión no es válido";
+constexpr std::string_view kCausaPasoNulo =
+    "el paso de volumen es tan pequeño frente al volumen que la carrera no avanza; revise la cilindrada y la "
+    "relación de compresión";
 
 // Each search converges long before these bounds; beyond them it would never end.
 constexpr int kPasosMaximosIsocora = 10000;
@@ -88,6 +91,15 @@ void ExponenteInicial(Estado& e, Dialogos& dlg, double modelo, double volumenFin
 
 void PonerInicioDesdeFinal(Estado& e, Dialogos& dlg) {
     PonerEstadoInicial(e, dlg, e.PresionFinal, e.VolumenFinal, e.TemperaturaFinal, e.EntalpiaFinal, e.EntropiaFinal);
+}
+
+// A step below half the spacing of the doubles at the volume (a compression
+// ratio a hair above 1, a volume near the smallest double) leaves the volume
+// where it was, and the walk would never end.
+bool AvanzaLaCarrera(Estado& e, Dialogos& dlg) {
+    if (e.VolumenProporcional != e.Volumen) return true;
+    FalloAritmetico(e, dlg, kCausaPasoNulo);
+    return false;
 }
 
 // One polytropic step from the record's current state to V, with its work.
@@ -332,6 +344,7 @@ void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vo
     // entropy lag one step behind T and p.
     while (e.Volumen - paso > volumenFinal) {
         e.VolumenProporcional = e.Volumen - paso;
+        if (!AvanzaLaCarrera(e, dlg)) return;
         PasoPolitropico(e, e.VolumenProporcional, e.W12acumulado);
         PropiedadesAire(e, dlg);
         ExponentePaso(e, modelo, exponente);
@@ -362,6 +375,7 @@ void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vol
     e.Gamma4 = e.Gamma;
     while (e.Volumen + paso < volumenFinal) {
         e.VolumenProporcional = e.Volumen + paso;
+        if (!AvanzaLaCarrera(e, dlg)) return;
         PasoPolitropico(e, e.VolumenProporcional, e.W45acumulado);
         PropiedadesHumos(e, dlg);
         ExponentePaso(e, modelo, exponente);

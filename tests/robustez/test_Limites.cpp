@@ -1,0 +1,33 @@
+// The searches and walks of the solver pushed to their edges: each must end,
+// in results or in a message with ErrorCalculo set, and leave nothing that is
+// not finite.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "Ejecucion.h"
+
+namespace vanta::prueba {
+namespace {
+
+using Args = std::vector<std::string>;
+
+// A step of the stroke too small to move the volume: a compression ratio a
+// hair above 1, or a displacement near the smallest double.
+TEST(LimitesTest, StrokeWhoseStepCannotMoveTheVolumeIsRefused) {
+    for (const char* modelo : {"medio", "politropica", "variable"}) {
+        for (const Args& datos : {Args{"--rc", "1.0000000000000002"}, Args{"--rc", "1,000000000000001"},
+                                  Args{"--cilindrada", "5e-318"}}) {
+            Args args = {"--ciclo", "Diesel", "--compresion", modelo, "--expansion", modelo};
+            args.insert(args.end(), datos.begin(), datos.end());
+            Ejecucion r;
+            r.Calcular(args);
+            EXPECT_TRUE(r.Rechazado()) << modelo << " " << datos[1] << r.Mensajes();
+            EXPECT_EQ(r.Defectos(), "") << modelo << " " << datos[1];
+        }
+    }
+}
+
+}  // namespace
+}  // namespace vanta::prueba
