@@ -1,6 +1,8 @@
 #include "properties/Busquedas.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "properties/Especies.h"
 #include "properties/Mezclas.h"
@@ -186,8 +188,11 @@ void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2,
 }
 
 void ActualizarMaximos(Estado& e) {
+    // Compared in single precision. A figure beyond its range counts as the
+    // largest single: converting it as it stands is undefined.
     auto subir = [](float& maximo, double valor) {
-        const float v = static_cast<float>(valor);
+        constexpr double kMayor = std::numeric_limits<float>::max();
+        const float v = static_cast<float>(std::clamp(valor, -kMayor, kMayor));
         if (v > maximo) maximo = v;
     };
     subir(e.PresionMaxima, e.PresionInicial);

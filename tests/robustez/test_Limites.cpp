@@ -3,10 +3,13 @@
 // not finite.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
 #include <string>
 #include <vector>
 
 #include "Ejecucion.h"
+#include "properties/Busquedas.h"
 
 namespace vanta::prueba {
 namespace {
@@ -27,6 +30,20 @@ TEST(LimitesTest, StrokeWhoseStepCannotMoveTheVolumeIsRefused) {
             EXPECT_EQ(r.Defectos(), "") << modelo << " " << datos[1];
         }
     }
+}
+
+// The running maxima are kept in single precision: a figure beyond its range
+// counts as the largest single, never as infinity.
+TEST(LimitesTest, MaximaBeyondSinglePrecisionStayFinite) {
+    Estado e;
+    e.PresionInicial = 1e300, e.PresionFinal = -1e300;
+    e.TemperaturaInicial = std::nan(""), e.TemperaturaFinal = 1e39;
+    e.hInicial = 1e39, e.SFinal = 3.5e38;
+    ActualizarMaximos(e);
+    EXPECT_EQ(e.PresionMaxima, std::numeric_limits<float>::max());
+    EXPECT_EQ(e.TemperaturaMaxima, std::numeric_limits<float>::max());
+    EXPECT_EQ(e.EntalpiaMaxima, std::numeric_limits<float>::max());
+    EXPECT_EQ(e.EntropiaMaxima, std::numeric_limits<float>::max());
 }
 
 }  // namespace
