@@ -35,6 +35,9 @@ constexpr std::string_view kCausaMasas = "las masas o el calor del ciclo salen d
 constexpr std::string_view kCausaVolumenNulo =
     "el volumen al final de la compresión es tan pequeño que no se distingue de cero; revise la cilindrada y la "
     "relación de compresión";
+constexpr std::string_view kCausaDiagramas =
+    "los valores del ciclo no caben en las escalas de los diagramas, o el ciclo no tiene extensión en alguno de "
+    "ellos";
 constexpr std::string_view kCausaCierre = "el trabajo o el combustible del ciclo son cero y el consumo no se puede calcular";
 
 // With Rc above this the focus goes to the compression ratio instead of Pmax.
@@ -386,7 +389,10 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     e.W12acumulado = 0;
     e.W45acumulado = 0;
     e.W34acumulado = 0;
-    EscalarDiagramas(e, g);
+    if (!EscalarDiagramas(e, g)) {
+        FalloAritmetico(e, dlg, kCausaDiagramas);
+        return;
+    }
 
     // Second pass: the same, drawing; these results stand.
     EstadoUno(e, dlg);

@@ -1,5 +1,8 @@
 #include "mainwindow/DibujoDiagramas.h"
 
+#include <cmath>
+#include <limits>
+
 namespace vanta {
 
 namespace {
@@ -16,6 +19,22 @@ void ImprimirEn(Superficie& s, double x, double y, std::string_view texto) {
     s.Print(texto);
 }
 
+// The corners of a scale in single precision. Poner is false when a corner
+// does not fit a single or the two corners fall on the same value, as they do
+// for a cycle with no extent on an axis: such a scale has no size.
+struct Esquinas {
+    float x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+
+    bool Poner(double a1, double b1, double a2, double b2) {
+        constexpr double kMayor = std::numeric_limits<float>::max();
+        for (double v : {a1, b1, a2, b2})
+            if (!(std::fabs(v) <= kMayor)) return false;
+        x1 = F(a1), y1 = F(b1), x2 = F(a2), y2 = F(b2);
+        return x1 != x2 && y1 != y2;
+    }
+    void Aplicar(Superficie& s) const { s.Scale(x1, y1, x2, y2); }
+};
+
 }  // namespace
 
 void PrepararDiagramas(Diagramas& g) {
@@ -26,24 +45,32 @@ void PrepararDiagramas(Diagramas& g) {
     }
 }
 
-void EscalarDiagramas(const Estado& e, Diagramas& g) {
+bool EscalarDiagramas(const Estado& e, Diagramas& g) {
     const double TM = e.TemperaturaMaxima, PM = e.PresionMaxima, SM = e.EntropiaMaxima, HM = e.EntalpiaMaxima;
     const double dV = e.V1 - e.V2, dT = TM - e.T1, dP = PM - e.p1, dS = SM - e.S1, dH = HM - e.h1;
     const double V2 = e.V1 / e.Rc;
 
-    g.pctTV.Scale(F(V2 - kMargen * dV), F(-TM - kMargen * dT), F(e.V1 + kMargen * dV), F(-e.T1 + kMargen * dT));
+    // The corners in single precision, checked before any surface takes them.
+    // The top margin of T-s takes h1, an enthalpy, where T1 would be expected.
+    Esquinas tv, pv, hs, ts;
+    if (!tv.Poner(V2 - kMargen * dV, -TM - kMargen * dT, e.V1 + kMargen * dV, -e.T1 + kMargen * dT) ||
+        !pv.Poner(V2 - kMargen * dV, -PM - kMargen * dP, e.V1 + kMargen * dV, -e.p1 + kMargen * dP) ||
+        !hs.Poner(e.S1 - kMargen * dS, -HM - kMargen * dH, SM + kMargen * dS, -e.h1 + kMargen * dH) ||
+        !ts.Poner(e.S1 - kMargen * dS, -TM + kMargen * (e.h1 - TM), SM + kMargen * dS, -e.T1 + kMargen * dT))
+        return false;
+
+    tv.Aplicar(g.pctTV);
     ImprimirEn(g.pctTV, V2 - 0.05 * dV, -e.T1 - 0.05 * dT + 0.6 * g.pctTV.TextHeight("DIAGRAMA TV"), "  DIAGRAMA TV");
 
-    g.pctPV.Scale(F(V2 - kMargen * dV), F(-PM - kMargen * dP), F(e.V1 + kMargen * dV), F(-e.p1 + kMargen * dP));
+    pv.Aplicar(g.pctPV);
     ImprimirEn(g.pctPV, V2 - 0.05 * dV, -e.p1 - 0.05 * dP + 0.6 * g.pctPV.TextHeight("DIAGRAMA PV"), "DIAGRAMA PV");
 
-    g.pctHS.Scale(F(e.S1 - kMargen * dS), F(-HM - kMargen * dH), F(SM + kMargen * dS), F(-e.h1 + kMargen * dH));
+    hs.Aplicar(g.pctHS);
     ImprimirEn(g.pctHS, e.S1 - kMargen * dS, -HM - kMargen * dH, "DIAGRAMA h-s");
 
-    // The top margin of T-s takes h1, an enthalpy, where T1 would be expected.
-    g.pctTS.Scale(F(e.S1 - kMargen * dS), F(-TM + kMargen * (e.h1 - TM)), F(SM + kMargen * dS),
-                  F(-e.T1 + kMargen * dT));
+    ts.Aplicar(g.pctTS);
     ImprimirEn(g.pctTS, e.S1 - kMargen * dS, -TM - kMargen * dT, "DIAGRAMA T-s");
+    return true;
 }
 
 void NumerarPuntos(const Estado& e, Diagramas& g) {

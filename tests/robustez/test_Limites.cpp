@@ -46,5 +46,22 @@ TEST(LimitesTest, MaximaBeyondSinglePrecisionStayFinite) {
     EXPECT_EQ(e.EntropiaMaxima, std::numeric_limits<float>::max());
 }
 
+// Cycles whose figures the diagrams cannot hold: beyond single precision, or
+// with no extent on an axis once in single precision. Refused before any
+// surface is scaled.
+TEST(LimitesTest, CycleThatTheDiagramsCannotHoldIsRefused) {
+    for (const Args& datos : {Args{"--cilindrada", "1e300"}, Args{"--p1", "1e300"}, Args{"--cilindrada", "1e-40"},
+                              Args{"--cilindrada", "1e-300", "--rc", "1e300"}}) {
+        for (const char* ciclo : {"Otto", "Diesel", "Mixto"}) {
+            Args args = {"--ciclo", ciclo};
+            args.insert(args.end(), datos.begin(), datos.end());
+            Ejecucion r;
+            r.Calcular(args);
+            EXPECT_TRUE(r.Rechazado()) << ciclo << " " << datos[1] << r.Mensajes();
+            EXPECT_EQ(r.Defectos(), "") << ciclo << " " << datos[1];
+        }
+    }
+}
+
 }  // namespace
 }  // namespace vanta::prueba
