@@ -1,5 +1,8 @@
 #include "fluids/Graficas.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "services/Numeros.h"
 
 namespace vanta {
@@ -16,7 +19,13 @@ constexpr int32_t kColorS = 0x00FF00;
 constexpr int32_t kColorSO2 = 0x008000;
 constexpr int kRellenoSolido = 0;
 
-float F(double v) { return static_cast<float>(v); }
+// Coordinates in single precision. A bar beyond its range (a humidity far
+// above 100 %) is drawn at the edge of the singles: converting it as it
+// stands is undefined, and would reach the picture as infinity.
+float F(double v) {
+    constexpr double kMayor = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(v, -kMayor, kMayor));
+}
 
 void Imprimir(Superficie& sup, double x, double y, std::string_view texto) {
     sup.SetCurrentX(F(x));

@@ -63,5 +63,18 @@ TEST(LimitesTest, CycleThatTheDiagramsCannotHoldIsRefused) {
     }
 }
 
+// Humid air at the edges of the doubles: a composition that is not finite is
+// refused and leaves the air as it was; one that is finite but absurd is
+// accepted, as the program accepts any humidity, charted within the singles,
+// and refused later by the property sums.
+TEST(LimitesTest, AirAtTheEdgeOfTheDoublesIsRefusedOrChartedWithinRange) {
+    for (const Args& args : {Args{"--humedad", "1e300"}, Args{"--humedad", "-1e300"}}) {
+        Ejecucion r;
+        r.Calcular(args);
+        EXPECT_TRUE(r.Rechazado()) << args[1] << " " << args[3 % args.size()] << r.Mensajes();
+        EXPECT_EQ(r.Defectos(), "") << args[1] << " " << args[3 % args.size()];
+    }
+}
+
 }  // namespace
 }  // namespace vanta::prueba
