@@ -38,19 +38,23 @@ bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
         return false;
     }
 
-    e.Psaturacion = std::exp(19.1 - 0.008 * e.Tambiente - 6012.0 / e.Tambiente) * 100000.0;
-    e.xH2OAire = e.Humedad * e.Psaturacion / (e.Pambiente * 100.0);
-    e.xN2Aire = kAireSecoN2 - e.xH2OAire * kAireSecoN2;
-    e.xO2Aire = kAireSecoO2 - e.xH2OAire * kAireSecoO2;
-    e.xArAire = kAireSecoAr - e.xH2OAire * kAireSecoAr;
-    e.xCO2Aire = kAireSecoCO2 - e.xH2OAire * kAireSecoCO2;
-    e.MasaMolecularAire = e.xO2Aire * 0.032 + e.xN2Aire * 0.028018 + e.xCO2Aire * 0.044011 + e.xArAire * 0.039948 +
-                          e.xH2OAire * 0.018016;
-
-    if (!std::isfinite(e.MasaMolecularAire)) {
+    // Worked out first and kept only when the molar mass, which sums them
+    // all, is a finite number: a humidity or a pressure at the edge of the
+    // doubles leaves the previous air in place.
+    const double psat = std::exp(19.1 - 0.008 * e.Tambiente - 6012.0 / e.Tambiente) * 100000.0;
+    const double xH2O = e.Humedad * psat / (e.Pambiente * 100.0);
+    const double xN2 = kAireSecoN2 - xH2O * kAireSecoN2;
+    const double xO2 = kAireSecoO2 - xH2O * kAireSecoO2;
+    const double xAr = kAireSecoAr - xH2O * kAireSecoAr;
+    const double xCO2 = kAireSecoCO2 - xH2O * kAireSecoCO2;
+    const double masaMolecular = xO2 * 0.032 + xN2 * 0.028018 + xCO2 * 0.044011 + xAr * 0.039948 + xH2O * 0.018016;
+    if (!std::isfinite(masaMolecular)) {
         FalloAritmetico(e, dlg, kCausaFueraDeRango);
         return false;
     }
+    e.Psaturacion = psat;
+    e.xH2OAire = xH2O, e.xN2Aire = xN2, e.xO2Aire = xO2, e.xArAire = xAr, e.xCO2Aire = xCO2;
+    e.MasaMolecularAire = masaMolecular;
 
     const double suma = e.xO2Aire + e.xN2Aire + e.xCO2Aire + e.xArAire + e.xH2OAire;
     if (Round(suma, 2) != 1) dlg.MsgBox(std::string(kMensajeSuma) + TextoGeneral(suma));

@@ -68,7 +68,9 @@ TEST(LimitesTest, CycleThatTheDiagramsCannotHoldIsRefused) {
 // accepted, as the program accepts any humidity, charted within the singles,
 // and refused later by the property sums.
 TEST(LimitesTest, AirAtTheEdgeOfTheDoublesIsRefusedOrChartedWithinRange) {
-    for (const Args& args : {Args{"--humedad", "1e300"}, Args{"--humedad", "-1e300"}}) {
+    for (const Args& args : {Args{"--presion-ambiente", "1e-300", "--humedad", "11"},
+                             Args{"--presion-ambiente", "1e-300", "--humedad", "1000"},
+                             Args{"--humedad", "1e300"}, Args{"--humedad", "-1e300"}}) {
         Ejecucion r;
         r.Calcular(args);
         EXPECT_TRUE(r.Rechazado()) << args[1] << " " << args[3 % args.size()] << r.Mensajes();
