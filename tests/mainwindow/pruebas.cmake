@@ -5,4 +5,5 @@ list(APPEND VANTA_GUI_TESTS
   ${CMAKE_CURRENT_LIST_DIR}/test_Etapas.cpp
   ${CMAKE_CURRENT_LIST_DIR}/test_Capturas.cpp)
 list(APPEND VANTA_CORE_TESTS
-  ${CMAKE_CURRENT_LIST_DIR}/test_LecturaRaton.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/test_LecturaRaton.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/test_Ampliacion.cpp)
