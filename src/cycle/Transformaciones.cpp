@@ -32,6 +32,9 @@ constexpr std::string_view kCausaCvNulo = "el calor específico de los gases es 
 constexpr std::string_view kCausaFraccionQuemada =
     "la presión del gas quemado es igual a la del gas fresco y el grado de combustión no se puede hallar";
 constexpr std::string_view kCausaEstadoInicial = "el estado del comienzo de la combustión no es válido";
+constexpr std::string_view kCausaCombustionFueraDeRango =
+    "las presiones o el calor por mol de la combustión salen del intervalo de los números del programa; revise "
+    "la cilindrada y el combustible";
 constexpr std::string_view kCausaPasoNulo =
     "el paso de volumen es tan pequeño frente al volumen que la carrera no avanza; revise la cilindrada y la "
     "relación de compresión";
@@ -163,9 +166,19 @@ void BuscarGradoCombustionPmax(Estado& e, Dialogos& dlg) {
     e.Q23 = e.CalorPorMol * e.MolesQuemados;
 }
 
+// A figure of the combustion that leaves the doubles (a charge of a few
+// molecules, a heat of zero) stops it before it is stored.
+bool Finito(Estado& e, Dialogos& dlg, double v) {
+    if (std::isfinite(v)) return true;
+    FalloAritmetico(e, dlg, kCausaCombustionFueraDeRango);
+    return false;
+}
+
 void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, int dibujar) {
-    e.PresionMolFresco = e.PresionInicial / e.MolesHumos;
-    e.CalorPorMol = e.Qciclo / e.MolesHumos;
+    const double presionMolFresco = e.PresionInicial / e.MolesHumos, calorPorMol = e.Qciclo / e.MolesHumos;
+    if (!Finito(e, dlg, presionMolFresco) || !Finito(e, dlg, calorPorMol)) return;
+    e.PresionMolFresco = presionMolFresco;
+    e.CalorPorMol = calorPorMol;
     e.TemperaturaIsocoraB = e.Temperatura;
     e.TemperaturaIsocoraA = e.Temperatura - 1;
     PropiedadesHumos(e, dlg);
@@ -188,17 +201,25 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, int
         PropiedadesHumos(e, dlg);
     }
     e.TemperaturaQuemado = e.Temperatura;
-    e.PresionMolQuemado = e.TemperaturaQuemado * kR / e.VolumenInicial;
+    const double presionMolQuemado = e.TemperaturaQuemado * kR / e.VolumenInicial;
+    if (!Finito(e, dlg, presionMolQuemado)) return;
+    e.PresionMolQuemado = presionMolQuemado;
     if (tipo == kCalorDado) {
-        e.MolesQuemados = e.Q23 / e.CalorPorMol;
-        e.PresionIsocora = (e.MolesHumos - e.MolesQuemados) * e.PresionMolFresco + e.MolesQuemados * e.PresionMolQuemado;
+        const double molesQuemados = e.Q23 / e.CalorPorMol;
+        const double presionIsocora =
+            (e.MolesHumos - molesQuemados) * e.PresionMolFresco + molesQuemados * e.PresionMolQuemado;
+        if (!Finito(e, dlg, molesQuemados) || !Finito(e, dlg, presionIsocora)) return;
+        e.MolesQuemados = molesQuemados;
+        e.PresionIsocora = presionIsocora;
         e.Presion = e.PresionIsocora;
         e.TipoFluido = kFluidoAireHumos;
     }
     if (tipo == kCalorHastaPmax) {
+        const double presion = e.PresionMolQuemado * e.MolesHumos;
+        if (!Finito(e, dlg, presion)) return;
         e.MolesSuperior = e.MolesHumos;
         e.MolesInferior = 0;
-        e.Presion = e.PresionMolQuemado * e.MolesHumos;
+        e.Presion = presion;
         if (e.Presion <= e.Pmax) {
             e.PresionIsocora = e.Presion;
             e.MolesQuemados = e.MolesHumos;
@@ -209,7 +230,9 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, int
         }
     }
     // The temperature of the whole gas by the ideal-gas rule at constant volume.
-    e.TemperaturaIsocora = e.PresionIsocora * e.TemperaturaInicial / e.PresionInicial;
+    const double temperaturaIsocora = e.PresionIsocora * e.TemperaturaInicial / e.PresionInicial;
+    if (!Finito(e, dlg, temperaturaIsocora)) return;
+    e.TemperaturaIsocora = temperaturaIsocora;
     e.GammaFinal = " ND";
     PonerEstadoFinal(e, dlg, e.Q23, 0, e.PresionIsocora, e.VolumenInicial, e.TemperaturaIsocora);
     if (dibujar == kDibujar) LineaVolumen(g, e.VolumenInicial, e.TemperaturaFinal, e.PresionFinal);

@@ -9,7 +9,9 @@
 #include <vector>
 
 #include "Ejecucion.h"
+#include "cycle/Ciclo.h"
 #include "properties/Busquedas.h"
+#include "properties/Especies.h"
 
 namespace vanta::prueba {
 namespace {
@@ -75,6 +77,20 @@ TEST(LimitesTest, AirAtTheEdgeOfTheDoublesIsRefusedOrChartedWithinRange) {
         r.Calcular(args);
         EXPECT_TRUE(r.Rechazado()) << args[1] << " " << args[3 % args.size()] << r.Mensajes();
         EXPECT_EQ(r.Defectos(), "") << args[1] << " " << args[3 % args.size()];
+    }
+}
+
+// A charge of a few molecules: the pressure and the heat per mole of the
+// combustion at constant volume leave the doubles before anything is burnt.
+TEST(LimitesTest, ChargeOfAFewMoleculesIsRefusedBeforeItBurns) {
+    for (const Args& datos : {Args{"--ciclo", "Otto"}, Args{"--ciclo", "Mixto", "--pmax", "1e7"},
+                              Args{"--ciclo", "Mixto", "--proporcion-vcte", "30"}}) {
+        Args args = {"--cilindrada", "1e-300"};
+        args.insert(args.end(), datos.begin(), datos.end());
+        Ejecucion r;
+        r.Calcular(args);
+        EXPECT_TRUE(r.Rechazado()) << datos[1] << r.Mensajes();
+        EXPECT_EQ(r.Defectos(), "") << datos[1];
     }
 }
 
