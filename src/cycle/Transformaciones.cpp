@@ -106,11 +106,17 @@ bool AvanzaLaCarrera(Estado& e, Dialogos& dlg) {
 }
 
 // One polytropic step from the record's current state to V, with its work.
-void PasoPolitropico(Estado& e, double V, double& acumulado) {
-    CalcularTemperaturaPolitropica(e, e.Temperatura, e.Volumen, V, e.Gamma);
-    CalcularPresionPolitropica(e, e.Presion, e.Volumen, V, e.Gamma);
+// False, with the calculation stopped, when a figure leaves the doubles.
+bool PasoPolitropico(Estado& e, Dialogos& dlg, double V, double& acumulado) {
+    if (!CalcularTemperaturaPolitropica(e, e.Temperatura, e.Volumen, V, e.Gamma) ||
+        !CalcularPresionPolitropica(e, e.Presion, e.Volumen, V, e.Gamma) ||
+        !std::isfinite(acumulado + e.TrabajoTransformacion)) {
+        FalloAritmetico(e, dlg, kCausaPolitropicaFueraDeRango);
+        return false;
+    }
     acumulado += e.TrabajoTransformacion;
     e.TrabajoPaso = e.TrabajoTransformacion;
+    return true;
 }
 
 // ---- Heat at constant volume ----------------------------------------------------
@@ -368,7 +374,7 @@ void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vo
     while (e.Volumen - paso > volumenFinal) {
         e.VolumenProporcional = e.Volumen - paso;
         if (!AvanzaLaCarrera(e, dlg)) return;
-        PasoPolitropico(e, e.VolumenProporcional, e.W12acumulado);
+        if (!PasoPolitropico(e, dlg, e.VolumenProporcional, e.W12acumulado)) return;
         PropiedadesAire(e, dlg);
         ExponentePaso(e, modelo, exponente);
         if (dibujar == kDibujar)
@@ -381,7 +387,7 @@ void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vo
     if (e.VolumenProporcional > volumenFinal) {
         PropiedadesAire(e, dlg);
         ExponentePaso(e, modelo, exponente);
-        PasoPolitropico(e, volumenFinal, e.W12acumulado);
+        if (!PasoPolitropico(e, dlg, volumenFinal, e.W12acumulado)) return;
     }
     e.Gamma2 = e.Gamma;
     PonerEstadoFinal(e, dlg, 0, e.W12acumulado, e.PresionPolitropica, volumenFinal, e.TemperaturaPolitropica);
@@ -399,7 +405,7 @@ void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vol
     while (e.Volumen + paso < volumenFinal) {
         e.VolumenProporcional = e.Volumen + paso;
         if (!AvanzaLaCarrera(e, dlg)) return;
-        PasoPolitropico(e, e.VolumenProporcional, e.W45acumulado);
+        if (!PasoPolitropico(e, dlg, e.VolumenProporcional, e.W45acumulado)) return;
         PropiedadesHumos(e, dlg);
         ExponentePaso(e, modelo, exponente);
         LineaEnDiagramas(g, e.VolumenProporcional, e.TemperaturaPolitropica, e.PresionPolitropica, e.SHumos,
@@ -412,7 +418,7 @@ void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vol
         PropiedadesHumos(e, dlg);
         ExponentePaso(e, modelo, exponente);
         if (modelo == kModeloPolitropico) e.GammaInicial = " N.D.";
-        PasoPolitropico(e, volumenFinal, e.W45acumulado);
+        if (!PasoPolitropico(e, dlg, volumenFinal, e.W45acumulado)) return;
     }
     e.Gamma5 = e.Gamma;
     PonerEstadoFinal(e, dlg, 0, e.W45acumulado, e.PresionPolitropica, volumenFinal, e.TemperaturaPolitropica);

@@ -50,13 +50,20 @@ bool Evaluar(Estado& e, Dialogos& dlg, Fluido& f) {
 
 }  // namespace
 
-void CalcularTemperaturaPolitropica(Estado& e, double T1, double V1, double V2, double n) {
-    e.TemperaturaPolitropica = T1 * std::pow(V1 / V2, n - 1);
+bool CalcularTemperaturaPolitropica(Estado& e, double T1, double V1, double V2, double n) {
+    const double T = T1 * std::pow(V1 / V2, n - 1);
+    if (!std::isfinite(T)) return false;
+    e.TemperaturaPolitropica = T;
+    return true;
 }
 
-void CalcularPresionPolitropica(Estado& e, double p1, double V1, double V2, double n) {
-    e.PresionPolitropica = p1 * std::pow(V1 / V2, n);
-    e.TrabajoTransformacion = (p1 * V1 - e.PresionPolitropica * V2) / (n - 1);
+bool CalcularPresionPolitropica(Estado& e, double p1, double V1, double V2, double n) {
+    const double p = p1 * std::pow(V1 / V2, n);
+    const double trabajo = (p1 * V1 - p * V2) / (n - 1);
+    if (!std::isfinite(p) || !std::isfinite(trabajo)) return false;
+    e.PresionPolitropica = p;
+    e.TrabajoTransformacion = trabajo;
+    return true;
 }
 
 void TrabajoIsobarico(Estado& e, double p, double V1, double V2) { e.TrabajoTransformacion = p * (V2 - V1); }
@@ -149,7 +156,8 @@ void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2,
     PropiedadesInicio(e, dlg);
     e.hInicioBusqueda = e.hInicial;
     // The first estimate starts from the record, the later ones from T1, V1.
-    CalcularTemperaturaPolitropica(e, e.TemperaturaInicial, e.VolumenInicial, V2, e.Gamma);
+    if (!CalcularTemperaturaPolitropica(e, e.TemperaturaInicial, e.VolumenInicial, V2, e.Gamma))
+        return FalloAritmetico(e, dlg, kCausaPolitropicaFueraDeRango);
     e.Temperatura = e.TemperaturaPolitropica;
     e.TemperaturaAnterior = e.TemperaturaPolitropica + 10.0;
     double gammaMedio = e.GammaMedio.Numero();
@@ -179,10 +187,12 @@ void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2,
             return;
         }
         e.GammaMedio = gammaMedio;
-        CalcularTemperaturaPolitropica(e, T1, V1, V2, gammaMedio);
+        if (!CalcularTemperaturaPolitropica(e, T1, V1, V2, gammaMedio))
+            return FalloAritmetico(e, dlg, kCausaPolitropicaFueraDeRango);
         e.Temperatura = e.TemperaturaPolitropica;
     }
-    CalcularPresionPolitropica(e, p1, V1, V2, gammaMedio);
+    if (!CalcularPresionPolitropica(e, p1, V1, V2, gammaMedio))
+        return FalloAritmetico(e, dlg, kCausaPolitropicaFueraDeRango);
     e.Temperatura = e.TemperaturaPolitropica;
     PropiedadesFin(e, dlg, 0, e.W45acumulado);
 }

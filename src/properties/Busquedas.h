@@ -21,10 +21,16 @@ inline constexpr std::string_view kMensajeFluidoFin =
     " Debe especificar si al final de la transformación es aire, humo o aire con humos";
 
 // TemperaturaPolitropica = T1·(V1/V2)^(n − 1).
-void CalcularTemperaturaPolitropica(Estado& e, double T1, double V1, double V2, double n);
+// Both relations are false, and leave their results as they were, when a
+// result leaves the doubles (an exponent or a ratio of volumes far too large).
+bool CalcularTemperaturaPolitropica(Estado& e, double T1, double V1, double V2, double n);
 // PresionPolitropica = p1·(V1/V2)^n, and the work of the change in
 // TrabajoTransformacion.
-void CalcularPresionPolitropica(Estado& e, double p1, double V1, double V2, double n);
+bool CalcularPresionPolitropica(Estado& e, double p1, double V1, double V2, double n);
+// What the user is told when they are false.
+inline constexpr std::string_view kCausaPolitropicaFueraDeRango =
+    "la temperatura o la presión de la transformación salen del intervalo de los números del programa; revise la "
+    "relación de compresión y el exponente";
 // TrabajoTransformacion = p·(V2 − V1).
 void TrabajoIsobarico(Estado& e, double p, double V1, double V2);
 // VolumenProporcional = V1·T2/T1.

@@ -94,5 +94,32 @@ TEST(LimitesTest, ChargeOfAFewMoleculesIsRefusedBeforeItBurns) {
     }
 }
 
+// The polytropic relations on an exponent or a ratio of volumes far too
+// large: the temperature, the pressure or the work leaves the doubles at the
+// first step, and the walk stops there, as does the mean-exponent search.
+TEST(LimitesTest, PolytropicChangeBeyondTheDoublesIsRefused) {
+    for (const Args& datos : {Args{"--compresion", "politropica", "--n-compresion", "1e300"},
+                              Args{"--expansion", "politropica", "--n-expansion", "1e300"},
+                              Args{"--compresion", "politropica", "--rc", "1e200"},
+                              Args{"--compresion", "medio", "--rc", "1e200"},
+                              Args{"--compresion", "variable", "--rc", "1e200"}}) {
+        for (const char* ciclo : {"Otto", "Diesel"}) {
+            Args args = {"--ciclo", ciclo};
+            args.insert(args.end(), datos.begin(), datos.end());
+            Ejecucion r;
+            r.Calcular(args);
+            EXPECT_TRUE(r.Rechazado()) << ciclo << " " << datos[3] << r.Mensajes();
+            EXPECT_EQ(r.Defectos(), "") << ciclo << " " << datos[3];
+        }
+    }
+    Estado e;
+    e.TemperaturaPolitropica = 300, e.PresionPolitropica = 1e5, e.TrabajoTransformacion = -7;
+    EXPECT_FALSE(CalcularTemperaturaPolitropica(e, 300, 1, 1e-200, 3));
+    EXPECT_FALSE(CalcularPresionPolitropica(e, 1e5, 1, 1e-200, 3));
+    EXPECT_EQ(e.TemperaturaPolitropica, 300);
+    EXPECT_EQ(e.PresionPolitropica, 1e5);
+    EXPECT_EQ(e.TrabajoTransformacion, -7);
+}
+
 }  // namespace
 }  // namespace vanta::prueba
