@@ -38,6 +38,7 @@ constexpr std::string_view kCausaVolumenNulo =
 constexpr std::string_view kCausaDiagramas =
     "los valores del ciclo no caben en las escalas de los diagramas, o el ciclo no tiene extensión en alguno de "
     "ellos";
+constexpr std::string_view kCausaPotencia = "la potencia a ese régimen sale del intervalo de los números del programa";
 constexpr std::string_view kCausaCierre = "el trabajo o el combustible del ciclo son cero y el consumo no se puede calcular";
 
 // With Rc above this the focus goes to the compression ratio instead of Pmax.
@@ -446,6 +447,7 @@ void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPo
     ValidarNumero(e, dlg, txtRpm, rpm, " rpm ");
     // One power stroke in two revolutions.
     const double potencia = e.Wciclo * rpm * 0.5 / 60;
+    if (!std::isfinite(potencia)) return FalloAritmetico(e, dlg, kCausaPotencia);
     txtPotencia.SetText(Format(Round(potencia, 1), kMascaraPotencia));
     txtPotenciaCV.SetText(Format(Round(potencia / kVatiosCV, 1), kMascaraPotencia));
 }

@@ -121,5 +121,19 @@ TEST(LimitesTest, PolytropicChangeBeyondTheDoublesIsRefused) {
     EXPECT_EQ(e.TrabajoTransformacion, -7);
 }
 
+// The power at a speed: a figure beyond the doubles is told, and the boxes
+// keep what they showed.
+TEST(LimitesTest, PowerBeyondTheDoublesIsToldAndNotShown) {
+    Estado e;
+    e.Wciclo = 120;
+    DialogosGrabados dlg;
+    CajaTextoSimple txtRpm("1e308"), txtPotencia("antes"), txtPotenciaCV("antes");
+    txtRpm_Change(e, dlg, txtRpm, txtPotencia, txtPotenciaCV);
+    EXPECT_TRUE(e.ErrorCalculo);
+    EXPECT_EQ(dlg.mensajes.size(), 1u);
+    EXPECT_EQ(txtPotencia.Text(), "antes");
+    EXPECT_EQ(txtPotenciaCV.Text(), "antes");
+}
+
 }  // namespace
 }  // namespace vanta::prueba
