@@ -39,8 +39,9 @@ bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
     }
 
     // Worked out first and kept only when the molar mass, which sums them
-    // all, is a finite number: a humidity or a pressure at the edge of the
-    // doubles leaves the previous air in place.
+    // all, and the percentage of water that the chart shows are finite
+    // numbers: a humidity or a pressure at the edge of the doubles leaves the
+    // previous air in place.
     const double psat = std::exp(19.1 - 0.008 * e.Tambiente - 6012.0 / e.Tambiente) * 100000.0;
     const double xH2O = e.Humedad * psat / (e.Pambiente * 100.0);
     const double xN2 = kAireSecoN2 - xH2O * kAireSecoN2;
@@ -48,7 +49,7 @@ bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
     const double xAr = kAireSecoAr - xH2O * kAireSecoAr;
     const double xCO2 = kAireSecoCO2 - xH2O * kAireSecoCO2;
     const double masaMolecular = xO2 * 0.032 + xN2 * 0.028018 + xCO2 * 0.044011 + xAr * 0.039948 + xH2O * 0.018016;
-    if (!std::isfinite(masaMolecular)) {
+    if (!std::isfinite(masaMolecular) || !std::isfinite(xH2O * 100)) {
         FalloAritmetico(e, dlg, kCausaFueraDeRango);
         return false;
     }

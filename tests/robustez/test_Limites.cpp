@@ -72,6 +72,7 @@ TEST(LimitesTest, CycleThatTheDiagramsCannotHoldIsRefused) {
 TEST(LimitesTest, AirAtTheEdgeOfTheDoublesIsRefusedOrChartedWithinRange) {
     for (const Args& args : {Args{"--presion-ambiente", "1e-300", "--humedad", "11"},
                              Args{"--presion-ambiente", "1e-300", "--humedad", "1000"},
+                             Args{"--presion-ambiente", "1e-300", "--temperatura-ambiente", "566", "--humedad", "53"},
                              Args{"--humedad", "1e300"}, Args{"--humedad", "-1e300"}}) {
         Ejecucion r;
         r.Calcular(args);
