@@ -32,6 +32,8 @@ namespace {
 constexpr std::string_view kMensajeLimite =
     "Se ha superado la temperatura máxima que admite el programa 5000 K, Temperatura que provocó el error = ";
 constexpr std::string_view kCausaTemperaturaNoPositiva = "la temperatura del gas no es positiva";
+constexpr std::string_view kCausaTemperaturaFueraDeRango =
+    "la temperatura del gas es tan próxima a cero que su entalpía sale del intervalo de los números del programa";
 
 // T and its powers, each power taken once by the general power function.
 struct Potencias {
@@ -98,8 +100,16 @@ void CalcularEspecies(Estado& e, Dialogos& dlg) {
     const Coeficientes* coef = baja ? kCoeficientesBaja : kCoeficientesAlta;
     const CamposRango& campos = baja ? kCamposBaja : kCamposAlta;
     const Potencias p(e.Temperatura);
+    // A temperature a hair above zero takes a6/T of the enthalpy beyond the
+    // doubles; nothing is stored then.
+    double h[kNumeroEspecies], sumaH = 0;
+    for (Especie s : kOrden) sumaH += h[s] = Entalpia(p, coef[s]);
+    if (!std::isfinite(sumaH)) {
+        FalloAritmetico(e, dlg, kCausaTemperaturaFueraDeRango);
+        return;
+    }
     for (Especie s : kOrden) e.*campos.cp[s] = Cp(p, coef[s]);
-    for (Especie s : kOrden) e.*campos.h[s] = Entalpia(p, coef[s]);
+    for (Especie s : kOrden) e.*campos.h[s] = h[s];
     for (Especie s : kOrden) e.*campos.s0[s] = Entropia(p, coef[s]);
 }
 

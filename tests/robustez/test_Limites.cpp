@@ -95,6 +95,23 @@ TEST(LimitesTest, ChargeOfAFewMoleculesIsRefusedBeforeItBurns) {
     }
 }
 
+// A temperature a hair above zero: the enthalpy's a6/T leaves the doubles.
+// Refused with nothing stored, whether typed or reached by a walk.
+TEST(LimitesTest, TemperatureAHairAboveZeroIsRefused) {
+    Estado e;
+    DialogosGrabados dlg;
+    e.Temperatura = 1e-310;
+    CalcularEspecies(e, dlg);
+    EXPECT_TRUE(e.ErrorCalculo);
+    EXPECT_EQ(dlg.mensajes.size(), 1u);
+    EXPECT_EQ(VariablesNoFinitas(e), std::vector<std::string>{});
+
+    Ejecucion r;
+    r.Calcular({"--t1", "1e-310"});
+    EXPECT_TRUE(r.Rechazado()) << r.Mensajes();
+    EXPECT_EQ(r.Defectos(), "");
+}
+
 // The polytropic relations on an exponent or a ratio of volumes far too
 // large: the temperature, the pressure or the work leaves the doubles at the
 // first step, and the walk stops there, as does the mean-exponent search.
