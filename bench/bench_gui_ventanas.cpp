@@ -31,9 +31,12 @@ QApplication& Aplicacion() {
     static int argc = 1;
     static char nombre[] = "bench_gui_ventanas";
     static char* argv[] = {nombre, nullptr};
-    static std::unique_ptr<QApplication> app = [] {
+    // Made on first use and never destroyed: the benchmarks' main knows
+    // nothing of Qt, and an application torn down among the static
+    // destructors at exit would outlive the libraries it needs.
+    static QApplication* app = [] {
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-        auto a = std::make_unique<QApplication>(argc, argv);
+        auto* a = new QApplication(argc, argv);
         std::setlocale(LC_NUMERIC, "C");
         FijarSeparadorDecimal('.');
         return a;

@@ -63,25 +63,30 @@ SuperficieQt::SuperficieQt(QWidget* padre, int32_t fondo) : QFrame(padre), fondo
 
 SuperficieQt::~SuperficieQt() { CerrarPintor(); }
 
+const SuperficieQt::Medida& SuperficieQt::Medir(bool otraVez) const {
+    if (otraVez || size() != medida_.widget) medida_ = {size(), contentsRect().size(), devicePixelRatioF()};
+    return medida_;
+}
+
 QSize SuperficieQt::TamanoDispositivo() const {
-    const QSize logico = contentsRect().size();
-    if (logico.isEmpty()) return {};
-    const qreal dpr = devicePixelRatioF();
-    return {qMax(1, qRound(logico.width() * dpr)), qMax(1, qRound(logico.height() * dpr))};
+    const Medida& m = Medir();
+    if (m.dentro.isEmpty()) return {};
+    return {qMax(1, qRound(m.dentro.width() * m.dpr)), qMax(1, qRound(m.dentro.height() * m.dpr))};
 }
 
 void SuperficieQt::AjustarImagenes() {
     const QSize tamano = TamanoDispositivo();
-    if (imagen_.size() == tamano && imagen_.devicePixelRatio() == devicePixelRatioF()) return;
+    const qreal dpr = Medir().dpr;
+    if (imagen_.size() == tamano && imagen_.devicePixelRatio() == dpr) return;
     CerrarPintor();
     capa_ = QImage();
     capaVacia_ = true;
     // Only the screen's pixel ratio changed (the window went to another
     // screen): the same picture, at the new density.
     if (!imagen_.isNull() && !tamano.isEmpty() &&
-        imagen_.deviceIndependentSize().toSize() == contentsRect().size()) {
+        imagen_.deviceIndependentSize().toSize() == Medir().dentro) {
         imagen_ = imagen_.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        imagen_.setDevicePixelRatio(devicePixelRatioF());
+        imagen_.setDevicePixelRatio(dpr);
         return;
     }
     if (tamano.isEmpty()) {
@@ -89,7 +94,7 @@ void SuperficieQt::AjustarImagenes() {
         return;
     }
     imagen_ = QImage(tamano, QImage::Format_RGB32);
-    imagen_.setDevicePixelRatio(devicePixelRatioF());
+    imagen_.setDevicePixelRatio(dpr);
     // The picture measures text as the widget does.
     imagen_.setDotsPerMeterX(qRound(logicalDpiX() / 0.0254));
     imagen_.setDotsPerMeterY(qRound(logicalDpiY() / 0.0254));
@@ -99,6 +104,13 @@ void SuperficieQt::AjustarImagenes() {
 void SuperficieQt::CerrarPintor() {
     pintor_.reset();
     destinoPintor_ = nullptr;
+    colorPluma_ = -1;
+}
+
+void SuperficieQt::Pluma(QPainter* pintor) {
+    if (colorPluma_ == ForeColor()) return;
+    pintor->setPen(QPen(ColorQt(ForeColor()), 1));
+    colorPluma_ = ForeColor();
 }
 
 QPainter* SuperficieQt::Pintor() {
@@ -139,31 +151,32 @@ QImage SuperficieQt::Imagen() {
 }
 
 QPointF SuperficieQt::APixel(double x, double y) const {
-    const QSizeF t = contentsRect().size();
+    const QSizeF t = Medir().dentro;
     return {(x - ScaleLeft()) * t.width() / ScaleWidth(), (y - ScaleTop()) * t.height() / ScaleHeight()};
 }
 
 QPointF SuperficieQt::AUsuario(QPointF pixel) const {
-    const QSizeF t = contentsRect().size();
+    const QSizeF t = Medir().dentro;
     if (t.isEmpty()) return {ScaleLeft(), ScaleTop()};
     return {ScaleLeft() + pixel.x() * ScaleWidth() / t.width(), ScaleTop() + pixel.y() * ScaleHeight() / t.height()};
 }
 
 float SuperficieQt::TextWidth(std::string_view texto) const {
-    const int ancho = contentsRect().width();
+    const int ancho = Medir().dentro.width();
     if (ancho <= 0) return 0;
     const QFontMetricsF medidas(font(), this);
     return static_cast<float>(medidas.horizontalAdvance(ATexto(texto)) * std::fabs(ScaleWidth()) / ancho);
 }
 
 float SuperficieQt::TextHeight(std::string_view) const {
-    const int alto = contentsRect().height();
+    const int alto = Medir().dentro.height();
     if (alto <= 0) return 0;
     const QFontMetricsF medidas(font(), this);
     return static_cast<float>(medidas.height() * std::fabs(ScaleHeight()) / alto);
 }
 
 void SuperficieQt::AlLimpiar() {
+    Medir(true);
     AjustarImagenes();
     CerrarPintor();
     // Clearing the persistent picture wipes what was shown over it as well;
@@ -185,10 +198,10 @@ void SuperficieQt::Refresh() {
 
 void SuperficieQt::AlPunto(float x, float y) {
     const QPointF p = APixel(x, y);
-    const QSizeF t = contentsRect().size();
+    const QSizeF t = Medir().dentro;
     if (!Finito(p) || p.x() < -1 || p.y() < -1 || p.x() > t.width() + 1 || p.y() > t.height() + 1) return;
     if (QPainter* pintor = Pintor()) {
-        pintor->setPen(QPen(ColorQt(ForeColor()), 1));
+        Pluma(pintor);
         pintor->drawPoint(p);
     }
 }
@@ -196,11 +209,11 @@ void SuperficieQt::AlPunto(float x, float y) {
 void SuperficieQt::AlLinea(float x1, float y1, float x2, float y2) {
     QPointF p = APixel(x1, y1), q = APixel(x2, y2);
     if (!Finito(p) || !Finito(q)) return;
-    const QRectF limite = QRectF(QPointF(0, 0), QSizeF(contentsRect().size()))
+    const QRectF limite = QRectF(QPointF(0, 0), QSizeF(Medir().dentro))
                               .adjusted(-kMargenRecorte, -kMargenRecorte, kMargenRecorte, kMargenRecorte);
     if (!Recortar(p, q, limite)) return;
     if (QPainter* pintor = Pintor()) {
-        pintor->setPen(QPen(ColorQt(ForeColor()), 1));
+        Pluma(pintor);
         pintor->drawLine(p, q);
     }
 }
@@ -208,7 +221,7 @@ void SuperficieQt::AlLinea(float x1, float y1, float x2, float y2) {
 void SuperficieQt::AlCaja(float x1, float y1, float x2, float y2, int32_t color) {
     const QPointF p = APixel(x1, y1), q = APixel(x2, y2);
     if (!Finito(p) || !Finito(q)) return;
-    const QRectF limite = QRectF(QPointF(0, 0), QSizeF(contentsRect().size()))
+    const QRectF limite = QRectF(QPointF(0, 0), QSizeF(Medir().dentro))
                               .adjusted(-kMargenRecorte, -kMargenRecorte, kMargenRecorte, kMargenRecorte);
     const QRectF caja = QRectF(p, q).normalized().intersected(limite);
     if (caja.isEmpty() && caja.width() <= 0 && caja.height() <= 0) return;
@@ -219,17 +232,18 @@ void SuperficieQt::AlCaja(float x1, float y1, float x2, float y2, int32_t color)
         pintor->setBrush(ColorQt(color));
         pintor->drawRect(caja);
         pintor->setBrush(Qt::NoBrush);
+        colorPluma_ = -1;
     }
 }
 
 void SuperficieQt::AlTexto(float x, float y, std::string_view texto) {
     const QPointF p = APixel(x, y);
     if (!Finito(p) || texto.empty()) return;
-    const QSizeF t = contentsRect().size();
+    const QSizeF t = Medir().dentro;
     // Text that starts far outside the picture cannot reach into it.
     if (std::fabs(p.x()) > 4 * t.width() + 1000 || std::fabs(p.y()) > 4 * t.height() + 1000) return;
     if (QPainter* pintor = Pintor()) {
-        pintor->setPen(ColorQt(ForeColor()));
+        Pluma(pintor);
         const QFontMetricsF medidas(pintor->font(), pintor->device());
         pintor->drawText(QPointF(p.x(), p.y() + medidas.ascent()), ATexto(texto));
     }
@@ -237,6 +251,7 @@ void SuperficieQt::AlTexto(float x, float y, std::string_view texto) {
 
 void SuperficieQt::paintEvent(QPaintEvent* evento) {
     repintoPendiente_ = false;
+    Medir(true);
     AjustarImagenes();
     CerrarPintor();
     QFrame::paintEvent(evento);
@@ -249,6 +264,7 @@ void SuperficieQt::paintEvent(QPaintEvent* evento) {
 
 void SuperficieQt::resizeEvent(QResizeEvent* evento) {
     QFrame::resizeEvent(evento);
+    Medir(true);
     AjustarImagenes();
 }
 

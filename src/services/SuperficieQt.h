@@ -84,7 +84,17 @@ private:
     void CerrarPintor();
     // Brings both images to the widget's size (a new size starts clear).
     void AjustarImagenes();
+    // The widget's inside (logical pixels) and the screen's pixel ratio,
+    // measured again only when the widget's size changes or when asked: the
+    // drawing asks for them at every point.
+    struct Medida {
+        QSize widget, dentro;
+        qreal dpr = 1;
+    };
+    const Medida& Medir(bool otraVez = false) const;
     QSize TamanoDispositivo() const;
+    // Sets the painter's pen to the fore colour when it is not already.
+    void Pluma(QPainter* pintor);
     void Repintar();
     void DatosRaton(const QMouseEvent* evento, int& boton, int& mayusculas, float& x, float& y) const;
 
@@ -95,6 +105,8 @@ private:
     std::unique_ptr<QPainter> pintor_;
     QImage* destinoPintor_ = nullptr;
     bool repintoPendiente_ = false;
+    mutable Medida medida_;
+    int64_t colorPluma_ = -1;  // the open painter's pen colour; -1 none set
     bool pulsado_ = false;
 };
 

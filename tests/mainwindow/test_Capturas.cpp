@@ -20,14 +20,13 @@ class PruebaCapturas : public QObject {
     }
 
 private slots:
-    void initTestCase() {
+    // A skip here, not in initTestCase: a skipped initTestCase leaves the
+    // test library skipping the classes that run after it.
+    void lasVentanasDelCiclo() {
         const QString destino = qEnvironmentVariable("VANTA_CAPTURAS");
         if (destino.isEmpty()) QSKIP("VANTA_CAPTURAS no indica una carpeta");
         QVERIFY(QDir().mkpath(destino));
         carpeta_ = QDir(destino);
-    }
-
-    void lasVentanasDelCiclo() {
         Programa p;
         Guardar(&p.f, "ventana-principal-inicio.png");
         QVERIFY(p.Pulsar("cmdElegirComburente"));
