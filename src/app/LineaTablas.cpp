@@ -27,8 +27,9 @@ struct OpcionesTablas {
 
 // The options of `calcular` that define the fluid; the cycle's have no place
 // in a table.
-const char* const kOpcionesFluido[] = {"presion-ambiente", "temperatura-ambiente", "humedad", "combustible",
-                                       "formula", "masa", "masa-molecular", "entalpia-formacion", "fr", "lambda"};
+const char* const kOpcionesFluido[] = {
+    "presion-ambiente", "temperatura-ambiente", "humedad", "combustible", "formula", "masa",
+    "masa-molecular",   "entalpia-formacion",   "fr",      "lambda"};
 
 bool EsOpcionFluido(const std::string& nombre) {
     for (const char* o : kOpcionesFluido)
@@ -81,7 +82,9 @@ public:
         ++cuenta;
         err_ << mensaje << '\n';
     }
-    std::string InputBox(std::string_view, std::string_view porDefecto) override { return std::string(porDefecto); }
+    std::string InputBox(std::string_view, std::string_view porDefecto) override {
+        return std::string(porDefecto);
+    }
     int cuenta = 0;
 
 private:
@@ -126,13 +129,15 @@ private:
 
 std::string TextoUsoTablas() {
     return "Uso: vanta tablas [opciones]   las tablas de propiedades como texto\n"
-           "  --fluido aire|humos|Ar|CO|CO2|H2O|N2|O2 (aire)   el comburente, los gases de combustión o una especie\n"
+           "  --fluido aire|humos|Ar|CO|CO2|H2O|N2|O2 (aire)   el comburente, los gases de combustión o una "
+           "especie\n"
            "  --por mol|kg (mol)               resultados por mol o por kilogramo\n"
            "  --desde K (300)  --hasta K (5000)  --paso K (100)\n"
            "El fluido se define con las opciones de calcular:\n"
            "  --presion-ambiente PA (100000)  --temperatura-ambiente K (300)  --humedad PCT (0)\n"
            "  --combustible NOMBRE (Gasolina) | --formula C,H,N,O,S --entalpia-formacion J_MOL\n"
-           "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion J_MOL\n"
+           "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion "
+           "J_MOL\n"
            "  --fr X (1) | --lambda X\n"
            "Los números se escriben como en las casillas: \"0,5\" y \"0.5\" valen lo mismo.\n";
 }

@@ -22,10 +22,12 @@ constexpr std::string_view kCabeceraMezclaMol =
 constexpr std::string_view kCabeceraMezclaKg =
     "   T (K)            cp (J/kg)             h Total (J/kg)          S0 (J/(kg·K))             Gamma";
 constexpr std::string_view kCabeceraEspecieMol =
-    "   T (K)            cp (J/mol)            cv (J/mol)             h Total (J/mol)          S0 (J/(mol·K))  "
+    "   T (K)            cp (J/mol)            cv (J/mol)             h Total (J/mol)          S0 "
+    "(J/(mol·K))  "
     "           Gamma";
 constexpr std::string_view kCabeceraEspecieKg =
-    "   T (K)            cp (J/kg)              cv (J/kg)             h Total (J/kg)          S0 (J/(kg·K))    "
+    "   T (K)            cp (J/kg)              cv (J/kg)             h Total (J/kg)          S0 (J/(kg·K))  "
+    "  "
     "         Gamma";
 
 // The field names of the three boxes in the validator's message.
@@ -41,7 +43,8 @@ constexpr std::string_view kMascara4 = "### ### ##0.0000";
 constexpr std::string_view kLimitesNoFinitos =
     "Las temperaturas inicial y final y el incremento de temperatura han de ser números finitos.";
 constexpr std::string_view kPasoNoPositivo =
-    "El incremento de temperatura ha de ser mayor que 0 K: con él la tabla no llegaría nunca a la temperatura final.";
+    "El incremento de temperatura ha de ser mayor que 0 K: con él la tabla no llegaría nunca a la "
+    "temperatura final.";
 constexpr std::string_view kPrimeraNoPositiva = "La primera temperatura de la tabla ha de ser mayor que 0 K.";
 
 std::string DemasiadasFilas() {
@@ -90,11 +93,15 @@ bool LeerLimites(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHer
 
 // Where the walk starts: the first row's temperature less one step, taken in
 // single precision as the members are.
-double TemperaturaPrevia(const MiembrosHerramientas& m) { return m.Tinicial - m.AT; }
+double TemperaturaPrevia(const MiembrosHerramientas& m) {
+    return m.Tinicial - m.AT;
+}
 
 // The walk ends when the temperature, taken to single precision, is not below
 // the last one.
-bool Sigue(double temperatura, const MiembrosHerramientas& m) { return static_cast<float>(temperatura) < m.Tfinal; }
+bool Sigue(double temperatura, const MiembrosHerramientas& m) {
+    return static_cast<float>(temperatura) < m.Tfinal;
+}
 
 // A range the walk can end in reasonable time: finite limits, a positive step,
 // not too many rows, and a first temperature that the polynomials take.
@@ -120,7 +127,8 @@ struct Columna {
 
 // A row: " ", the line end, the indent, the temperature by the general
 // conversion, the columns, and the closing. Nothing when a value is not finite.
-std::optional<std::string> Fila(std::string_view sangria, double temperatura, std::initializer_list<Columna> columnas) {
+std::optional<std::string> Fila(std::string_view sangria, double temperatura,
+                                std::initializer_list<Columna> columnas) {
     for (const Columna& c : columnas)
         if (!std::isfinite(c.valor)) return std::nullopt;
     std::string fila = " ";
@@ -164,18 +172,19 @@ std::optional<Especie> EspecieDe(std::string_view texto) {
 
 }  // namespace
 
-bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m, VisorTablas& v,
-                     std::string_view tipoCombustible) {
+bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
+                     VisorTablas& v, std::string_view tipoCombustible) {
     v.Mostrar();
     v.PonerTexto(" ");
     const bool aire = c.optAire.Value(), humos = c.optHumos.Value();
     const bool mol = c.optMol.Value(), kg = c.optKg.Value();
-    if (aire) v.PonerTexto("     Aire con " + TextoGeneral(e.Humedad) + " % de humedad" + std::string(kFinLinea) +
-                           std::string(kFinLinea));
-    if (humos)
-        v.PonerTexto("     Aire con " + TextoGeneral(e.Humedad) + " % de humedad      Combustible: " +
-                     std::string(tipoCombustible) + "      Fr = " + TextoGeneral(e.Fr) + std::string(kFinLinea) +
+    if (aire)
+        v.PonerTexto("     Aire con " + TextoGeneral(e.Humedad) + " % de humedad" + std::string(kFinLinea) +
                      std::string(kFinLinea));
+    if (humos)
+        v.PonerTexto("     Aire con " + TextoGeneral(e.Humedad) +
+                     " % de humedad      Combustible: " + std::string(tipoCombustible) +
+                     "      Fr = " + TextoGeneral(e.Fr) + std::string(kFinLinea) + std::string(kFinLinea));
     if (mol) AnadirCabecera(v, kCabeceraMezclaMol);
     if (kg) AnadirCabecera(v, kCabeceraMezclaKg);
 
@@ -224,7 +233,8 @@ bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, Miembro
     });
 }
 
-bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m, VisorTablas& v) {
+bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
+                  VisorTablas& v) {
     v.Mostrar();
     if (!LeerLimites(e, dlg, c, m)) {
         v.Ocultar();

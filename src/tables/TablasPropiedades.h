@@ -89,19 +89,21 @@ struct MiembrosHerramientas {
 // row in the state. Returns false when a number was refused, the range was
 // refused or a value left the numbers of the program; the message is told and
 // the viewer hidden.
-bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m, VisorTablas& v,
-                     std::string_view tipoCombustible);
+bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
+                     VisorTablas& v, std::string_view tipoCombustible);
 
 // The table of the species named by the list's text. Returns false as above,
 // and for a text that is not a species of the list.
-bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m, VisorTablas& v);
+bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
+                  VisorTablas& v);
 
 // ---- Saving ----------------------------------------------------------------
 
 // The filter of the viewer's save dialog, as the program writes it: label and
 // pattern pairs separated by "|".
 inline constexpr std::string_view kFiltroGuardarTablas =
-    "Documento de texto  (*.txt)|*.txt|Documento de texto enriquecido (*.rtf)|*.rtf|Documento de Lotus Word Pro 9 "
+    "Documento de texto  (*.txt)|*.txt|Documento de texto enriquecido (*.rtf)|*.rtf|Documento de Lotus Word "
+    "Pro 9 "
     "(*.lwp)|*.lwp|Documento de Wordpad(*DOC)|*.DOC|Todos los archivos (*.*)|*.*|       ";
 
 // The same filter in the form of a file dialog that takes "label (patterns)"

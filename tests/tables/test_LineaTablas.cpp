@@ -54,7 +54,8 @@ TEST(LineaTablasTest, UsageErrorsExitWithTwoAndTheUsageText) {
 }
 
 TEST(LineaTablasTest, ASpeciesTableIsTheViewersTextClosedByALineEnd) {
-    const Salida s = Tablas({"--fluido", "H2O", "--por", "kg", "--desde", "300", "--hasta", "1200", "--paso", "150,5"});
+    const Salida s =
+        Tablas({"--fluido", "H2O", "--por", "kg", "--desde", "300", "--hasta", "1200", "--paso", "150,5"});
     ASSERT_EQ(s.estado, cli::kSalidaBien) << s.err;
     EXPECT_TRUE(s.err.empty());
 
@@ -78,11 +79,13 @@ TEST(LineaTablasTest, TheDefaultsAreThoseOfTheWindowAndTheAir) {
 }
 
 TEST(LineaTablasTest, TheGasesTakeTheirFuelAndRatioFromTheOptionsOfCalcular) {
-    const Salida s = Tablas({"--fluido", "humos", "--formula", "8,18,0,0,0", "--entalpia-formacion", "-250000",
-                             "--lambda", "1,25", "--humedad", "40", "--desde", "1000", "--hasta", "1000"});
+    const Salida s =
+        Tablas({"--fluido", "humos", "--formula", "8,18,0,0,0", "--entalpia-formacion", "-250000", "--lambda",
+                "1,25", "--humedad", "40", "--desde", "1000", "--hasta", "1000"});
     ASSERT_EQ(s.estado, cli::kSalidaBien) << s.err;
-    const std::string cabecera = "     Aire con 40 % de humedad      Combustible: " + std::string(kOtrosCombustibles) +
-                                 "      Fr = 0.8\r\n\r\n";
+    const std::string cabecera =
+        "     Aire con 40 % de humedad      Combustible: " + std::string(kOtrosCombustibles) +
+        "      Fr = 0.8\r\n\r\n";
     EXPECT_EQ(s.out.substr(0, cabecera.size()), cabecera);
     EXPECT_NE(s.out.find(" \r\n          1000   "), std::string::npos);
 }

@@ -63,7 +63,9 @@ std::vector<std::string> Filas(const std::string& texto) {
     }
     return filas;
 }
-std::vector<std::string> Herramienta::Filas() const { return ::Filas(v.texto); }
+std::vector<std::string> Herramienta::Filas() const {
+    return ::Filas(v.texto);
+}
 
 // The first figure of a row: its temperature.
 std::string Temperatura(const std::string& fila) {
@@ -87,14 +89,18 @@ std::vector<double> Cifras(const std::string& fila) {
     return cifras;
 }
 
-std::string B(int n) { return std::string(static_cast<size_t>(n), ' '); }
-std::string V(double x, int d, const char* mascara) { return Format(Round(x, d), mascara); }
+std::string B(int n) {
+    return std::string(static_cast<size_t>(n), ' ');
+}
+std::string V(double x, int d, const char* mascara) {
+    return Format(Round(x, d), mascara);
+}
 
 // A mixture row told piece by piece as the notation gives it.
 std::string FilaMezcla(double T, double cp, int dcp, const char* mcp, double h, double s0, const char* ms0,
                        double gamma) {
-    return " \r\n" + B(10) + TextoGeneral(T) + B(10) + V(cp, dcp, mcp) + B(13) + V(h, 2, "### ### ##0.00") + B(18) +
-           V(s0, 3, ms0) + B(18) + V(gamma, 4, "### ### ##0.0000") + "\r\n" + B(4);
+    return " \r\n" + B(10) + TextoGeneral(T) + B(10) + V(cp, dcp, mcp) + B(13) + V(h, 2, "### ### ##0.00") +
+           B(18) + V(s0, 3, ms0) + B(18) + V(gamma, 4, "### ### ##0.0000") + "\r\n" + B(4);
 }
 
 // Cp, h and s0 of a species by its polynomials, written here in Horner form.
@@ -103,13 +109,16 @@ struct Propiedades {
 };
 Propiedades Polinomios(const Coeficientes& k, double T) {
     const double cp = kR * (k.a1 + T * (k.a2 + T * (k.a3 + T * (k.a4 + T * k.a5))));
-    const double h = kR * (T * (k.a1 + T * (k.a2 / 2 + T * (k.a3 / 3 + T * (k.a4 / 4 + T * k.a5 / 5)))) + k.a6);
-    const double s0 = kR * (k.a1 * std::log(T) + T * (k.a2 + T * (k.a3 / 2 + T * (k.a4 / 3 + T * k.a5 / 4))) + k.a7);
+    const double h =
+        kR * (T * (k.a1 + T * (k.a2 / 2 + T * (k.a3 / 3 + T * (k.a4 / 4 + T * k.a5 / 5)))) + k.a6);
+    const double s0 =
+        kR * (k.a1 * std::log(T) + T * (k.a2 + T * (k.a3 / 2 + T * (k.a4 / 3 + T * k.a5 / 4))) + k.a7);
     return {cp, h, s0};
 }
 
 const std::string kCabeceraMol =
-    "   T (K)            cp (J/mol)             h Total (J/mol)          S0 (J/(mol·K))             Gamma\r\n    ";
+    "   T (K)            cp (J/mol)             h Total (J/mol)          S0 (J/(mol·K))             "
+    "Gamma\r\n    ";
 
 }  // namespace
 
@@ -128,8 +137,8 @@ TEST(TablasMezclaTest, AirPerMoleIsTheHeadingAndOneRowPerTemperatureFromTheState
     for (double T : {900.0, 1000.0, 1100.0}) {
         r.e.Temperatura = T;
         PropiedadesAire(r.e, r.dlg);
-        esperado +=
-            FilaMezcla(T, r.e.CpAire, 4, "### ### ##0.0000", r.e.hAire, r.e.S0Aire, "### ### ##0.000", r.e.Gamma);
+        esperado += FilaMezcla(T, r.e.CpAire, 4, "### ### ##0.0000", r.e.hAire, r.e.S0Aire, "### ### ##0.000",
+                               r.e.Gamma);
     }
     EXPECT_EQ(t.v.texto, esperado);
     // The heading, then one piece per row, so that the viewer shows it growing.
@@ -148,9 +157,10 @@ TEST(TablasMezclaTest, OneAirRowAsTheUserReadsIt) {
     t.FluidoDeLasPantallas();
     t.Rango("300", "300", "100");
     ASSERT_TRUE(t.Mezcla());
-    EXPECT_EQ(t.v.texto, "     Aire con 0 % de humedad\r\n\r\n" + kCabeceraMol +
-                             " \r\n          300            29.0979               53.83                    198.893     "
-                             "               1.4000\r\n    ");
+    EXPECT_EQ(t.v.texto,
+              "     Aire con 0 % de humedad\r\n\r\n" + kCabeceraMol +
+                  " \r\n          300            29.0979               53.83                    198.893     "
+                  "               1.4000\r\n    ");
 }
 
 TEST(TablasMezclaTest, GasesPerKilogramDivideByTheAirsMassAndShowTheEntropyWithTwoDecimals) {
@@ -166,7 +176,8 @@ TEST(TablasMezclaTest, GasesPerKilogramDivideByTheAirsMassAndShowTheEntropyWithT
 
     std::string esperado =
         "     Aire con 0 % de humedad      Combustible: Gasolina      Fr = 1\r\n\r\n"
-        "   T (K)            cp (J/kg)             h Total (J/kg)          S0 (J/(kg·K))             Gamma\r\n    ";
+        "   T (K)            cp (J/kg)             h Total (J/kg)          S0 (J/(kg·K))             "
+        "Gamma\r\n    ";
     const double M = r.e.MasaMolecularAire;
     for (double T : {900.0, 1000.0, 1100.0}) {
         r.e.Temperatura = T;
@@ -201,8 +212,10 @@ TEST(TablasMezclaTest, TheHeadingCarriesHumidityFuelAndFrUnrounded) {
     t.Gases();
     t.Rango("300", "200", "100");  // the first temperature less a step is past the end: no rows
     ASSERT_TRUE(t.Mezcla());
-    EXPECT_EQ(t.v.texto, "     Aire con 62.5 % de humedad      Combustible: Gasolina      Fr = 0.833333333333333\r\n\r\n" +
-                             kCabeceraMol);
+    EXPECT_EQ(
+        t.v.texto,
+        "     Aire con 62.5 % de humedad      Combustible: Gasolina      Fr = 0.833333333333333\r\n\r\n" +
+            kCabeceraMol);
 }
 
 TEST(TablasMezclaTest, PastTheLimitOfTheModelTheRowsRepeatTheLastValues) {
@@ -244,9 +257,10 @@ TEST(TablasRecorridoTest, TheLastRowIsTheFirstTemperatureToReachTheEnd) {
         size_t filas;
         const char *primera, *ultima;
     };
-    for (const Caso& caso : {Caso{"300", "5000", "100", 48, "300", "5000"}, Caso{"300", "5000", "150", 33, "300", "5100"},
-                             Caso{"500", "500", "100", 1, "500", "500"}, Caso{"2000", "1000", "100", 0, "", ""},
-                             Caso{"300", "5000", "1000", 6, "300", "5300"}}) {
+    for (const Caso& caso :
+         {Caso{"300", "5000", "100", 48, "300", "5000"}, Caso{"300", "5000", "150", 33, "300", "5100"},
+          Caso{"500", "500", "100", 1, "500", "500"}, Caso{"2000", "1000", "100", 0, "", ""},
+          Caso{"300", "5000", "1000", 6, "300", "5300"}}) {
         Herramienta t;
         t.Rango(caso.desde, caso.hasta, caso.paso);
         ASSERT_TRUE(t.Especie("N2")) << caso.paso;
@@ -267,8 +281,8 @@ TEST(TablasRecorridoTest, ASmallStepShowsTheStrayDigitsOfSinglePrecision) {
     // 300 − 0.1 in single precision, then 0.1 in single precision added to a
     // double: the first row is not 300, and the walk ends on the first
     // temperature whose single value reaches 300.3.
-    EXPECT_EQ(temperaturas, (std::vector<std::string>{"299.999993897974", "300.099993899465", "300.199993900955",
-                                                       "300.299993902445"}));
+    EXPECT_EQ(temperaturas, (std::vector<std::string>{"299.999993897974", "300.099993899465",
+                                                      "300.199993900955", "300.299993902445"}));
     EXPECT_EQ(t.e.Temperatura, 299.899993896484375 + 4 * static_cast<double>(0.1f));
 }
 
@@ -292,7 +306,8 @@ TEST(TablasEspeciesTest, At1000KTheLowSetGivesTheWorkedValues) {
         size_t columna;
         std::string valor;
     };
-    for (const Caso& caso : {Caso{"H2O", 0, "41.2146"}, Caso{"CO2", 2, "33 396.53"}, Caso{"N2", 3, "228.057"}}) {
+    for (const Caso& caso :
+         {Caso{"H2O", 0, "41.2146"}, Caso{"CO2", 2, "33 396.53"}, Caso{"N2", 3, "228.057"}}) {
         Herramienta t;
         t.Rango("1000", "1000", "1");
         ASSERT_TRUE(t.Especie(caso.especie));
@@ -310,12 +325,13 @@ TEST(TablasEspeciesTest, WholeTableOfCOAcrossTheRangesPerMoleAndPerKilogram) {
         if (kg) t.PorKg();
         t.Rango("999", "1001", "1");
         ASSERT_TRUE(t.Especie("CO"));
-        std::string esperado = "CO\r\n    " +
-                               std::string(kg ? "   T (K)            cp (J/kg)              cv (J/kg)             h "
-                                                "Total (J/kg)          S0 (J/(kg·K))             Gamma"
-                                              : "   T (K)            cp (J/mol)            cv (J/mol)             h "
-                                                "Total (J/mol)          S0 (J/(mol·K))             Gamma") +
-                               "\r\n    ";
+        std::string esperado =
+            "CO\r\n    " +
+            std::string(kg ? "   T (K)            cp (J/kg)              cv (J/kg)             h "
+                             "Total (J/kg)          S0 (J/(kg·K))             Gamma"
+                           : "   T (K)            cp (J/mol)            cv (J/mol)             h "
+                             "Total (J/mol)          S0 (J/(mol·K))             Gamma") +
+            "\r\n    ";
         const double M = kg ? 0.028011 : 1.0;
         for (double T : {999.0, 1000.0, 1001.0}) {
             const Propiedades p = Polinomios(T <= 1000 ? kCoeficientesBaja[CO] : kCoeficientesAlta[CO], T);
@@ -340,7 +356,8 @@ TEST(TablasEspeciesTest, JustAbove1000TheHighSetIsUsed) {
     EXPECT_EQ(Temperatura(filas[0]), "1000.00002343755");
     const double T = t.e.Temperatura;
     ASSERT_GT(T, 1000.0);
-    const double alta = Polinomios(kCoeficientesAlta[CO], T).cp, baja = Polinomios(kCoeficientesBaja[CO], T).cp;
+    const double alta = Polinomios(kCoeficientesAlta[CO], T).cp,
+                 baja = Polinomios(kCoeficientesBaja[CO], T).cp;
     ASSERT_NE(V(alta, 4, "0.0000"), V(baja, 4, "0.0000"));
     EXPECT_EQ(Cifras(filas[0])[0], std::stod(V(alta, 4, "0.0000")));
 }
@@ -351,9 +368,9 @@ TEST(TablasEspeciesTest, ArgonHasTheSameHeatCapacityEverywhere) {
     ASSERT_TRUE(t.Especie("Ar"));
     for (const auto& f : t.Filas()) {
         const auto c = Cifras(f);
-        EXPECT_EQ(c[0], 20.7858);   // 2.5 R
-        EXPECT_EQ(c[1], 12.4715);   // 1.5 R
-        EXPECT_EQ(c[4], 1.6667);    // 5/3
+        EXPECT_EQ(c[0], 20.7858);  // 2.5 R
+        EXPECT_EQ(c[1], 12.4715);  // 1.5 R
+        EXPECT_EQ(c[4], 1.6667);   // 5/3
     }
 }
 
@@ -380,11 +397,11 @@ TEST(TablasRechazosTest, ARangeThatNeverEndsOrCannotBeWalkedIsRefusedWithNoRows)
         const char *desde, *hasta, *paso, *mensaje;
     };
     const std::string muchos(40, '9');
-    for (const Caso& caso : {Caso{"300", "5000", "0", "mayor que 0 K"}, Caso{"300", "5000", "-100", "mayor que 0 K"},
-                             Caso{"300", "5000", "0.000001", "1 000 000 filas"},
-                             Caso{"300", muchos.c_str(), "100", "finitos"},
-                             Caso{"0", "500", "100", "primera temperatura"},
-                             Caso{"-300", "500", "100", "primera temperatura"}}) {
+    for (const Caso& caso :
+         {Caso{"300", "5000", "0", "mayor que 0 K"}, Caso{"300", "5000", "-100", "mayor que 0 K"},
+          Caso{"300", "5000", "0.000001", "1 000 000 filas"}, Caso{"300", muchos.c_str(), "100", "finitos"},
+          Caso{"0", "500", "100", "primera temperatura"},
+          Caso{"-300", "500", "100", "primera temperatura"}}) {
         for (bool especie : {false, true}) {
             Herramienta t;
             t.FluidoDeLasPantallas();
@@ -405,8 +422,8 @@ TEST(TablasRechazosTest, ARefusedNumberIsToldByItsFieldNameAndMakesNoTable) {
     t.Rango("trescientos", "", "1O0");
     EXPECT_FALSE(t.Mezcla());
     EXPECT_EQ(t.dlg.mensajes, (std::vector<std::string>{" incremento de T no es un número",
-                                                         " Temperatura inicialno es un número",
-                                                         " temperatura final no es un número"}));
+                                                        " Temperatura inicialno es un número",
+                                                        " temperatura final no es un número"}));
     EXPECT_EQ(t.txtAT.focos, 1);
     EXPECT_TRUE(t.Filas().empty());
     EXPECT_FALSE(t.v.visible);
@@ -421,9 +438,10 @@ TEST(TablasRechazosTest, ARefusedNumberIsToldByItsFieldNameAndMakesNoTable) {
 }
 
 TEST(TablasGuardarTest, TheSaveFilterBecomesTheDialogsForm) {
-    EXPECT_EQ(FiltroDialogo(kFiltroGuardarTablas),
-              "Documento de texto  (*.txt);;Documento de texto enriquecido (*.rtf);;Documento de Lotus Word Pro 9 "
-              "(*.lwp);;Documento de Wordpad(*DOC) (*.DOC);;Todos los archivos (*.*)");
+    EXPECT_EQ(
+        FiltroDialogo(kFiltroGuardarTablas),
+        "Documento de texto  (*.txt);;Documento de texto enriquecido (*.rtf);;Documento de Lotus Word Pro 9 "
+        "(*.lwp);;Documento de Wordpad(*DOC) (*.DOC);;Todos los archivos (*.*)");
     EXPECT_EQ(FiltroDialogo(""), "");
     EXPECT_EQ(FiltroDialogo("Texto|*.txt"), "Texto (*.txt)");
 }

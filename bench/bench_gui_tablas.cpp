@@ -1,0 +1,82 @@
+// The tables tool on the offscreen platform: the air from 300 to 5000 K in
+// steps of 0.1 K (47 001 rows) made into the viewer as the TABLAS button does
+// it, growing in view (target 1 s in Release); and the same table as text
+// only, the share of the core.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <clocale>
+#include <memory>
+
+#include "app/LineaComandos.h"
+#include "services/Numeros.h"
+#include "tables/TablasPropiedades.h"
+#include "tables/frmHerramientas.h"
+#include "tables/frmTablas.h"
+
+namespace {
+
+using namespace vanta;
+
+QApplication& Aplicacion() {
+    static int argc = 1;
+    static char nombre[] = "bench_gui_tablas";
+    static char* argv[] = {nombre, nullptr};
+    static std::unique_ptr<QApplication> app = [] {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+        auto a = std::make_unique<QApplication>(argc, argv);
+        std::setlocale(LC_NUMERIC, "C");
+        FijarSeparadorDecimal('.');
+        return a;
+    }();
+    return *app;
+}
+
+void FluidoDeLasPantallas(Estado& e, Dialogos& dlg) {
+    SuperficieNula pct1, pct2, pct3;
+    DiagramasNulos d;
+    cli::SuperficiesCalculo s{pct1, pct2, pct3, d.Todos()};
+    cli::DefinirFluido(e, *cli::ParsearCalcular({}).opciones, dlg, s, true);
+}
+
+constexpr int kFilas = 47001;
+
+void BM_TablaAireEnElVisor(benchmark::State& estado) {
+    Aplicacion();
+    Estado e;
+    DialogosGrabados dlg;
+    FluidoDeLasPantallas(e, dlg);
+    frmHerramientas f(e, dlg, {});
+    f.MostrarCicloActual();
+    f.findChild<QLineEdit*>(QStringLiteral("txtAT"))->setText(QStringLiteral("0.1"));
+    auto* tablas = f.findChild<QPushButton*>(QStringLiteral("cmdTablas"));
+    auto* caja = f.Tablas()->findChild<QPlainTextEdit*>(QStringLiteral("rtfTablas"));
+    for (auto _ : estado) {
+        tablas->click();
+        QCoreApplication::processEvents();  // the last batch painted
+        if (caja->document()->blockCount() != 2 * kFilas + 4) estado.SkipWithError("la tabla no está entera");
+    }
+    estado.counters["filas"] = kFilas;
+}
+BENCHMARK(BM_TablaAireEnElVisor)->Unit(benchmark::kMillisecond)->MinTime(3);
+
+void BM_TablaAireComoTexto(benchmark::State& estado) {
+    Estado e;
+    DialogosGrabados dlg;
+    FluidoDeLasPantallas(e, dlg);
+    CajaTextoSimple at("0.1"), ti(kTextoTinicial), tf(kTextoTfinal), cbo(kTextoElegir);
+    InterruptorSimple mol(true), kg(false), aire(true), humos(false);
+    ControlesHerramientas c{at, ti, tf, mol, kg, aire, humos, cbo};
+    MiembrosHerramientas m;
+    for (auto _ : estado) {
+        VisorTablasTexto v;
+        cmdTablas_Click(e, dlg, c, m, v, "Gasolina");
+        benchmark::DoNotOptimize(v.texto.data());
+    }
+}
+BENCHMARK(BM_TablaAireComoTexto)->Unit(benchmark::kMillisecond);
+
+}  // namespace
