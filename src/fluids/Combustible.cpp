@@ -132,8 +132,14 @@ void CalAto(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
     ValidarNumero(e, dlg, c.txtN, e.CienN, " % de N ");
     ValidarNumero(e, dlg, c.txtO, e.CienO, " % de O ");
     ValidarNumero(e, dlg, c.txtS, e.CienS, " % de S ");
-    // Hydrogen is always the remainder.
-    e.CienH = 100.0 - e.CienC - e.CienN - e.CienO - e.CienS;
+    // Hydrogen is always the remainder; one that leaves the doubles (two
+    // percentages near the largest double) is refused before it is stored.
+    const double cienH = 100.0 - e.CienC - e.CienN - e.CienO - e.CienS;
+    if (!std::isfinite(cienH)) {
+        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        return;
+    }
+    e.CienH = cienH;
     Mostrar(c.txtH, e.CienH, 3);
 
     // A molar mass of zero or below is refused and the last one stays.

@@ -52,8 +52,9 @@ TEST(LimitesTest, MaximaBeyondSinglePrecisionStayFinite) {
 // with no extent on an axis once in single precision. Refused before any
 // surface is scaled.
 TEST(LimitesTest, CycleThatTheDiagramsCannotHoldIsRefused) {
-    for (const Args& datos : {Args{"--cilindrada", "1e300"}, Args{"--p1", "1e300"}, Args{"--cilindrada", "1e-40"},
-                              Args{"--cilindrada", "1e-300", "--rc", "1e300"}}) {
+    for (const Args& datos :
+         {Args{"--cilindrada", "1e300"}, Args{"--p1", "1e300"}, Args{"--cilindrada", "1e-40"},
+          Args{"--cilindrada", "1e-300", "--rc", "1e300"}}) {
         for (const char* ciclo : {"Otto", "Diesel", "Mixto"}) {
             Args args = {"--ciclo", ciclo};
             args.insert(args.end(), datos.begin(), datos.end());
@@ -70,15 +71,24 @@ TEST(LimitesTest, CycleThatTheDiagramsCannotHoldIsRefused) {
 // accepted, as the program accepts any humidity, charted within the singles,
 // and refused later by the property sums.
 TEST(LimitesTest, AirAtTheEdgeOfTheDoublesIsRefusedOrChartedWithinRange) {
-    for (const Args& args : {Args{"--presion-ambiente", "1e-300", "--humedad", "11"},
-                             Args{"--presion-ambiente", "1e-300", "--humedad", "1000"},
-                             Args{"--presion-ambiente", "1e-300", "--temperatura-ambiente", "566", "--humedad", "53"},
-                             Args{"--humedad", "1e300"}, Args{"--humedad", "-1e300"}}) {
+    for (const Args& args :
+         {Args{"--presion-ambiente", "1e-300", "--humedad", "11"},
+          Args{"--presion-ambiente", "1e-300", "--humedad", "1000"},
+          Args{"--presion-ambiente", "1e-300", "--temperatura-ambiente", "566", "--humedad", "53"},
+          Args{"--humedad", "1e300"}, Args{"--humedad", "-1e300"}}) {
         Ejecucion r;
         r.Calcular(args);
         EXPECT_TRUE(r.Rechazado()) << args[1] << " " << args[3 % args.size()] << r.Mensajes();
         EXPECT_EQ(r.Defectos(), "") << args[1] << " " << args[3 % args.size()];
     }
+}
+
+// A mass composition whose remainder of hydrogen leaves the doubles.
+TEST(LimitesTest, MassCompositionBeyondTheDoublesIsRefused) {
+    Ejecucion r;
+    r.Calcular({"--masa", "1e300,0,1.7976931348623157e308,0", "--masa-molecular", "0.1"});
+    EXPECT_TRUE(r.Rechazado()) << r.Mensajes();
+    EXPECT_EQ(r.Defectos(), "");
 }
 
 // A charge of a few molecules: the pressure and the heat per mole of the
