@@ -27,6 +27,9 @@ constexpr std::string_view kMensajeIsobaraNoConverge =
     "No se ha podido hallar la temperatura del final de la combustión a presión constante: la búsqueda no "
     "converge. Revise los datos del ciclo.";
 constexpr std::string_view kCausaMoles = "una masa molecular del fluido es cero";
+constexpr std::string_view kCausaMolesFueraDeRango =
+    "los moles del ciclo salen del intervalo de los números del programa; revise la masa molecular del "
+    "combustible";
 constexpr std::string_view kCausaSinMoles = "el ciclo no tiene moles de gases";
 constexpr std::string_view kCausaCvNulo = "el calor específico de los gases es cero";
 constexpr std::string_view kCausaFraccionQuemada =
@@ -354,10 +357,18 @@ void CalcularMolesCiclo(Estado& e, Dialogos& dlg) {
         FalloAritmetico(e, dlg, kCausaMoles);
         return;
     }
-    e.MolesCombustible = e.MasaCombustible / e.MasaMolecularCombustible;
-    e.MolesAire = e.MasaAire / e.MasaMolecularAire;
-    e.MolesHumos = (e.MasaAire + e.MasaCombustible) / e.MasaMolecularHumos;
-    e.MolesReactivos = e.MolesCombustible + e.MolesAire;
+    // A molar mass near the smallest double takes the moles beyond the
+    // doubles: nothing is stored then.
+    const double combustible = e.MasaCombustible / e.MasaMolecularCombustible;
+    const double aire = e.MasaAire / e.MasaMolecularAire;
+    const double humos = (e.MasaAire + e.MasaCombustible) / e.MasaMolecularHumos;
+    const double reactivos = combustible + aire;
+    for (double moles : {combustible, aire, humos, reactivos})
+        if (!std::isfinite(moles)) return FalloAritmetico(e, dlg, kCausaMolesFueraDeRango);
+    e.MolesCombustible = combustible;
+    e.MolesAire = aire;
+    e.MolesHumos = humos;
+    e.MolesReactivos = reactivos;
 }
 
 void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double volumenFinal, double paso,

@@ -91,6 +91,14 @@ TEST(LimitesTest, MassCompositionBeyondTheDoublesIsRefused) {
     EXPECT_EQ(r.Defectos(), "");
 }
 
+// A fuel of a molar mass near the smallest double: its moles overflow.
+TEST(LimitesTest, FuelOfAMolarMassNearZeroIsRefusedBeforeItsMolesOverflow) {
+    Ejecucion r;
+    r.Calcular({"--masa", "50.2,0,0,0", "--masa-molecular", "4.9e-324"});
+    EXPECT_TRUE(r.Rechazado()) << r.Mensajes();
+    EXPECT_EQ(r.Defectos(), "");
+}
+
 // A charge of a few molecules: the pressure and the heat per mole of the
 // combustion at constant volume leave the doubles before anything is burnt.
 TEST(LimitesTest, ChargeOfAFewMoleculesIsRefusedBeforeItBurns) {
