@@ -5,17 +5,26 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTextBlock>
 #include <QTextCursor>
+#include <QTextDocument>
+#include <memory>
 
 #include "services/PuertosQt.h"
 
 namespace vanta {
 
 namespace {
+
+// The size of letter of the print, in points, unless the rows need less.
+constexpr qreal kPuntosImpresion = 10;
+// The margin around the text that a document's print leaves, in centimetres.
+constexpr qreal kMargenImpresionCm = 2;
 
 // How long the rows gather before they reach the box, in milliseconds.
 constexpr qint64 kIntervaloVaciado = 50;
@@ -111,7 +120,23 @@ std::string frmTablas::Texto() const {
 
 void frmTablas::Imprimir(QPrinter& impresora) {
     Vaciar();
-    rtfTablas_->print(&impresora);
+    // The rows are wider than a page at the box's size: the print takes the
+    // size of letter at which the longest line fits the page's width.
+    std::unique_ptr<QTextDocument> copia(rtfTablas_->document()->clone());
+    QString masLarga;
+    for (QTextBlock b = copia->begin(); b.isValid(); b = b.next())
+        if (b.length() > masLarga.size() + 1) masLarga = b.text();
+    QFont fuente = rtfTablas_->font();
+    fuente.setPointSizeF(kPuntosImpresion);
+    // The page less the margin that the print of a document leaves on each
+    // side.
+    const qreal anchoPagina = impresora.pageLayout().paintRectPixels(impresora.resolution()).width() -
+                              2 * kMargenImpresionCm / 2.54 * impresora.resolution();
+    const qreal anchoLinea = QFontMetricsF(fuente, &impresora).horizontalAdvance(masLarga);
+    if (anchoLinea > anchoPagina && anchoPagina > 0)
+        fuente.setPointSizeF(kPuntosImpresion * anchoPagina / anchoLinea * 0.97);
+    copia->setDefaultFont(fuente);
+    copia->print(&impresora);
 }
 
 bool frmTablas::Guardar(const QString& archivo) const {
