@@ -1,5 +1,6 @@
 #include "Aleatorios.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -10,18 +11,18 @@ namespace {
 
 // Texts that are no numbers, or numbers at the edges of the doubles, or
 // numbers in forms that the boxes must tell apart.
+// clang-format off
 const std::vector<std::string> kBasura = {
-    "",          " ",        "   ",        "abc",       "1e308",       "-1e308",       "1e309",
-    "-1e309",    "nan",      "NaN",        "-nan",      "inf",         "-inf",         "Infinity",
-    "1e-320",    "4.9e-324", "-4.9e-324",  "1e-400",    "0",           "-0",           "+0",
-    "-1",        "1,2,3",    "1.2.3",      "1..2",      ",",           ".",            "-",
-    "+",         "1e",       "e5",         "1 2",       "0x10",        "1e+",          "1,5e3",
-    "1.234,5",   "1.234.567,8", "12,34.5", "99999999999999999999999",  "1e99999",      "-1e99999",
-    "2.2250738585072014e-308", "1.7976931348623157e308",  "1.79769313486232E+308",     "\xE2\x88\x9E",
-    "\xC2\xBD",  "1/2",      "10%",        "$5",        "5 K",         "\t7\t",        "1_000",
-    "--1",       "+-1",      "1e-5",       "1E5",       ".5",          ",5",           "5.",
-    "5,",        "0,0",      "00000",      "1,",        "١",           "1\n",          "\n",
+    "", " ", "   ", "\n", "abc", "\xE2\x88\x9E", "\xC2\xBD", "\xD9\xA1", "1/2", "10%", "$5", "5 K", "1_000",
+    "nan", "NaN", "-nan", "inf", "-inf", "Infinity", "0x10",
+    "1e308", "-1e308", "1e309", "-1e309", "1e99999", "-1e99999", "99999999999999999999999",
+    "1.7976931348623157e308", "1.79769313486232E+308", "2.2250738585072014e-308",
+    "1e-320", "4.9e-324", "-4.9e-324", "1e-400", "1e-5",
+    "0", "-0", "+0", "00000", "0,0", "-1", "--1", "+-1", "-", "+", ",", ".",
+    "1,2,3", "1.2.3", "1..2", "12,34.5", "1.234,5", "1.234.567,8", "1 2", "\t7\t", "1\n",
+    "1e", "e5", "1e+", "1,5e3", "1E5", ".5", ",5", "5.", "5,", "1,",
 };
+// clang-format on
 
 std::string Fijo(double v, int decimales, char separador) {
     char b[512];
@@ -42,17 +43,27 @@ uint64_t SemillaDelCaso(uint64_t semilla, uint64_t caso) {
     return z ^ (z >> 31);
 }
 
-double Azar::Uniforme(double a, double b) { return std::uniform_real_distribution<double>(a, b)(motor_); }
+double Azar::Uniforme(double a, double b) {
+    return std::uniform_real_distribution<double>(a, b)(motor_);
+}
 
-double Azar::LogUniforme(double a, double b) { return std::exp(Uniforme(std::log(a), std::log(b))); }
+double Azar::LogUniforme(double a, double b) {
+    return std::exp(Uniforme(std::log(a), std::log(b)));
+}
 
-bool Azar::Moneda(double p) { return Uniforme(0, 1) < p; }
+bool Azar::Moneda(double p) {
+    return Uniforme(0, 1) < p;
+}
 
-size_t Azar::Indice(size_t n) { return std::uniform_int_distribution<size_t>(0, n - 1)(motor_); }
+size_t Azar::Indice(size_t n) {
+    return std::uniform_int_distribution<size_t>(0, n - 1)(motor_);
+}
 
 std::string Azar::Escribir(double v) {
     std::string s;
     const char separador = Moneda(0.5) ? '.' : ',';
+    // Decimals enough for three significant digits: "1,39" must not become "1".
+    const int minimo = v != 0 ? std::max(0, 2 - static_cast<int>(std::floor(std::log10(std::fabs(v))))) : 0;
     switch (Indice(5)) {
         case 0: {  // shortest text that reads back to the double
             char b[64];
@@ -64,18 +75,18 @@ std::string Azar::Escribir(double v) {
         }
         case 1:
         case 2:
-            s = Fijo(v, static_cast<int>(Indice(7)), separador);
+            s = Fijo(v, minimo + static_cast<int>(Indice(5)), separador);
             break;
         case 3: {
             char b[64];
-            std::snprintf(b, sizeof b, Moneda(0.5) ? "%.*e" : "%.*E", static_cast<int>(Indice(10)), v);
+            std::snprintf(b, sizeof b, Moneda(0.5) ? "%.*e" : "%.*E", 2 + static_cast<int>(Indice(8)), v);
             s = b;
             for (char& c : s)
                 if (c == '.') c = separador;
             break;
         }
         default:
-            s = Fijo(std::round(v), 0, separador);
+            s = Fijo(minimo == 0 ? std::round(v) : v, minimo, separador);
             break;
     }
     if (Moneda(0.05) && s[0] != '-') s.insert(0, "+");
@@ -84,7 +95,9 @@ std::string Azar::Escribir(double v) {
     return s;
 }
 
-std::string Azar::Basura() { return Uno(kBasura); }
+std::string Azar::Basura() {
+    return Uno(kBasura);
+}
 
 std::string Azar::Mutar(std::string texto) {
     const size_t posicion = Indice(texto.size() + 1);

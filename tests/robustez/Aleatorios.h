@@ -18,11 +18,11 @@ uint64_t SemillaDelCaso(uint64_t semilla, uint64_t caso);
 
 // How a box's quantity is drawn.
 struct Magnitud {
-    double minimo, maximo;                // the usual values
-    double minimoAmplio, maximoAmplio;    // still meaningful, drawn now and then
-    bool logaritmica;                     // drawn evenly in the logarithm
-    std::vector<std::string> bordes;      // boundaries of this quantity
-    double probabilidadCero = 0;          // how often a plain "0" (atoms, humidity)
+    double minimo, maximo;              // the usual values
+    double minimoAmplio, maximoAmplio;  // still meaningful, drawn now and then
+    bool logaritmica;                   // drawn evenly in the logarithm
+    std::vector<std::string> bordes;    // boundaries of this quantity
+    double probabilidadCero = 0;        // how often a plain "0" (atoms, humidity)
 };
 
 class Azar {

@@ -76,8 +76,10 @@ void SuperficieVigilada::AlCaja(float x1, float y1, float x2, float y2, int32_t 
 }
 
 void SuperficieVigilada::AlTexto(float x, float y, std::string_view texto) {
-    if (!std::isfinite(x) || !std::isfinite(y)) Defecto("Print \"" + std::string(texto) + "\" en un punto no finito");
-    if (std::string d = DefectoDeTexto(texto); !d.empty()) Defecto("Print \"" + std::string(texto) + "\": " + d);
+    if (!std::isfinite(x) || !std::isfinite(y))
+        Defecto("Print \"" + std::string(texto) + "\" en un punto no finito");
+    if (std::string d = DefectoDeTexto(texto); !d.empty())
+        Defecto("Print \"" + std::string(texto) + "\": " + d);
     textos.emplace_back(texto);
     SuperficieGrabada::AlTexto(x, y, texto);
 }

@@ -1,9 +1,10 @@
 #include "Vigilancia.h"
 
+#include <unistd.h>
+
 #include <csignal>
 #include <cstdio>
 #include <cstring>
-#include <unistd.h>
 
 #if defined(__SANITIZE_ADDRESS__)
 #define VANTA_SANITIZADORES 1

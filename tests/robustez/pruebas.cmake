@@ -4,4 +4,5 @@ list(APPEND VANTA_CORE_TESTS
   ${CMAKE_CURRENT_LIST_DIR}/Aleatorios.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Inspeccion.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Vigilancia.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/test_CalculoAleatorio.cpp
   ${CMAKE_CURRENT_LIST_DIR}/test_Limites.cpp)
