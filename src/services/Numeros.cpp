@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 namespace vanta {
 
@@ -45,10 +46,23 @@ void DigitosRedondeados(double x, int n, std::string& enteros, std::string& deci
 
 bool EsLugar(char c) { return c == '#' || c == '0'; }
 
+// The largest double as the general conversion writes it: its 15 digits are
+// rounded up, beyond the range of the doubles.
+constexpr long double kMayorEscrito = 1.79769313486232e308L;
+
 std::optional<double> Convertir(std::string_view s) {
     double v = 0;
-    auto r = std::from_chars(s.data(), s.data() + s.size(), v, std::chars_format::general);
-    if (r.ec != std::errc() || r.ptr != s.data() + s.size() || !std::isfinite(v)) return std::nullopt;
+    const char* fin = s.data() + s.size();
+    auto r = std::from_chars(s.data(), fin, v, std::chars_format::general);
+    if (r.ec == std::errc::result_out_of_range && r.ptr == fin) {
+        // What the program writes it can read: a text beyond the largest
+        // double by no more than that rounding is the largest double.
+        long double l = 0;
+        std::from_chars(s.data(), fin, l, std::chars_format::general);
+        if (std::fabs(l) > std::numeric_limits<double>::max() && std::fabs(l) <= kMayorEscrito)
+            return std::copysign(std::numeric_limits<double>::max(), static_cast<double>(l));
+    }
+    if (r.ec != std::errc() || r.ptr != fin || !std::isfinite(v)) return std::nullopt;
     return v;
 }
 

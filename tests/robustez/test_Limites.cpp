@@ -12,6 +12,7 @@
 #include "cycle/Ciclo.h"
 #include "properties/Busquedas.h"
 #include "properties/Especies.h"
+#include "services/Numeros.h"
 
 namespace vanta::prueba {
 namespace {
@@ -32,6 +33,21 @@ TEST(LimitesTest, StrokeWhoseStepCannotMoveTheVolumeIsRefused) {
             EXPECT_EQ(r.Defectos(), "") << modelo << " " << datos[1];
         }
     }
+}
+
+// The largest doubles as the general conversion writes them, 15 digits
+// rounded up beyond the range, read back as the largest double; a text
+// further out is no number.
+TEST(LimitesTest, TheLargestDoubleAsWrittenReadsBack) {
+    const double mayor = std::numeric_limits<double>::max();
+    for (char separador : {'.', ','}) {
+        FijarSeparadorDecimal(separador);
+        EXPECT_EQ(LeerNumero(TextoGeneral(mayor)), mayor) << TextoGeneral(mayor);
+        EXPECT_EQ(LeerNumero(TextoGeneral(-mayor)), -mayor) << TextoGeneral(-mayor);
+    }
+    FijarSeparadorDecimal('.');
+    EXPECT_FALSE(LeerNumero("1.79769313486233E+308"));
+    EXPECT_FALSE(LeerNumero("1e309"));
 }
 
 // The running maxima are kept in single precision: a figure beyond its range
