@@ -5,7 +5,8 @@ list(APPEND VANTA_CORE_TESTS
   ${CMAKE_CURRENT_LIST_DIR}/Inspeccion.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Vigilancia.cpp
   ${CMAKE_CURRENT_LIST_DIR}/test_CalculoAleatorio.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/test_Limites.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/test_Limites.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/test_TablasAleatorias.cpp)
 
 # The gates between numbers and text under coverage-guided fuzzing: Clang's
 # libFuzzer with AddressSanitizer and UndefinedBehaviorSanitizer, built beside
