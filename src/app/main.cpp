@@ -1,6 +1,7 @@
 // Vanta: with no arguments the main window; `vanta calcular …` and
 // `vanta tablas …` the same logic headless.
 #include <QApplication>
+#include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -10,6 +11,9 @@
 #include <vector>
 
 #include "app/LineaComandos.h"
+#include "app/LineaTablas.h"
+#include "database/GuardarBaseDatos.h"
+#include "reports/PaginaWeb.h"
 #include "mainwindow/frmFase1.h"
 #include "resources/Programa.h"
 #include "services/Numeros.h"
@@ -27,13 +31,46 @@ int Calcular(const std::vector<std::string>& argumentos) {
         std::cerr << "vanta calcular: " << p.error << "\n\n" << cli::TextoUso();
         return cli::kSalidaUso;
     }
+    const cli::OpcionesCalcular& o = *p.opciones;
     Estado e;
     GuardarColoresDiagramas(e);
     DialogosConsola dlg;
-    SuperficieNula pct1, pct2, pct3;
-    DiagramasNulos diagramas;
-    cli::SuperficiesCalculo s{pct1, pct2, pct3, diagramas.Todos()};
-    return cli::EjecutarCalcular(e, *p.opciones, dlg, s, std::cout);
+    if (o.html.empty() && o.guardar.empty()) {
+        SuperficieNula pct1, pct2, pct3;
+        DiagramasNulos diagramas;
+        cli::SuperficiesCalculo s{pct1, pct2, pct3, diagramas.Todos()};
+        return cli::EjecutarCalcular(e, o, dlg, s, std::cout);
+    }
+    // The pictures are drawn offscreen on the surfaces of a main window at
+    // the overview of a 1024 x 768 screen, the size the layout was made for.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    int argc = 1;
+    char nombre[] = "vanta";
+    char* argv[] = {nombre, nullptr};
+    QApplication aplicacion(argc, argv);
+    std::setlocale(LC_NUMERIC, "C");
+    frmFase1 ventana(e, &dlg, QSize(1024, 768));
+    ventana.PonerGraficosTodos();
+    cli::SuperficiesCalculo s{*ventana.pct1(), *ventana.pct2(), *ventana.pct3(), ventana.diagramas()};
+    const int salida = cli::EjecutarCalcular(e, o, dlg, s, std::cout);
+    if (salida != cli::kSalidaBien) return salida;
+    const std::string tipo = cli::TextoListaCombustible(o);
+    const std::array<QImage, 7> imagenes = {ventana.pct1()->Imagen(),  ventana.pct2()->Imagen(),
+                                            ventana.pct3()->Imagen(),  ventana.pctPV()->Imagen(),
+                                            ventana.pctTV()->Imagen(), ventana.pctTS()->Imagen(),
+                                            ventana.pctHS()->Imagen()};
+    if (!o.html.empty()) {
+        const QString carpeta = QString::fromStdString(o.html);
+        QDir().mkpath(carpeta);
+        if (!EscribirPaginaEnCarpeta(carpeta, e, tipo, imagenes)) {
+            std::cerr << "vanta calcular: no se ha podido escribir la página en " << o.html << '\n';
+            return cli::kSalidaFallo;
+        }
+    }
+    if (!o.guardar.empty()) {
+        if (!GuardarRegistro(e, o.guardar, tipo, ventana.InformeF1(), imagenes, dlg)) return cli::kSalidaFallo;
+    }
+    return cli::kSalidaBien;
 }
 
 // The decimal separator of the system's regional settings: a Spanish system
@@ -73,8 +110,9 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     const std::vector<std::string> argumentos(argv + 1, argv + argc);
     if (argumentos.empty()) return Ventanas(argc, argv);
-    if (!argumentos.empty() && argumentos[0] == "calcular")
-        return Calcular({argumentos.begin() + 1, argumentos.end()});
+    if (argumentos[0] == "calcular") return Calcular({argumentos.begin() + 1, argumentos.end()});
+    if (argumentos[0] == "tablas")
+        return vanta::cli::EjecutarTablas({argumentos.begin() + 1, argumentos.end()}, std::cout, std::cerr);
     std::cerr << vanta::cli::TextoUso();
     return vanta::cli::kSalidaUso;
 }

@@ -5,7 +5,7 @@ namespace vanta {
 namespace {
 
 struct Papeles {
-    Lugar GeometriaDiagramas::*principal, GeometriaDiagramas::*arriba, GeometriaDiagramas::*abajo,
+    LugarDiagrama GeometriaDiagramas::*principal, GeometriaDiagramas::*arriba, GeometriaDiagramas::*abajo,
         GeometriaDiagramas::*recuadro;
     double recuadroLeft, recuadroHeight, recuadroWidth;  // factors of the main surface
 };
@@ -41,7 +41,7 @@ GeometriaDiagramas DistribucionAmpliada(DiagramaAmpliable d, double W, double H)
     g.*p.principal = {0, 0, 0.7 * W, 0.8 * H};
     g.*p.arriba = {0.7 * W, 0, 0.3 * W, 0.4 * H};
     g.*p.abajo = {0.7 * W, 0.4 * H, 0.3 * W, 0.4 * H};
-    const Lugar& principal = g.*p.principal;
+    const LugarDiagrama& principal = g.*p.principal;
     g.*p.recuadro = {p.recuadroLeft * principal.Width, 0, p.recuadroWidth * principal.Width,
                      p.recuadroHeight * principal.Height};
     return g;

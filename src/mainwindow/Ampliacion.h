@@ -8,13 +8,13 @@ namespace vanta {
 enum class DiagramaAmpliable { PV, TV, TS, HS };
 
 // A control's place, in the window's units (W and H are its width and height).
-struct Lugar {
+struct LugarDiagrama {
     double Left = 0, Top = 0, Width = 0, Height = 0;
 };
 
 struct GeometriaDiagramas {
     double W = 0, H = 0;
-    Lugar pctPV, pctTV, pctTS, pctHS;
+    LugarDiagrama pctPV, pctTV, pctTS, pctHS;
 };
 
 // Whether the switch of diagram d enlarges it (true) or returns to the

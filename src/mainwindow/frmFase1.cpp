@@ -15,6 +15,11 @@
 #include <QUrl>
 
 #include "cycle/frmOtto_Diesel.h"
+#include "database/GuardarBaseDatos.h"
+#include "reports/ArchivosInforme.h"
+#include "reports/VisoresInforme.h"
+#include "database/frmBaseDatos.h"
+#include "tables/frmHerramientas.h"
 #include "fluids/frmAireHumedad.h"
 #include "fluids/frmCombustible.h"
 #include "fluids/frmGasesCombustion.h"
@@ -104,6 +109,9 @@ frmFase1::frmFase1(Estado& e, Dialogos* dlg, QSize tamano, QWidget* padre)
     frmAireHumedad_ = new frmAireHumedad(e_, *dlg_, *pct1_, this);
     frmCombustible_ = new frmCombustible(e_, *dlg_, *pct2_, this);
     frmGasesCombustion_ = new frmGasesCombustion(e_, *dlg_, *pct3_, this);
+    FuentePagina fuente{[this] { return TipoCombustible(); },
+                        [this](CuadroImagen cuadro) { return Imagenes()[static_cast<size_t>(cuadro)]; }};
+    visores_ = std::make_unique<VisoresInforme>(e_, *dlg_, std::move(fuente), this);
     frmOtto_Diesel_ = new frmOtto_Diesel(e_, *dlg_, diagramas_, *this, this);
 
     resize(tamano.isEmpty() ? TamanoInicial(this) : tamano);
@@ -375,7 +383,10 @@ void frmFase1::Ocultabotones(bool b1, bool b2, bool b3, bool b4, bool b5, bool b
 
 std::string frmFase1::TipoCombustible() const { return frmCombustible_->TipoCombustible(); }
 
-void frmFase1::PonerInforme(const std::string& texto) { txtInformeF1_ = texto; }
+void frmFase1::PonerInforme(const std::string& texto) {
+    txtInformeF1_ = texto;
+    visores_->PonerInformeTexto(texto);
+}
 
 void frmFase1::MostrarResultados(const TextosResultados& t) {
     for (int i = 0; i < 5; ++i) {
@@ -432,10 +443,21 @@ void frmFase1::cmdCarCombustion_Click() {
 void frmFase1::cmdCarCiclo_Click() { MostrarModal(*frmOtto_Diesel_); }
 
 // The report window comes with the reports.
-void frmFase1::cmdInforme_Click() {}
+void frmFase1::cmdInforme_Click() { visores_->VerInforme(txtInformeF1_); }
 
-// Saving to the results database comes with the database.
-void frmFase1::cmdEnvBaseDatos_Click() {}
+std::array<QImage, 7> frmFase1::Imagenes() const {
+    return {pct1_->Imagen(),  pct2_->Imagen(),  pct3_->Imagen(), pctPV_->Imagen(),
+            pctTV_->Imagen(), pctTS_->Imagen(), pctHS_->Imagen()};
+}
+
+frmBaseDatos& frmFase1::BaseDatos() {
+    if (!frmBaseDatos_) frmBaseDatos_ = std::make_unique<frmBaseDatos>(*dlg_, [this] { return txtInformeF1_; }, this);
+    return *frmBaseDatos_;
+}
+
+void frmFase1::cmdEnvBaseDatos_Click() {
+    GuardarBaseDatos(e_, *dlg_, TipoCombustible(), visores_->rthInforme(), Imagenes(), BaseDatos());
+}
 
 void frmFase1::chkVerHs_Click() { pctHS_->setVisible(chkVerHs_->isChecked()); }
 
@@ -459,14 +481,41 @@ void frmFase1::txtRpm_Click() {
 }
 
 // Enlarging a diagram by a click comes with the enlarged views.
-void frmFase1::pctPV_Click() {}
-void frmFase1::pctTV_Click() {}
-void frmFase1::pctTS_Click() {}
-void frmFase1::pctHS_Click() {}
+void frmFase1::pctPV_Click() { ClickDiagrama(DiagramaAmpliable::PV); }
+void frmFase1::pctTV_Click() { ClickDiagrama(DiagramaAmpliable::TV); }
+void frmFase1::pctTS_Click() { ClickDiagrama(DiagramaAmpliable::TS); }
+void frmFase1::pctHS_Click() { ClickDiagrama(DiagramaAmpliable::HS); }
 
-// The readout of the state under the pointer comes with the hover readout.
-void frmFase1::pctPV_MouseMove(int, int, float, float) {}
-void frmFase1::pctTV_MouseMove(int, int, float, float) {}
+void frmFase1::CalcularCicloActual() { frmOtto_Diesel_->cmdCal_Click(); }
+
+void frmFase1::ClickDiagrama(DiagramaAmpliable d) {
+    if (cmdCarCiclo_->isEnabled()) CalcularCicloActual();
+    PonerGraficos(d);
+}
+
+void frmFase1::MenuDiagrama(DiagramaAmpliable d, QAction* entrada) {
+    PonerGraficos(d);
+    for (QAction* a : {mnuPV_, mnuTV_, mnuTS_, mnuHS_, mnuVerTodo_}) a->setChecked(a == entrada);
+}
+
+// The readout of the state under the pointer; only while a cycle is on show
+// (the button of the report is not hidden).
+void frmFase1::pctPV_MouseMove(int, int, float x, float y) {
+    vanta::pctPV_MouseMove(e_, *dlg_, diagramas_, !cmdInforme_->isHidden(), x, y, lectura_);
+    MostrarLectura();
+}
+
+void frmFase1::pctTV_MouseMove(int, int, float x, float y) {
+    vanta::pctTV_MouseMove(e_, *dlg_, diagramas_, !cmdInforme_->isHidden(), x, y, lectura_);
+    MostrarLectura();
+}
+
+void frmFase1::MostrarLectura() {
+    const std::string* valores[5] = {&lectura_.lblPmouseVal, &lectura_.lblVmouseVal, &lectura_.lblTmouseVal,
+                                     &lectura_.lblhmouseVal, &lectura_.lblSmouseVal};
+    for (int i = 0; i < 5; ++i) valorEstado_[i]->setText(ATexto(*valores[i]));
+    txtTransformacion_->setText(ATexto(lectura_.txtTransformacion));
+}
 
 bool frmFase1::eventFilter(QObject* objeto, QEvent* evento) {
     if (evento->type() == QEvent::MouseButtonRelease) {
@@ -484,15 +533,12 @@ void frmFase1::mnuNuevo_Click() {
     MostrarModal(*frmAireHumedad_);
 }
 
-// The database browser comes with the database.
-void frmFase1::mnuAbrirBD_Click() {}
-// Opening a saved report comes with the report viewers.
-void frmFase1::mnuAbrirInforme_Click() {}
+void frmFase1::mnuAbrirBD_Click() { BaseDatos().MostrarNoModal(); }
+void frmFase1::mnuAbrirInforme_Click() { visores_->AbrirInforme(); }
 void frmFase1::mnuInforme_Click() { cmdInforme_Click(); }
 void frmFase1::mnuBDatos_Click() { cmdEnvBaseDatos_Click(); }
-// Saving the report as text or as a web page comes with the report viewers.
-void frmFase1::mnuGuardarTexto_Click() {}
-void frmFase1::mnuGuardarHTML_Click() {}
+void frmFase1::mnuGuardarTexto_Click() { visores_->GuardarTexto(this); }
+void frmFase1::mnuGuardarHTML_Click() { visores_->GuardarPaginaWeb(this, kDialogoPaginaPrincipal); }
 
 void frmFase1::mnuVerTodo_Click() {
     PonerGraficosTodos();
@@ -500,20 +546,34 @@ void frmFase1::mnuVerTodo_Click() {
     for (QAction* a : {mnuPV_, mnuTV_, mnuTS_, mnuHS_}) a->setChecked(false);
 }
 
-// The enlarged views of one diagram come with the diagram sizing.
-void frmFase1::mnuPV_Click() {}
-void frmFase1::mnuTV_Click() {}
-void frmFase1::mnuTS_Click() {}
-void frmFase1::mnuHS_Click() {}
+void frmFase1::mnuPV_Click() { MenuDiagrama(DiagramaAmpliable::PV, mnuPV_); }
+void frmFase1::mnuTV_Click() { MenuDiagrama(DiagramaAmpliable::TV, mnuTV_); }
+void frmFase1::mnuTS_Click() { MenuDiagrama(DiagramaAmpliable::TS, mnuTS_); }
+void frmFase1::mnuHS_Click() { MenuDiagrama(DiagramaAmpliable::HS, mnuHS_); }
 
 void frmFase1::mnuCalcular_Click() { MostrarModal(*frmOtto_Diesel_); }
 
-// The property tables tool comes with the tables.
-void frmFase1::mnuTablasActual_Click() {}
+frmHerramientas& frmFase1::Herramientas() {
+    if (!frmHerramientas_) {
+        EnlacesHerramientas enlaces{
+            [this] { MostrarModal(*frmAireHumedad_); },
+            [this] { MostrarModal(*frmCombustible_); },
+            [this] {
+                frmGasesCombustion_->show();
+                frmGasesCombustion_->raise();
+            },
+            [this] { return TipoCombustible(); },
+        };
+        frmHerramientas_ = std::make_unique<frmHerramientas>(e_, *dlg_, std::move(enlaces), this);
+    }
+    return *frmHerramientas_;
+}
+
+void frmFase1::mnuTablasActual_Click() { Herramientas().MostrarCicloActual(); }
 
 void frmFase1::mnuTablas_Click() {
     Ocultabotones(true, false, false, false, false, false);
-    // The property tables tool opens here when it comes.
+    Herramientas().MostrarParaDefinir();
 }
 
 void frmFase1::mnuAyuda2_Click() { AbrirAyuda(); }

@@ -7,12 +7,16 @@
 // decides what may be used when.
 #pragma once
 
+#include <QImage>
 #include <QMainWindow>
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
 
 #include "cycle/Ciclo.h"
+#include "mainwindow/Ampliacion.h"
+#include "mainwindow/LecturaRaton.h"
 #include "services/Puertos.h"
 #include "services/PuertosQt.h"
 #include "services/SuperficieQt.h"
@@ -31,6 +35,9 @@ class QPushButton;
 namespace vanta {
 
 class frmAireHumedad;
+class frmBaseDatos;
+class VisoresInforme;
+class frmHerramientas;
 class frmCombustible;
 class frmGasesCombustion;
 class frmOtto_Diesel;
@@ -131,6 +138,26 @@ private:
     void Form_Load();
     void AbrirAyuda();
     void MostrarModal(QDialog& ventana);
+    // The enlarged view of a diagram, or the return to the overview, by the
+    // diagram's own test on the current geometry; each ends in a calculation.
+    void PonerGraficos(DiagramaAmpliable d);
+    void PonerGraficosPV() { PonerGraficos(DiagramaAmpliable::PV); }
+    void PonerGraficosTV() { PonerGraficos(DiagramaAmpliable::TV); }
+    void PonerGraficosTS() { PonerGraficos(DiagramaAmpliable::TS); }
+    void PonerGraficosHS() { PonerGraficos(DiagramaAmpliable::HS); }
+    // A click on a diagram: a calculation when the cycle stage is open, then
+    // the switch of that diagram; the menu's marks stay as they were.
+    void ClickDiagrama(DiagramaAmpliable d);
+    // A menu entry of a diagram: the switch, then that entry marked alone.
+    void MenuDiagrama(DiagramaAmpliable d, QAction* entrada);
+    // CalcularCiclo with the cycle window's inputs as they stand.
+    void CalcularCicloActual();
+    void MostrarLectura();
+    // The seven pictures, in the order of pct1, pct2, pct3, pctPV, pctTV,
+    // pctTS, pctHS.
+    std::array<QImage, 7> Imagenes() const;
+    frmHerramientas& Herramientas();
+    frmBaseDatos& BaseDatos();
     // The inner layouts of the frames, in proportion to their own size.
     void DistribuirPuntos();
     void DistribuirTransformaciones();
@@ -218,6 +245,12 @@ private:
 
     // Whether the view is an enlarged diagram; nothing reads it.
     bool DiagramaAmpliado_ = false;
+
+    LecturaEstado lectura_;
+    std::unique_ptr<frmHerramientas> frmHerramientas_;
+    std::unique_ptr<frmBaseDatos> frmBaseDatos_;
+    // The report windows and the buffer rthInforme, which lives with them.
+    std::unique_ptr<VisoresInforme> visores_;
 };
 
 }  // namespace vanta

@@ -258,3 +258,54 @@ void frmFase1::LugaresIniciales() {
 }
 
 }  // namespace vanta
+
+namespace vanta {
+
+namespace {
+LugarDiagrama LugarDe(const QWidget* w) {
+    const QRect r = w->geometry();
+    return {double(r.left()), double(r.top()), double(r.width()), double(r.height())};
+}
+void Poner(QWidget* w, const LugarDiagrama& l) {
+    w->setGeometry(qRound(l.Left), qRound(l.Top), qRound(l.Width), qRound(l.Height));
+}
+}  // namespace
+
+void frmFase1::PonerGraficos(DiagramaAmpliable d) {
+    GeometriaDiagramas actual;
+    actual.W = width(), actual.H = height();
+    actual.pctPV = LugarDe(pctPV_), actual.pctTV = LugarDe(pctTV_);
+    actual.pctTS = LugarDe(pctTS_), actual.pctHS = LugarDe(pctHS_);
+    // Two twips of the design's unit, in this window's pixels.
+    const double dosTwips = 2.0 * logicalDpiX() / 1440.0;
+    if (!DebeAmpliar(d, actual, dosTwips)) {
+        PonerGraficosTodos();
+        CalcularCicloActual();
+        DiagramaAmpliado_ = false;
+        return;
+    }
+    const GeometriaDiagramas g = DistribucionAmpliada(d, width(), height());
+    Poner(pctPV_, g.pctPV);
+    Poner(pctTV_, g.pctTV);
+    Poner(pctTS_, g.pctTS);
+    Poner(pctHS_, g.pctHS);
+    // The inset stands over the main surface.
+    (d == DiagramaAmpliable::HS ? static_cast<QWidget*>(pctTS_) : static_cast<QWidget*>(pctHS_))->raise();
+    for (QWidget* w : {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_)})
+        w->hide();
+    pctTS_->show();
+    if (d == DiagramaAmpliable::HS) pctHS_->show();
+    fraBotonera_->hide();
+    fraPotencia_->hide();
+    CalcularCicloActual();
+    DiagramaAmpliado_ = true;
+    fraPotencia_->hide();
+    chkVerHs_->show();
+    fraPuntos_->hide();
+    CambiarTamaño();
+    for (QWidget* w : {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_),
+                       static_cast<QWidget*>(fraPuntos_), static_cast<QWidget*>(fraTransformaciones_)})
+        w->hide();
+}
+
+}  // namespace vanta
