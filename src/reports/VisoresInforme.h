@@ -82,6 +82,8 @@ public:
     // nothing.
     void Imprimir(QWidget* ventana, const QString& texto, const QString& seleccion);
     DialogosArchivo& Archivos() { return *archivos_; }
+    // Other dialogs from now on (a test answers them).
+    void FijarDialogosArchivo(DialogosArchivo& archivos) { archivos_ = &archivos; }
 
 private:
     Estado& e_;
