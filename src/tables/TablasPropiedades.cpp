@@ -285,28 +285,4 @@ bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHe
     });
 }
 
-std::string FiltroDialogo(std::string_view filtro) {
-    std::string resultado;
-    while (!filtro.empty()) {
-        const size_t barra = filtro.find('|');
-        const std::string_view etiqueta = filtro.substr(0, barra);
-        std::string_view patron;
-        if (barra == std::string_view::npos) {
-            filtro = {};
-        } else {
-            filtro.remove_prefix(barra + 1);
-            const size_t fin = filtro.find('|');
-            patron = filtro.substr(0, fin);
-            filtro = fin == std::string_view::npos ? std::string_view{} : filtro.substr(fin + 1);
-        }
-        if (patron.empty()) continue;
-        std::string entrada(etiqueta);
-        const std::string entreParentesis = "(" + std::string(patron) + ")";
-        if (!entrada.ends_with(entreParentesis)) entrada += " " + entreParentesis;
-        if (!resultado.empty()) resultado += ";;";
-        resultado += entrada;
-    }
-    return resultado;
-}
-
 }  // namespace vanta

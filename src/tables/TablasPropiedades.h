@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "reports/ArchivosInforme.h"
 #include "services/Puertos.h"
 #include "state/Estado.h"
 
@@ -96,19 +97,5 @@ bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, Miembro
 // and for a text that is not a species of the list.
 bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
                   VisorTablas& v);
-
-// ---- Saving ----------------------------------------------------------------
-
-// The filter of the viewer's save dialog, as the program writes it: label and
-// pattern pairs separated by "|".
-inline constexpr std::string_view kFiltroGuardarTablas =
-    "Documento de texto  (*.txt)|*.txt|Documento de texto enriquecido (*.rtf)|*.rtf|Documento de Lotus Word "
-    "Pro 9 "
-    "(*.lwp)|*.lwp|Documento de Wordpad(*DOC)|*.DOC|Todos los archivos (*.*)|*.*|       ";
-
-// The same filter in the form of a file dialog that takes "label (patterns)"
-// entries separated by ";;". A label that already ends in its pattern keeps
-// it; a pair with no pattern is left out.
-std::string FiltroDialogo(std::string_view filtro);
 
 }  // namespace vanta

@@ -52,7 +52,8 @@ struct frmHerramientas::Puertos {
                                     optKg, optAire,     optHumos,  cboElemento};
 };
 
-frmHerramientas::frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas enlaces, QWidget* padre)
+frmHerramientas::frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas enlaces, QWidget* padre,
+                                 DialogosArchivo* archivos)
     : QWidget(padre, Qt::Window),
       e_(e),
       dlg_(dlg),
@@ -72,7 +73,7 @@ frmHerramientas::frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas e
       cmdCombustible_(NuevoBoton(Frame1_, "cmdCombustible", "Combustible")),
       cmdCombustion_(NuevoBoton(Frame1_, "cmdCombustion", "Combustión")),
       cmdTablas_(NuevoBoton(Frame1_, "cmdTablas", "TABLAS")),
-      frmTablas_(new frmTablas(this)) {
+      frmTablas_(new frmTablas(this, archivos)) {
     setObjectName(QStringLiteral("frmHerramientas"));
     setWindowTitle(QString::fromUtf8(kTituloHerramientas));
     optMol_->setChecked(true);

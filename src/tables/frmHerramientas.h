@@ -22,6 +22,7 @@ class QRadioButton;
 
 namespace vanta {
 
+class DialogosArchivo;
 class frmTablas;
 
 // What the tool asks of the main window, which owns the stage windows.
@@ -36,7 +37,9 @@ class frmHerramientas : public QWidget {
     Q_OBJECT
 
 public:
-    frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas enlaces, QWidget* padre = nullptr);
+    // archivos: the viewer's file and printer dialogs; the platform's when null.
+    frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas enlaces, QWidget* padre = nullptr,
+                    DialogosArchivo* archivos = nullptr);
     ~frmHerramientas() override;
 
     // ---- What the main window calls ----

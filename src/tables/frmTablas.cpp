@@ -1,80 +1,46 @@
 #include "tables/frmTablas.h"
 
-#include <QApplication>
-#include <QEvent>
-#include <QFile>
-#include <QFileDialog>
-#include <QFontDatabase>
-#include <QFontMetricsF>
-#include <QMenuBar>
+#include <QCoreApplication>
 #include <QPlainTextEdit>
-#include <QPrintDialog>
 #include <QPrinter>
-#include <QTextBlock>
 #include <QTextCursor>
-#include <QTextDocument>
-#include <memory>
 
+#include "reports/ArchivosInforme.h"
 #include "services/PuertosQt.h"
 
 namespace vanta {
 
 namespace {
 
-// The size of letter of the print, in points, unless the rows need less.
-constexpr qreal kPuntosImpresion = 10;
-// The margin around the text that a document's print leaves, in centimetres.
-constexpr qreal kMargenImpresionCm = 2;
-
 // How long the rows gather before they reach the box, in milliseconds.
 constexpr qint64 kIntervaloVaciado = 50;
 
-QString DialogoGuardar(QWidget* padre, const QString& filtro) {
-    return QFileDialog::getSaveFileName(padre, {}, {}, filtro);
-}
+// The box takes 0.9 of the window's height and 0.95 of its width.
+constexpr double kAltoCaja = 0.9;
+constexpr double kAnchoCaja = 0.95;
+const QSize kTamanoTablas(980, 620);
 
-bool DialogoImpresora(QWidget* padre, QPrinter& impresora) {
-    QPrintDialog dialogo(&impresora, padre);
-    return dialogo.exec() == QDialog::Accepted;
-}
-
-QAction* NuevaAccion(QMenu* menu, const char* nombre, const char* texto) {
-    QAction* a = menu->addAction(QString::fromUtf8(texto));
-    a->setObjectName(QString::fromLatin1(nombre));
-    return a;
-}
+// The save dialog: the same filter as that of the saved reports' viewer; the
+// file is plain text whichever is chosen.
+constexpr DialogoArchivo kDialogoTablas{kFiltroTextoMostrar, "", 0};
 
 }  // namespace
 
-frmTablas::frmTablas(QWidget* padre)
-    : QMainWindow(padre, Qt::Window), pedirArchivo_(DialogoGuardar), pedirImpresora_(DialogoImpresora) {
+frmTablas::frmTablas(QWidget* padre, DialogosArchivo* archivos)
+    : VentanaTexto(padre, QString::fromUtf8(kTituloTablas), kTamanoTablas, kAltoCaja, kAnchoCaja, 0),
+      archivosPropios_(archivos ? nullptr : std::make_unique<DialogosArchivoQt>()),
+      archivos_(archivos ? archivos : archivosPropios_.get()) {
     setObjectName(QStringLiteral("frmTablas"));
-    setWindowTitle(QString::fromUtf8(kTituloTablas));
-    resize(900, 600);
-
-    auto* fondo = new QWidget(this);
-    fondo->setMouseTracking(true);
-    fondo->installEventFilter(this);
-    setCentralWidget(fondo);
-
-    rtfTablas_ = new QPlainTextEdit(fondo);
-    rtfTablas_->setObjectName(QStringLiteral("rtfTablas"));
-    rtfTablas_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    rtfTablas_ = CrearCaja("rtfTablas");
     rtfTablas_->setUndoRedoEnabled(false);
-    rtfTablas_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    rtfTablas_->viewport()->setMouseTracking(true);
-    rtfTablas_->viewport()->installEventFilter(this);
-
-    mnuArchivo_ = menuBar()->addMenu(QStringLiteral("&Archivo"));
-    mnuArchivo_->setObjectName(QStringLiteral("mnuArchivo"));
-    mnuGuardarComo_ = NuevaAccion(mnuArchivo_, "mnuGuardarComo", "&Guardar como");
-    mnuImprimir_ = NuevaAccion(mnuArchivo_, "mnuImprimir", "&Imprimir");
-    connect(mnuGuardarComo_, &QAction::triggered, this, &frmTablas::mnuGuardarComo_Click);
-    connect(mnuImprimir_, &QAction::triggered, this, &frmTablas::mnuImprimir_Click);
-
-    AjustarCaja();
+    connect(Entrada("mnuGuardarComo", QStringLiteral("&Guardar como")), &QAction::triggered, this,
+            &frmTablas::mnuGuardarComo_Click);
+    connect(Entrada("mnuImprimir", QStringLiteral("&Imprimir")), &QAction::triggered, this,
+            &frmTablas::mnuImprimir_Click);
     desdeUltimoVaciado_.start();
 }
+
+frmTablas::~frmTablas() = default;
 
 void frmTablas::Mostrar() {
     show();
@@ -118,61 +84,18 @@ std::string frmTablas::Texto() const {
     return texto.toStdString() + pendiente_;
 }
 
-void frmTablas::Imprimir(QPrinter& impresora) {
-    Vaciar();
-    // The rows are wider than a page at the box's size: the print takes the
-    // size of letter at which the longest line fits the page's width.
-    std::unique_ptr<QTextDocument> copia(rtfTablas_->document()->clone());
-    QString masLarga;
-    for (QTextBlock b = copia->begin(); b.isValid(); b = b.next())
-        if (b.length() > masLarga.size() + 1) masLarga = b.text();
-    QFont fuente = rtfTablas_->font();
-    fuente.setPointSizeF(kPuntosImpresion);
-    // The page less the margin that the print of a document leaves on each
-    // side.
-    const qreal anchoPagina = impresora.pageLayout().paintRectPixels(impresora.resolution()).width() -
-                              2 * kMargenImpresionCm / 2.54 * impresora.resolution();
-    const qreal anchoLinea = QFontMetricsF(fuente, &impresora).horizontalAdvance(masLarga);
-    if (anchoLinea > anchoPagina && anchoPagina > 0)
-        fuente.setPointSizeF(kPuntosImpresion * anchoPagina / anchoLinea * 0.97);
-    copia->setDefaultFont(fuente);
-    copia->print(&impresora);
-}
-
-bool frmTablas::Guardar(const QString& archivo) const {
-    QFile f(archivo);
-    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
-    const std::string texto = Texto();
-    return f.write(texto.data(), static_cast<qint64>(texto.size())) == static_cast<qint64>(texto.size());
-}
-
-void frmTablas::FijarDialogos(PedirArchivo archivo, PedirImpresora impresora) {
-    pedirArchivo_ = std::move(archivo);
-    pedirImpresora_ = std::move(impresora);
-}
-
-void frmTablas::AjustarCaja() {
-    rtfTablas_->resize(static_cast<int>(0.95 * width()), static_cast<int>(0.9 * height()));
-}
-
 void frmTablas::mnuGuardarComo_Click() {
-    // Whatever the filter chosen, the file is plain text; a cancel, or a file
-    // that cannot be written, ends here without a word.
-    static const QString filtro = ATexto(FiltroDialogo(kFiltroGuardarTablas));
-    const QString archivo = pedirArchivo_(this, filtro);
-    if (archivo.isEmpty()) return;
-    Guardar(archivo);
+    // A cancel, or a file that cannot be written, ends here without a word.
+    const QString nombre = archivos_->Guardar(this, kDialogoTablas);
+    if (nombre.isEmpty()) return;
+    EscribirArchivoEntero(RutaArchivo(nombre), Texto());
 }
 
 void frmTablas::mnuImprimir_Click() {
     QPrinter impresora;
-    if (!pedirImpresora_(this, impresora)) return;
-    Imprimir(impresora);
-}
-
-bool frmTablas::eventFilter(QObject* objeto, QEvent* evento) {
-    if (evento->type() == QEvent::MouseMove) AjustarCaja();
-    return QMainWindow::eventFilter(objeto, evento);
+    if (!archivos_->ElegirImpresora(this, impresora, false)) return;
+    Vaciar();
+    ImprimirTexto(impresora, rtfTablas_->toPlainText());
 }
 
 }  // namespace vanta

@@ -4,24 +4,24 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QMainWindow>
-#include <functional>
+#include <memory>
 #include <string>
 
+#include "reports/DialogosInforme.h"
+#include "reports/VentanaTexto.h"
 #include "tables/TablasPropiedades.h"
 
-class QAction;
-class QMenu;
 class QPlainTextEdit;
-class QPrinter;
 
 namespace vanta {
 
-class frmTablas : public QMainWindow, public VisorTablas {
+class frmTablas : public VentanaTexto, public VisorTablas {
     Q_OBJECT
 
 public:
-    explicit frmTablas(QWidget* padre = nullptr);
+    // archivos: the file and printer dialogs; the platform's when null.
+    explicit frmTablas(QWidget* padre = nullptr, DialogosArchivo* archivos = nullptr);
+    ~frmTablas() override;
 
     // ---- What the tables reach ----
     void Mostrar() override;
@@ -37,37 +37,16 @@ public:
     // The text as the tables wrote it, CR LF line ends included.
     std::string Texto() const;
 
-    // Prints the text on a printer already set up: the print of the menu, and
-    // a file in PDF through the same steps.
-    void Imprimir(QPrinter& impresora);
-    // Writes the text to the file as plain text; false when it cannot.
-    bool Guardar(const QString& archivo) const;
-
-    // How the file and the printer are asked for: the platform's dialogs
-    // unless replaced (the window tests answer them without a nested event
-    // loop). An empty name, or false, is a cancel.
-    using PedirArchivo = std::function<QString(QWidget* padre, const QString& filtro)>;
-    using PedirImpresora = std::function<bool(QWidget* padre, QPrinter& impresora)>;
-    void FijarDialogos(PedirArchivo archivo, PedirImpresora impresora);
-
-    // Fits the box to the window: 0.95 of its width and 0.9 of its height.
-    void AjustarCaja();
-
 public slots:
     void mnuGuardarComo_Click();
     void mnuImprimir_Click();
 
-protected:
-    bool eventFilter(QObject* objeto, QEvent* evento) override;
-
 private:
     QPlainTextEdit* rtfTablas_;
-    QMenu* mnuArchivo_;
-    QAction *mnuGuardarComo_, *mnuImprimir_;
     std::string pendiente_;
     QElapsedTimer desdeUltimoVaciado_;
-    PedirArchivo pedirArchivo_;
-    PedirImpresora pedirImpresora_;
+    std::unique_ptr<DialogosArchivo> archivosPropios_;
+    DialogosArchivo* archivos_;
 };
 
 }  // namespace vanta

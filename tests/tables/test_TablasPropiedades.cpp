@@ -436,12 +436,3 @@ TEST(TablasRechazosTest, ARefusedNumberIsToldByItsFieldNameAndMakesNoTable) {
     EXPECT_FALSE(u.Especie("O2"));
     EXPECT_EQ(u.m.AT, 100.0f);
 }
-
-TEST(TablasGuardarTest, TheSaveFilterBecomesTheDialogsForm) {
-    EXPECT_EQ(
-        FiltroDialogo(kFiltroGuardarTablas),
-        "Documento de texto  (*.txt);;Documento de texto enriquecido (*.rtf);;Documento de Lotus Word Pro 9 "
-        "(*.lwp);;Documento de Wordpad(*DOC) (*.DOC);;Todos los archivos (*.*)");
-    EXPECT_EQ(FiltroDialogo(""), "");
-    EXPECT_EQ(FiltroDialogo("Texto|*.txt"), "Texto (*.txt)");
-}

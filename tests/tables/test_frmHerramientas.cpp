@@ -17,6 +17,7 @@
 
 #include "../mainwindow/Pruebas.h"
 #include "app/LineaComandos.h"
+#include "reports/DialogosInforme.h"
 #include "services/Numeros.h"
 #include "tables/frmHerramientas.h"
 #include "tables/frmTablas.h"
@@ -37,10 +38,12 @@ T* Hijo(const QObject* raiz, const char* nombre) {
 struct Herramienta {
     Estado e;
     DialogosGrabados dlg;
+    DialogosArchivoGrabados archivos;
     int comburente = 0, combustible = 0, combustion = 0;
     frmHerramientas f{e, dlg,
                       EnlacesHerramientas{[this] { ++comburente; }, [this] { ++combustible; },
-                                          [this] { ++combustion; }, [] { return std::string("Gasolina"); }}};
+                                          [this] { ++combustion; }, [] { return std::string("Gasolina"); }},
+                      nullptr, &archivos};
 
     QPushButton* Boton(const char* nombre) const { return Hijo<QPushButton>(&f, nombre); }
     QRadioButton* Opcion(const char* nombre) const { return Hijo<QRadioButton>(&f, nombre); }
@@ -248,18 +251,6 @@ private slots:
         QTemporaryDir carpeta;
         const QString archivo = carpeta.filePath(QStringLiteral("tabla.txt"));
         const QString pdf = carpeta.filePath(QStringLiteral("tabla.pdf"));
-        QString filtroVisto;
-        bool cancelar = true;
-        h.Visor()->FijarDialogos(
-            [&](QWidget*, const QString& filtro) {
-                filtroVisto = filtro;
-                return cancelar ? QString() : archivo;
-            },
-            [&](QWidget*, QPrinter& impresora) {
-                impresora.setOutputFormat(QPrinter::PdfFormat);
-                impresora.setOutputFileName(pdf);
-                return !cancelar;
-            });
         auto* guardar = Hijo<QAction>(h.Visor(), "mnuGuardarComo");
         auto* imprimir = Hijo<QAction>(h.Visor(), "mnuImprimir");
         QCOMPARE(guardar->text(), QStringLiteral("&Guardar como"));
@@ -268,11 +259,12 @@ private slots:
         // A cancelled dialog writes nothing.
         guardar->trigger();
         imprimir->trigger();
-        QVERIFY(!QFile::exists(archivo));
-        QVERIFY(!QFile::exists(pdf));
-        QVERIFY(filtroVisto.startsWith(QStringLiteral("Documento de texto  (*.txt);;")));
+        QCOMPARE(h.archivos.impresoras, 1);
+        QVERIFY(QDir(carpeta.path()).isEmpty());
+        QVERIFY(h.archivos.pedidos.at(0).filtro.starts_with("Documento de texto  (*.txt)|*.txt|"));
 
-        cancelar = false;
+        h.archivos.respuestas << archivo;
+        h.archivos.pdf = pdf;
         guardar->trigger();
         QFile f(archivo);
         QVERIFY(f.open(QIODevice::ReadOnly));
@@ -290,16 +282,15 @@ private slots:
         frmTablas* v = h.Visor();
         v->show();
         QVERIFY(QTest::qWaitForWindowExposed(v));
-        v->resize(1000, 700);
-        QVERIFY(h.Texto()->size() != QSize(950, 630));
-        QTest::mouseMove(h.Texto()->viewport(), QPoint(20, 20));
         QMouseEvent mover(QEvent::MouseMove, QPointF(20, 20), QPointF(20, 20), Qt::NoButton, Qt::NoButton,
                           Qt::NoModifier);
-        QCoreApplication::sendEvent(h.Texto()->viewport(), &mover);
-        QCOMPARE(h.Texto()->size(), QSize(950, 630));
-        v->resize(800, 500);
-        QCoreApplication::sendEvent(v->centralWidget(), &mover);
-        QCOMPARE(h.Texto()->size(), QSize(760, 450));
+        for (QSize tamano : {QSize(1000, 700), QSize(700, 450)}) {
+            v->resize(tamano);
+            QCoreApplication::sendEvent(h.Texto()->viewport(), &mover);
+            const QSize interior = v->centralWidget()->size();
+            QCOMPARE(h.Texto()->size(),
+                     QSize(qRound(interior.width() * 0.95), qRound(interior.height() * 0.9)));
+        }
     }
 };
 
