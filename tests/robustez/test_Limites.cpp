@@ -3,6 +3,7 @@
 // not finite.
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -185,6 +186,82 @@ TEST(LimitesTest, PowerBeyondTheDoublesIsToldAndNotShown) {
     EXPECT_EQ(dlg.mensajes.size(), 1u);
     EXPECT_EQ(txtPotencia.Text(), "antes");
     EXPECT_EQ(txtPotenciaCV.Text(), "antes");
+}
+
+// The shortest text that reads back to the same double.
+std::string Exacto(double v) {
+    char b[64];
+    return std::string(b, std::to_chars(b, b + sizeof b, v).ptr);
+}
+
+// The search for the share burnt up to Pmax, right at the pressure the
+// compression reaches and a double either side of it: at or above p2 the
+// cycle is solved with almost no heat at constant volume, below it the
+// program's own message refuses it.
+TEST(LimitesTest, PmaxAtTheEdgeOfTheCompressionsEndIsSolvedOrRefusedByTheProgram) {
+    for (const char* modelo : {"medio", "politropica", "variable"}) {
+        Ejecucion referencia;
+        referencia.Calcular({"--ciclo", "Mixto", "--compresion", modelo, "--pmax", "1e20"});
+        ASSERT_TRUE(referencia.Calculado()) << modelo << referencia.Mensajes();
+        const double p2 = referencia.e.p2;
+        for (double pmax : {p2, std::nextafter(p2, 1e300), std::nextafter(p2, 0.0), p2 * (1 + 1e-12),
+                            p2 * (1 - 1e-12), p2 + 0.001, p2 - 0.001}) {
+            Ejecucion r;
+            r.Calcular({"--ciclo", "Mixto", "--compresion", modelo, "--pmax", Exacto(pmax)});
+            EXPECT_EQ(r.Defectos(), "") << modelo << " " << Exacto(pmax);
+            if (pmax >= p2) {
+                EXPECT_TRUE(r.Calculado()) << modelo << " " << Exacto(pmax) << r.Mensajes();
+                EXPECT_LT(r.e.Q23, r.e.Qciclo * 1e-3) << modelo << " " << Exacto(pmax);
+            } else {
+                EXPECT_TRUE(r.Rechazado()) << modelo << " " << Exacto(pmax);
+                EXPECT_TRUE(
+                    r.Dijo("Imposible realizar el ciclo, Aumente la presión máxima que soporta el motor o "
+                           "disminuya la relación de compresión"))
+                    << modelo << " " << Exacto(pmax) << r.Mensajes();
+            }
+        }
+    }
+}
+
+// Heats that no temperature of the program can take: at constant volume the
+// limit of the polynomials stops the fixed point, at constant pressure the
+// bisection cannot pass its 5000 K and ends with the program's message
+// instead of recursing for ever.
+TEST(LimitesTest, HeatBeyondTheProgramsTemperaturesEndsWithItsMessages) {
+    const Args calorEnorme = {"--formula", "8,18,0,0,0", "--entalpia-formacion", "1e9"};
+    for (const char* ciclo : {"Otto", "Diesel", "Mixto"}) {
+        Args args = {"--ciclo", ciclo};
+        args.insert(args.end(), calorEnorme.begin(), calorEnorme.end());
+        Ejecucion r;
+        r.Calcular(args);
+        EXPECT_TRUE(r.Rechazado()) << ciclo << r.Mensajes();
+        EXPECT_EQ(r.Defectos(), "") << ciclo;
+        ASSERT_EQ(r.dlg.mensajes.size(), 1u) << ciclo << r.Mensajes();
+        if (std::string(ciclo) == "Diesel")
+            EXPECT_EQ(r.dlg.mensajes[0], " Ha superado la temperatura máxima admitida por el programa ");
+        else
+            EXPECT_EQ(r.dlg.mensajes[0].rfind(
+                          "Se ha superado la temperatura máxima que admite el programa 5000 K", 0),
+                      0u)
+                << r.dlg.mensajes[0];
+    }
+}
+
+// Volumes far from an engine's that the doubles and singles still hold: the
+// cycle is the same, scaled. Beyond about 1e10 c.c. the heat at constant
+// pressure is too large for the bisection's tolerance of 1e-5 J, and the
+// search ends with its message rather than recursing for ever.
+TEST(LimitesTest, VolumesFarFromAnEnginesAreSolvedOrEndWithAMessage) {
+    for (const char* ciclo : {"Otto", "Diesel", "Mixto"}) {
+        Ejecucion pequeno;
+        pequeno.Calcular({"--ciclo", ciclo, "--cilindrada", "1e-20"});
+        EXPECT_TRUE(pequeno.Calculado()) << ciclo << pequeno.Mensajes();
+        EXPECT_EQ(pequeno.Defectos(), "") << ciclo;
+        Ejecucion enorme;
+        enorme.Calcular({"--ciclo", ciclo, "--cilindrada", "1e20"});
+        EXPECT_TRUE(enorme.Calculado() || enorme.Rechazado()) << ciclo << enorme.Mensajes();
+        EXPECT_EQ(enorme.Defectos(), "") << ciclo;
+    }
 }
 
 }  // namespace
