@@ -20,6 +20,7 @@
 #include "database/Registro.h"
 
 class QSqlError;
+class QSqlQuery;
 
 namespace vanta {
 
@@ -69,6 +70,8 @@ private:
     bool Crear();
     bool Comprobar(bool& vacia);
     void Cerrar();
+    // Runs a SELECT of one record by its id and stands on its row.
+    bool LeerFila(QSqlQuery& q, const std::string& sql, qint64 id);
     // Sets Error() from a failed statement with the message maker given.
     bool Fallo(const QSqlError& error, std::string (*mensaje)(std::string_view));
 

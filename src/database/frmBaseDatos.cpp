@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -52,7 +53,9 @@ frmBaseDatos::frmBaseDatos(Dialogos& dlg, std::function<std::string()> informeF1
     setWindowTitle(QStringLiteral("Base de datos"));
     setModal(false);
     CrearControles();
-    resize(1100, 780);
+    QSize tam(1100, 780);
+    if (const QScreen* pantalla = QGuiApplication::primaryScreen()) tam = tam.boundedTo(pantalla->availableSize());
+    resize(tam);
     ampliador_ = new frmAmpliador(this);
 }
 
@@ -62,6 +65,19 @@ frmBaseDatos::~frmBaseDatos() {
 }
 
 // ---- Controls ------------------------------------------------------------------
+
+QGridLayout* frmBaseDatos::Filas(QWidget* marco, std::initializer_list<Fila> filas) const {
+    auto* g = new QGridLayout;
+    int f = 0;
+    for (const Fila& fila : filas) {
+        g->addWidget(Rotulo(fila.rotulo, marco), f, 0);
+        g->addWidget(Control(fila.control), f, 1);
+        g->addWidget(Rotulo(fila.unidad, marco), f, 2);
+        ++f;
+    }
+    g->setColumnStretch(1, 1);
+    return g;
+}
 
 QWidget* frmBaseDatos::Control(std::string_view nombre) const {
     for (size_t i = 0; i < bd::kColumnasTexto.size(); ++i)
@@ -94,6 +110,7 @@ void frmBaseDatos::CrearControles() {
         } else {
             auto* etiqueta = Rotulo(QString(), this, Qt::AlignRight | Qt::AlignVCenter);
             etiqueta->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+            etiqueta->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
             etiqueta->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000000000.00")));
             w = etiqueta;
         }
@@ -107,7 +124,7 @@ void frmBaseDatos::CrearControles() {
     for (size_t i = 0; i < bd::kColumnasImagen.size(); ++i) {
         auto* img = new ControlImagen(this);
         img->setObjectName(T(bd::kColumnasImagen[i].control));
-        img->setMinimumSize(120, 90);
+        img->setMinimumSize(100, 70);
         connect(img, &ControlImagen::Click, this, [this, img] { Imagen_Click(img); });
         imagenes_[i] = img;
     }
@@ -180,21 +197,10 @@ void frmBaseDatos::CrearControles() {
 QGroupBox* frmBaseDatos::CrearAire() {
     auto* fra = new QGroupBox(QStringLiteral("Aire atmosférico"), this);
     fra->setObjectName(QStringLiteral("fraAire"));
-    auto* g = new QGridLayout(fra);
-    const struct {
-        const char *rotulo, *control, *unidad;
-    } filas[] = {{"Humedad relativa:", "txtW", "%"},
-                 {"Presión ambiente:", "txtPamb", "Pa"},
-                 {"Temperatura ambiente", "txtTamb", "K"},
-                 {"Presión de saturación:", "txtPsat", "Pa"}};
-    int f = 0;
-    for (const auto& fila : filas) {
-        g->addWidget(Rotulo(fila.rotulo, fra), f, 0);
-        g->addWidget(Control(fila.control), f, 1);
-        g->addWidget(Rotulo(fila.unidad, fra), f, 2);
-        ++f;
-    }
-    g->setColumnStretch(1, 1);
+    fra->setLayout(Filas(fra, {{"Humedad relativa:", "txtW", "%"},
+                               {"Presión ambiente:", "txtPamb", "Pa"},
+                               {"Temperatura ambiente", "txtTamb", "K"},
+                               {"Presión de saturación:", "txtPsat", "Pa"}}));
     return fra;
 }
 
@@ -213,42 +219,20 @@ QGroupBox* frmBaseDatos::CrearCombustible() {
     }
     g->addWidget(Rotulo("Proporciones en masa (%)", fra), 3, 0, 1, 5);
 
-    auto* calores = new QGridLayout;
-    const struct {
-        const char *rotulo, *control;
-    } filas[] = {{"Poder calorífico superior", "txtHCS"},
-                 {"Poder calorífico inferior", "txtHCI"},
-                 {"Calor de vaporización", "txtQVap"}};
-    int f = 0;
-    for (const auto& fila : filas) {
-        calores->addWidget(Rotulo(fila.rotulo, fra), f, 0);
-        calores->addWidget(Control(fila.control), f, 1);
-        calores->addWidget(Rotulo("J / kg", fra), f, 2);
-        ++f;
-    }
-    calores->setColumnStretch(1, 1);
-    g->addLayout(calores, 5, 0, 1, 5);
+    g->addLayout(Filas(fra, {{"Poder calorífico superior", "txtHCS", "J / kg"},
+                             {"Poder calorífico inferior", "txtHCI", "J / kg"},
+                             {"Calor de vaporización", "txtQVap", "J / kg"}}),
+                 5, 0, 1, 5);
     return fra;
 }
 
 QGroupBox* frmBaseDatos::CrearCombustion() {
     auto* fra = new QGroupBox(QStringLiteral("Combustión"), this);
     fra->setObjectName(QStringLiteral("fraCombustion"));
-    auto* g = new QGridLayout(fra);
-    const struct {
-        const char *rotulo, *control, *unidad;
-    } filas[] = {{"Fr", "txtFr", ""},
-                 {"Lambda", "txtLambda", ""},
-                 {"Fe", "txtFe", "kg combustible /kg aire"},
-                 {"HCI  (humos)", "txtHCIhumos", "J /kg"}};
-    int f = 0;
-    for (const auto& fila : filas) {
-        g->addWidget(Rotulo(fila.rotulo, fra), f, 0);
-        g->addWidget(Control(fila.control), f, 1);
-        g->addWidget(Rotulo(fila.unidad, fra), f, 2);
-        ++f;
-    }
-    g->setColumnStretch(1, 1);
+    fra->setLayout(Filas(fra, {{"Fr", "txtFr", ""},
+                               {"Lambda", "txtLambda", ""},
+                               {"Fe", "txtFe", "kg combustible /kg aire"},
+                               {"HCI  (humos)", "txtHCIhumos", "J /kg"}}));
     return fra;
 }
 

@@ -20,6 +20,7 @@
 #include "database/Registro.h"
 #include "services/Puertos.h"
 
+class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QPlainTextEdit;
@@ -95,6 +96,11 @@ private:
     QGroupBox* CrearTransformaciones();
     QWidget* CrearNavegador();
     QWidget* Control(std::string_view nombre) const;
+    // Rows of a caption, a box and its unit.
+    struct Fila {
+        const char *rotulo, *control, *unidad;
+    };
+    QGridLayout* Filas(QWidget* marco, std::initializer_list<Fila> filas) const;
 
     // Leaves the current record (writing a changed report), then shows the
     // record at posicion.
