@@ -15,6 +15,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "../mainwindow/Programa.h"
 #include "../mainwindow/Pruebas.h"
 #include "app/LineaComandos.h"
 #include "reports/DialogosInforme.h"
@@ -23,15 +24,9 @@
 #include "tables/frmTablas.h"
 
 using namespace vanta;
+using namespace vanta::pruebas;
 
 namespace {
-
-template <class T>
-T* Hijo(const QObject* raiz, const char* nombre) {
-    T* w = raiz->findChild<T*>(QString::fromLatin1(nombre));
-    if (!w) qFatal("no hay control %s en %s", nombre, qPrintable(raiz->objectName()));
-    return w;
-}
 
 // The tool with what the main window would give it: each definition button
 // counts its openings, and the fluid of the screens' first values is at hand.
@@ -51,16 +46,8 @@ struct Herramienta {
     frmTablas* Visor() const { return f.Tablas(); }
     QPlainTextEdit* Texto() const { return Hijo<QPlainTextEdit>(Visor(), "rtfTablas"); }
 
-    static bool Pulsar(QPushButton* b) {
-        if (!b->isVisible() || !b->isEnabled()) return false;
-        QTest::mouseClick(b, Qt::LeftButton);
-        return true;
-    }
-    bool Pulsar(const char* boton) const { return Pulsar(Boton(boton)); }
-    void Elegir(const char* opcion) const {
-        QRadioButton* o = Opcion(opcion);
-        QTest::mouseClick(o, Qt::LeftButton, {}, QPoint(6, o->height() / 2));
-    }
+    bool Pulsar(const char* boton) const { return Programa::Pulsar(Boton(boton)); }
+    void Elegir(const char* opcion) const { Programa::Elegir(Opcion(opcion)); }
 
     // Enabled of Combustible, Combustión and TABLAS, as "011".
     QString Habilitados() const {
@@ -184,7 +171,7 @@ private slots:
         h.Fluido();
         h.f.MostrarCicloActual();
         h.Elegir("optHumos");
-        QTest::mouseClick(h.Opcion("optKg"), Qt::LeftButton, {}, QPoint(6, h.Opcion("optKg")->height() / 2));
+        h.Elegir("optKg");
         h.Caja("txtTinicial")->setText(QStringLiteral("800"));
         h.Caja("txtTfinal")->setText(QStringLiteral("1200"));
         const std::string esperado = h.TextoEsperado(false);
