@@ -188,23 +188,6 @@ TEST(TablasMezclaTest, GasesPerKilogramDivideByTheAirsMassAndShowTheEntropyWithT
     EXPECT_EQ(t.v.texto, esperado);
 }
 
-TEST(TablasMezclaTest, GasesPerMoleKeepBelow1000TheRatioLeftBefore) {
-    Herramienta t;
-    t.FluidoDeLasPantallas();
-    t.Gases();
-    t.Rango("900", "900", "100");
-    t.e.GammaActual = 1.2345;  // what the last evaluation that computed it left
-    ASSERT_TRUE(t.Mezcla());
-    const std::string fila = t.Filas().at(0);
-    EXPECT_EQ(fila.substr(fila.size() - 6), "1.2345");
-    // The entropy keeps two decimals under its mask although rounded to three.
-    const std::vector<double> c = Cifras(fila);
-    const std::string entropia = V(t.e.S0Humos, 3, "### ### ##0.00");
-    EXPECT_NE(fila.find("                  " + entropia + "                  "), std::string::npos);
-    EXPECT_EQ(entropia.size() - entropia.find('.'), 3u);
-    EXPECT_EQ(c.size(), 4u);
-}
-
 TEST(TablasMezclaTest, TheHeadingCarriesHumidityFuelAndFrUnrounded) {
     Herramienta t;
     t.e.Humedad = 62.5;
@@ -286,19 +269,6 @@ TEST(TablasRecorridoTest, ASmallStepShowsTheStrayDigitsOfSinglePrecision) {
     EXPECT_EQ(t.e.Temperatura, 299.899993896484375 + 4 * static_cast<double>(0.1f));
 }
 
-TEST(TablasRecorridoTest, TheLimitsAreReadWithEitherSeparatorIntoSinglePrecision) {
-    Herramienta t;
-    t.Rango("300,5", "301.5", "0,5");
-    ASSERT_TRUE(t.Especie("Ar"));
-    EXPECT_EQ(t.m.Tinicial, 300.5f);
-    EXPECT_EQ(t.m.Tfinal, 301.5f);
-    EXPECT_EQ(t.m.AT, 0.5f);
-    EXPECT_EQ(t.Filas().size(), 3u);
-    EXPECT_EQ(t.txtAT.selStart, 50);
-}
-
-// ---- Species tables ----------------------------------------------------------
-
 TEST(TablasEspeciesTest, At1000KTheLowSetGivesTheWorkedValues) {
     // cp of H2O, h of CO2 and s0 of N2 at 1000 K with the low coefficients.
     struct Caso {
@@ -360,18 +330,6 @@ TEST(TablasEspeciesTest, JustAbove1000TheHighSetIsUsed) {
                  baja = Polinomios(kCoeficientesBaja[CO], T).cp;
     ASSERT_NE(V(alta, 4, "0.0000"), V(baja, 4, "0.0000"));
     EXPECT_EQ(Cifras(filas[0])[0], std::stod(V(alta, 4, "0.0000")));
-}
-
-TEST(TablasEspeciesTest, ArgonHasTheSameHeatCapacityEverywhere) {
-    Herramienta t;
-    t.Rango("300", "3000", "900");
-    ASSERT_TRUE(t.Especie("Ar"));
-    for (const auto& f : t.Filas()) {
-        const auto c = Cifras(f);
-        EXPECT_EQ(c[0], 20.7858);  // 2.5 R
-        EXPECT_EQ(c[1], 12.4715);  // 1.5 R
-        EXPECT_EQ(c[4], 1.6667);   // 5/3
-    }
 }
 
 TEST(TablasEspeciesTest, ATextThatIsNoSpeciesIsToldWhenTheFirstRowIsDue) {
