@@ -1,12 +1,9 @@
-// The saved record without the file: the default name, the values that need
-// care (ties, separators, figures that are not finite), where the browser
-// lands after a delete, and the shape of the table.
+// The saved record without the file: the default name and the values that
+// need care (ties, separators, figures that are not finite).
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
-#include <set>
 
 #include "database/Registro.h"
 #include "services/Numeros.h"
@@ -90,38 +87,4 @@ TEST(Registro, UnaCifraQueNoEsFinitaNoLlegaAlRegistroComoNaNNiInfinito) {
         EXPECT_EQ(v.find("inf"), std::string::npos) << v;
     }
     EXPECT_EQ(bd::ValoresRegistro(e, "", "", "")[0], "");
-}
-
-TEST(Registro, TrasBorrarQuedaElSiguienteOElAnteriorSiEraElUltimoONinguno) {
-    EXPECT_EQ(bd::PosicionTrasBorrar(0, 3), 0);   // the first: the one after
-    EXPECT_EQ(bd::PosicionTrasBorrar(1, 3), 1);   // a middle one: the one after
-    EXPECT_EQ(bd::PosicionTrasBorrar(2, 3), 1);   // the last: the one before
-    EXPECT_EQ(bd::PosicionTrasBorrar(0, 1), -1);  // the only one: none
-}
-
-TEST(Registro, LaTablaTiene68ColumnasDistintasYLasImagenesPVyTVCruzadas) {
-    std::set<std::string_view> nombres;
-    for (const auto& c : bd::kColumnasTexto) nombres.insert(c.nombre);
-    for (const auto& c : bd::kColumnasImagen) nombres.insert(c.nombre);
-    EXPECT_EQ(nombres.size(), 68u);
-    for (const auto& c : bd::kColumnasImagen) {
-        if (c.nombre == "imgDTV") {
-            EXPECT_TRUE(c.cuadro == CuadroImagen::pctPV && c.control == "imgDPV");
-        }
-        if (c.nombre == "imgDPV") {
-            EXPECT_TRUE(c.cuadro == CuadroImagen::pctTV && c.control == "imgDTV");
-        }
-    }
-    const std::string insertar = bd::SQLInsertar();
-    EXPECT_EQ(std::count(insertar.begin(), insertar.end(), '?'), 68);
-    EXPECT_NE(insertar.find("\"Guardado como\""), std::string::npos);
-    EXPECT_EQ(bd::Citado("a\"b"), "\"a\"\"b\"");
-}
-
-TEST(Registro, LasCausasDeSQLiteSeDicenEnCastellanoConCodigosExtendidos) {
-    EXPECT_EQ(bd::CausaSQLite(13, "database or disk is full"), "el disco está lleno");
-    EXPECT_EQ(bd::CausaSQLite(8 | (1 << 8), "x"), "el archivo es de solo lectura");
-    EXPECT_NE(bd::CausaSQLite(5, "database is locked").find("otro programa"), std::string::npos);
-    EXPECT_NE(bd::CausaSQLite(26, "file is not a database").find("dañado"), std::string::npos);
-    EXPECT_NE(bd::CausaSQLite(1, "no such table: x").find("no such table: x"), std::string::npos);
 }
