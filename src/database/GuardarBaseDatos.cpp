@@ -30,7 +30,9 @@ bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombu
     for (QImage& imagen : columnas) {
         portapapeles->clear();
         portapapeles->setImage(imagen);
-        imagen = portapapeles->image();
+        // A clipboard that gives nothing back (no system clipboard) does not
+        // cost the record its picture.
+        if (const QImage copia = portapapeles->image(); !copia.isNull()) imagen = copia;
     }
     if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas)) return false;
     navegador.MostrarModal();

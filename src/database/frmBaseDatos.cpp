@@ -471,7 +471,8 @@ void frmBaseDatos::Imagen_Click(ControlImagen* imagen) {
     QClipboard* portapapeles = QGuiApplication::clipboard();
     portapapeles->clear();
     portapapeles->setImage(imagen->Picture());
-    ampliador_->PonerImagen(portapapeles->image());
+    const QImage copia = portapapeles->image();
+    ampliador_->PonerImagen(copia.isNull() ? imagen->Picture() : copia);
     mostrarModal_(*ampliador_);
 }
 
