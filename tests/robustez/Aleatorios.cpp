@@ -62,6 +62,7 @@ size_t Azar::Indice(size_t n) {
 std::string Azar::Escribir(double v) {
     std::string s;
     const char separador = Moneda(0.5) ? '.' : ',';
+    if (!std::isfinite(v)) return Basura();
     // Decimals enough for three significant digits: "1,39" must not become "1".
     const int minimo = v != 0 ? std::max(0, 2 - static_cast<int>(std::floor(std::log10(std::fabs(v))))) : 0;
     switch (Indice(5)) {

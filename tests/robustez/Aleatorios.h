@@ -40,7 +40,8 @@ public:
 
     // A value written as a user might write it: plain, fixed decimals with a
     // point or a comma, an exponent, with blanks or a sign around it. Always
-    // a text that reads back as (about) the value.
+    // a text that reads back as (about) the value; garbage for a value that
+    // is not finite.
     std::string Escribir(double v);
     // A text that is not a number, or is one at the edge of the doubles.
     std::string Basura();

@@ -34,21 +34,21 @@ void EscribirCasoEnCurso() {
     n = write(STDERR_FILENO, "\n", 1);
 }
 
-#ifndef VANTA_SANITIZADORES
 void AlCaer(int senal) {
     EscribirCasoEnCurso();
     std::signal(senal, SIG_DFL);
     std::raise(senal);
 }
-#endif
 
 void InstalarAvisos() {
     static bool instalados = false;
     if (instalados) return;
     instalados = true;
 #ifdef VANTA_SANITIZADORES
-    // The sanitizers own the signals; they call this before they end the process.
+    // AddressSanitizer owns the signals of a fault and calls this before it
+    // ends the process; UndefinedBehaviorSanitizer ends it by abort (below).
     __sanitizer_set_death_callback(EscribirCasoEnCurso);
+    std::signal(SIGABRT, AlCaer);
 #else
     for (int senal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT}) std::signal(senal, AlCaer);
 #endif
@@ -56,12 +56,20 @@ void InstalarAvisos() {
 
 }  // namespace
 
+#ifdef VANTA_SANITIZADORES
+// UndefinedBehaviorSanitizer ends the process by abort rather than by exit,
+// so that the case under way is named; with the stack of the fault.
+extern "C" const char* __ubsan_default_options() {
+    return "print_stacktrace=1:abort_on_error=1";
+}
+#endif
+
 long long NumeroDelEntorno(const char* nombre, long long porDefecto) {
     const char* texto = std::getenv(nombre);
     if (!texto || !*texto) return porDefecto;
     char* fin = nullptr;
     const long long v = std::strtoll(texto, &fin, 10);
-    return (*fin == '\0' && v > 0) ? v : porDefecto;
+    return (*fin == '\0' && v >= 0) ? v : porDefecto;
 }
 
 void PonerCasoEnCurso(const std::string& descripcion) {

@@ -27,7 +27,7 @@ inline constexpr bool kConSanitizadores = false;
 #endif
 
 // A number from the environment, or porDefecto when it is unset or not a
-// positive whole number.
+// whole number of zero or more.
 long long NumeroDelEntorno(const char* nombre, long long porDefecto);
 
 // Writes the text of the case under way on standard error if the process

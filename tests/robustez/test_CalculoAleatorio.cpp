@@ -301,6 +301,9 @@ TEST_P(CalculoAleatorio, EndsInResultsOrAMessageWithNothingThatIsNotFinite) {
             if (GetParam() != solo % kTrozos) break;
             n = solo;
         }
+        PonerCasoEnCurso("caso " + std::to_string(n) + " de la semilla " + std::to_string(semilla) +
+                         " (VANTA_SEMILLA=" + std::to_string(semilla) + " VANTA_CASO=" + std::to_string(n) +
+                         "), al generarlo");
         const Caso caso = GenerarCaso(semilla, static_cast<uint64_t>(n));
         const std::string descripcion = Describir(semilla, caso);
         if (solo >= 0) std::printf("%s\n", descripcion.c_str());

@@ -132,6 +132,7 @@ TEST(LecturaAleatoriaTest, EveryPointerPositionGivesAFiniteReadout) {
     const uint64_t semilla = static_cast<uint64_t>(NumeroDelEntorno("VANTA_SEMILLA", kSemillaFija));
     const long long total = NumeroDelEntorno("VANTA_ALEATORIOS_LECTURA", kConSanitizadores ? 100 : 1000);
     const long long solo = NumeroDelEntorno("VANTA_CASO_LECTURA", -1);
+    Vigilante vigilante(std::chrono::seconds(kConSanitizadores ? 600 : 120));
     int fallidos = 0, calculados = 0;
     for (long long n = solo >= 0 ? solo : 0; n < (solo >= 0 ? solo + 1 : total); ++n) {
         Azar a(SemillaDelCaso(semilla ^ 0x4C45435455524Full, static_cast<uint64_t>(n)));
@@ -149,7 +150,7 @@ TEST(LecturaAleatoriaTest, EveryPointerPositionGivesAFiniteReadout) {
         }
         const std::string descripcion = Describir(semilla, static_cast<uint64_t>(n), args, movimientos);
         if (solo >= 0) std::printf("%s\n", descripcion.c_str());
-        PonerCasoEnCurso(descripcion);
+        vigilante.Empezar(descripcion);
 
         std::vector<std::string> fallos;
         for (const Movimiento& m : movimientos) {
@@ -179,6 +180,7 @@ TEST(LecturaAleatoriaTest, EveryPointerPositionGivesAFiniteReadout) {
                 if (std::string d = DefectoDeTexto(r.dlg.mensajes[k]); !d.empty())
                     fallos.push_back("mensaje \"" + r.dlg.mensajes[k] + "\" con " + d + en);
         }
+        vigilante.Terminar();
         if (!fallos.empty()) {
             std::string texto;
             for (size_t k = 0; k < fallos.size() && k < 12; ++k) texto += "\n    " + fallos[k];
