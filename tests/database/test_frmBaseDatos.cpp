@@ -142,6 +142,14 @@ private slots:
                                         "OR typeof(Rendimiento) <> 'text' OR typeof(imgDhs) <> 'blob'"))
                      .toInt(),
                  0);
+        // The p-V and T-V pictures sit in the crossed columns.
+        const auto columna = [&](const char* c) {
+            return PNGAImagen(m.Valor(QStringLiteral("SELECT %1 FROM ResultadosGuardados ORDER BY rowid LIMIT 1")
+                                          .arg(QLatin1String(c)))
+                                  .toByteArray());
+        };
+        QVERIFY(MismaImagen(columna("imgDTV"), Cuadro(calculos[0], CuadroImagen::pctPV)));
+        QVERIFY(MismaImagen(columna("imgDPV"), Cuadro(calculos[0], CuadroImagen::pctTV)));
     }
 
     void unaComaDelSistemaSeGuardaYSeLeeComoSeVio() {
