@@ -44,6 +44,7 @@ public:
     Vigilante(const Vigilante&) = delete;
     Vigilante& operator=(const Vigilante&) = delete;
 
+    // Empezar names the case as PonerCasoEnCurso does; Terminar forgets it.
     void Empezar(const std::string& descripcion);
     void Terminar();
 
