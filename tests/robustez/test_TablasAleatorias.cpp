@@ -86,8 +86,9 @@ std::string Describir(uint64_t semilla, uint64_t numero, const CasoTablas& c) {
     return os.str();
 }
 
-// A table with more pieces than rows allowed would be a walk that did not stop.
-constexpr double kPiezasMaximas = kFilasMaximas + 10;
+// A table with more pieces than rows allowed would be a walk that did not
+// stop: a row a step for each fluid chosen, and the headings.
+constexpr double kPiezasMaximas = 2 * kFilasMaximas + 10;
 
 std::vector<std::string> Ejecutar(const CasoTablas& c, int& enteras) {
     std::vector<std::string> fallos;
