@@ -93,12 +93,21 @@ void SuperficieQt::AjustarImagenes() {
         imagen_ = QImage();
         return;
     }
-    imagen_ = QImage(tamano, QImage::Format_RGB32);
-    imagen_.setDevicePixelRatio(dpr);
+    QImage nueva(tamano, QImage::Format_RGB32);
+    nueva.setDevicePixelRatio(dpr);
     // The picture measures text as the widget does.
-    imagen_.setDotsPerMeterX(qRound(logicalDpiX() / 0.0254));
-    imagen_.setDotsPerMeterY(qRound(logicalDpiY() / 0.0254));
-    imagen_.fill(ColorQt(fondo_));
+    nueva.setDotsPerMeterX(qRound(logicalDpiX() / 0.0254));
+    nueva.setDotsPerMeterY(qRound(logicalDpiY() / 0.0254));
+    nueva.fill(ColorQt(fondo_));
+    // A new size keeps what was drawn for the old one, from the top left,
+    // until the next drawing clears it: after the return from an enlarged
+    // view without a calculation the diagrams show a part of their large
+    // pictures.
+    if (!imagen_.isNull() && imagen_.devicePixelRatio() == dpr) {
+        QPainter pintor(&nueva);
+        pintor.drawImage(QPointF(0, 0), imagen_);
+    }
+    imagen_ = std::move(nueva);
 }
 
 void SuperficieQt::CerrarPintor() {

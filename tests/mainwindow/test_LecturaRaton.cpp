@@ -71,6 +71,24 @@ TEST_F(Lectura, BetweenTheStrokesTheNearerCurveWins) {
     EXPECT_EQ(c.e.TipoFluido, kFluidoHumos);
 }
 
+TEST_F(Lectura, AnExactTieBetweenTheCandidatesGoesToTheCompression) {
+    c.Ejecutar({});
+    // Volumes that singles hold exactly, so that both candidates are round:
+    // the compression gives 4·p1 at half the stroke, the expansion p4 there.
+    c.e.V1 = std::ldexp(1.0, -13);
+    c.e.V2 = c.e.V1 / 8;
+    c.e.V4 = c.e.V1 / 2;
+    c.e.GammaMedioCompresion = 2;
+    c.e.p1 = 1e5;
+    c.e.p4 = 5e5;
+    PV(c.e.V1 / 2, -4.5e5);
+    EXPECT_EQ(l.txtTransformacion, "Compresión adiabática");
+    EXPECT_EQ(l.lblPmouseVal, P(4e5));
+    PV(c.e.V1 / 2, -4.5e5 - 64);
+    EXPECT_EQ(l.txtTransformacion, "Expansión adiabática");
+    EXPECT_EQ(l.lblPmouseVal, P(5e5));
+}
+
 TEST_F(Lectura, DieselIsochoreAboveState3IsAirAtState3AndTheIsobarCanWin) {
     c.Ejecutar({"--ciclo", "Diesel", "--rc", "18"});
     TV(c.e.V2 / 2, -c.e.T3 - 50);

@@ -164,17 +164,29 @@ private slots:
         QVERIFY(s.Imagen().isNull());
     }
 
-    void alCambiarDeTamanoLaImagenLoSigueEnBlanco() {
+    void alCambiarDeTamanoLaImagenGuardaLoDibujadoDesdeArribaALaIzquierda() {
         SuperficieQt s(nullptr, kFondoGris);
         s.resize(100, 80);
         s.Scale(0, 0, 1, 1);
         s.SetForeColor(RGB(255, 0, 0));
         s.Line(0, 0, 1, 1);
-        QVERIFY(Cuenta(s.Imagen(), kRojo) > 0);
+        const QRect antes = Tinta(s.Imagen(), QColor(245, 245, 245));
+        QVERIFY(!antes.isEmpty());
+        // Larger: the same ink where it was, the new strip in the ground.
         s.resize(160, 90);
-        const QImage imagen = s.Imagen();
+        QImage imagen = s.Imagen();
         QCOMPARE(imagen.deviceIndependentSize().toSize(), s.contentsRect().size());
-        QCOMPARE(Cuenta(imagen, QColor(245, 245, 245)), imagen.width() * imagen.height());
+        QCOMPARE(Tinta(imagen, QColor(245, 245, 245)), antes);
+        // Smaller: what still fits.
+        s.resize(50, 40);
+        imagen = s.Imagen();
+        QCOMPARE(imagen.deviceIndependentSize().toSize(), s.contentsRect().size());
+        const QRect queda = Tinta(imagen, QColor(245, 245, 245));
+        QCOMPARE(queda.topLeft(), antes.topLeft());
+        QVERIFY(queda.width() >= imagen.width() - 2 && queda.height() >= imagen.height() - 2);
+        // The next Cls starts afresh at the new size.
+        s.Cls();
+        QVERIFY(Tinta(s.Imagen(), QColor(245, 245, 245)).isEmpty());
     }
 
     void loQueSeSaleDeLaEscalaNoRompeElDibujo() {
