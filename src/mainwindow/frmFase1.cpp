@@ -514,7 +514,10 @@ void frmFase1::MostrarLectura() {
     const std::string* valores[5] = {&lectura_.lblPmouseVal, &lectura_.lblVmouseVal, &lectura_.lblTmouseVal,
                                      &lectura_.lblhmouseVal, &lectura_.lblSmouseVal};
     for (int i = 0; i < 5; ++i) valorEstado_[i]->setText(ATexto(*valores[i]));
+    // A name longer than the box shows its beginning, and whole as a tip.
     txtTransformacion_->setText(ATexto(lectura_.txtTransformacion));
+    txtTransformacion_->setCursorPosition(0);
+    txtTransformacion_->setToolTip(txtTransformacion_->text());
 }
 
 bool frmFase1::eventFilter(QObject* objeto, QEvent* evento) {

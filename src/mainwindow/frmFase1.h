@@ -141,6 +141,7 @@ private:
     // The enlarged view of a diagram, or the return to the overview, by the
     // diagram's own test on the current geometry; each ends in a calculation.
     void PonerGraficos(DiagramaAmpliable d);
+    GeometriaDiagramas GeometriaActual() const;
     void PonerGraficosPV() { PonerGraficos(DiagramaAmpliable::PV); }
     void PonerGraficosTV() { PonerGraficos(DiagramaAmpliable::TV); }
     void PonerGraficosTS() { PonerGraficos(DiagramaAmpliable::TS); }

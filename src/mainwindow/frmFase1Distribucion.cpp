@@ -234,11 +234,17 @@ void frmFase1::DistribuirEstadoActual() {
     // One row: the process under the pointer, then p, V, T, h and s.
     auto* fila = new QHBoxLayout(fraEstadoActual_);
     fila->setContentsMargins(6, 2, 6, 2);
-    fila->addWidget(txtTransformacion_, 3);
+    fila->setSpacing(3);
+    // The values take the room of a pressure of nine digits (the blanks of
+    // the masks before it fall off the left edge), the name of the process
+    // all the rest.
+    fila->addWidget(txtTransformacion_, 1);
+    const int anchoValor = valorEstado_[0]->fontMetrics().horizontalAdvance(QStringLiteral("888 888 888"));
     for (int i = 0; i < 5; ++i) {
-        fila->addSpacing(10);
+        fila->addSpacing(6);
         fila->addWidget(nombreEstado_[i]);
-        fila->addWidget(valorEstado_[i], 2);
+        valorEstado_[i]->setFixedWidth(anchoValor);
+        fila->addWidget(valorEstado_[i]);
         fila->addWidget(unidadEstado_[i]);
     }
 }
@@ -271,14 +277,18 @@ void Poner(QWidget* w, const LugarDiagrama& l) {
 }
 }  // namespace
 
-void frmFase1::PonerGraficos(DiagramaAmpliable d) {
+GeometriaDiagramas frmFase1::GeometriaActual() const {
     GeometriaDiagramas actual;
     actual.W = width(), actual.H = height();
     actual.pctPV = LugarDe(pctPV_), actual.pctTV = LugarDe(pctTV_);
     actual.pctTS = LugarDe(pctTS_), actual.pctHS = LugarDe(pctHS_);
+    return actual;
+}
+
+void frmFase1::PonerGraficos(DiagramaAmpliable d) {
     // Two twips of the design's unit, in this window's pixels.
     const double dosTwips = 2.0 * logicalDpiX() / 1440.0;
-    if (!DebeAmpliar(d, actual, dosTwips)) {
+    if (!DebeAmpliar(d, GeometriaActual(), dosTwips)) {
         PonerGraficosTodos();
         CalcularCicloActual();
         DiagramaAmpliado_ = false;
@@ -289,6 +299,16 @@ void frmFase1::PonerGraficos(DiagramaAmpliable d) {
     Poner(pctTV_, g.pctTV);
     Poner(pctTS_, g.pctTS);
     Poner(pctHS_, g.pctHS);
+    // In whole pixels the main surface may fall a hair short of 0.7 W, and a
+    // second click on it would enlarge it again instead of returning: it
+    // takes the next pixel.
+    if (DebeAmpliar(d, GeometriaActual(), dosTwips)) {
+        SuperficieQt* principal = d == DiagramaAmpliable::PV   ? pctPV_
+                                  : d == DiagramaAmpliable::TV ? pctTV_
+                                  : d == DiagramaAmpliable::TS ? pctTS_
+                                                               : pctHS_;
+        principal->resize(principal->width() + 1, principal->height());
+    }
     // The inset stands over the main surface.
     (d == DiagramaAmpliable::HS ? static_cast<QWidget*>(pctTS_) : static_cast<QWidget*>(pctHS_))->raise();
     for (QWidget* w : {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_)})

@@ -35,9 +35,9 @@ T* Hijo(const QObject* raiz, const char* nombre) {
 struct Programa {
     Estado e;
     DialogosGrabados dlg;
-    frmFase1 f{e, &dlg, QSize(1024, 768)};
+    frmFase1 f;
 
-    Programa() {
+    explicit Programa(QSize tamano = QSize(1024, 768)) : f(e, &dlg, tamano) {
         f.FijarMostrarModal([](QDialog& d) { d.show(); });
         f.show();
         if (!QTest::qWaitForWindowExposed(&f)) qFatal("la ventana principal no aparece");

@@ -184,6 +184,30 @@ private slots:
         QVERIFY(DibujadaHastaLaDerecha(p.f.pctTV()));
     }
 
+    void unSegundoClicVuelveSeaCualSeaElAnchoDeLaVentana_data() {
+        QTest::addColumn<int>("ancho");
+        // 0.7 W falls below the half pixel, on it, above it, on a whole one.
+        QTest::newRow("942") << 942;
+        QTest::newRow("945") << 945;
+        QTest::newRow("1024") << 1024;
+        QTest::newRow("1000") << 1000;
+    }
+    void unSegundoClicVuelveSeaCualSeaElAnchoDeLaVentana() {
+        QFETCH(int, ancho);
+        Programa p(QSize(ancho, ancho * 3 / 4));
+        QVERIFY(p.CuatroEtapas());
+        for (SuperficieQt* s : {p.f.pctPV(), p.f.pctTV()}) {
+            QTest::mouseClick(s, Qt::LeftButton);
+            QCOMPARE(s->geometry().topLeft(), QPoint(0, 0));
+            QTest::mouseClick(s, Qt::LeftButton);
+            VerificarVistaGeneral(p);
+            if (QTest::currentTestFailed()) return;
+        }
+        p.Menu("mnuHS")->trigger();
+        p.Menu("mnuHS")->trigger();
+        VerificarVistaGeneral(p);
+    }
+
     void laCasillaHsSoloEnLasVistasAmpliadas() {
         Programa p;
         QVERIFY(p.CuatroEtapas());
