@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "cycle/PantallaCiclo.h"
 #include "mainwindow/Controles.h"
 #include "mainwindow/TextosVentanas.h"
 #include "resources/Dibujos.h"
@@ -134,27 +135,27 @@ void frmOtto_Diesel::CrearControles() {
     chkOcultar_ = NuevaCasilla(this, "chkOcultar", kOcultarAutomaticamente, true);
 
     fraDTecnicos_ = NuevoMarco(this, "fraDTecnicos", "Datos técnicos del motor");
-    txtCilindrada_ = NuevaCaja(fraDTecnicos_, "txtCilindrada", "100");
-    txtRc_ = NuevaCaja(fraDTecnicos_, "txtRc", "10");
+    txtCilindrada_ = NuevaCaja(fraDTecnicos_, "txtCilindrada", kTextoCilindrada);
+    txtRc_ = NuevaCaja(fraDTecnicos_, "txtRc", kTextoRc);
     Label1_ = NuevaEtiqueta(fraDTecnicos_, "Label1", "Cilindrada");
     Label2_ = NuevaEtiqueta(fraDTecnicos_, "Label2", "Rc");
     lblcc_ = NuevaEtiqueta(fraDTecnicos_, "lblcc", "c.c.");
 
     fraAire_ = NuevoMarco(this, "fraAire", "Propiedades del aire en el PMI (fin admisión)");
-    txtP1_ = NuevaCaja(fraAire_, "txtP1", "100000");
+    txtP1_ = NuevaCaja(fraAire_, "txtP1", kTextoP1);
     txtP1_->setToolTip(QString::fromUtf8(kPresionAbsoluta));
-    txtT1_ = NuevaCaja(fraAire_, "txtT1", "298");
+    txtT1_ = NuevaCaja(fraAire_, "txtT1", kTextoT1);
     Label3_ = NuevaEtiqueta(fraAire_, "Label3", "Presión");
     Label5_ = NuevaEtiqueta(fraAire_, "Label5", "Temperatura");
     lblPa_ = NuevaEtiqueta(fraAire_, "lblPa", "Pa");
     lblK_ = NuevaEtiqueta(fraAire_, "lblK", "K");
 
     fraOpcion_ = NuevoMarco(this, "fraOpcion", "Ciclo Mixto");
-    txtPropVcte_ = NuevaCaja(fraOpcion_, "txtPropVcte", "50");
-    txtPMax_ = NuevaCaja(fraOpcion_, "txtPMax", "10000000");
+    txtPropVcte_ = NuevaCaja(fraOpcion_, "txtPropVcte", kTextoPropVcte);
+    txtPMax_ = NuevaCaja(fraOpcion_, "txtPMax", kTextoPMax);
     txtPMax_->setToolTip(QString::fromUtf8(kPresionAbsoluta));
     // The share at constant pressure is the program's answer.
-    txtPropPcte_ = NuevaCaja(fraOpcion_, "txtPropPcte", "50", true);
+    txtPropPcte_ = NuevaCaja(fraOpcion_, "txtPropPcte", kTextoPropPcte, true);
     optProporcion_ = NuevaOpcion(fraOpcion_, "optProporcion", "Q proporciones");
     optPmax_ = NuevaOpcion(fraOpcion_, "optPmax", "P máxima");
     lblcVc_ = NuevaEtiqueta(fraOpcion_, "lblcVc", "Combustión a V = cte.");
@@ -167,17 +168,17 @@ void frmOtto_Diesel::CrearControles() {
     fraExpansion_ = NuevoMarco(this, "fraExpansion", "Expansión");
     optGvariableExp_ = NuevaOpcion(fraExpansion_, "optGvariableExp", "Exponente adiabático variable");
     optGmedioExp_ = NuevaOpcion(fraExpansion_, "optGmedioExp", "Exponente adiabático medio");
-    txtGMedioExp_ = NuevaCaja(fraExpansion_, "txtGMedioExp", "Gamma medioExp", true);
+    txtGMedioExp_ = NuevaCaja(fraExpansion_, "txtGMedioExp", kTextoGammaMedioExp, true);
     optPolitropica_ = NuevaOpcion(fraExpansion_, "optPolitropica", "Politrópica");
-    txt_nExp_ = NuevaCaja(fraExpansion_, "txt_nExp", "1,23");
+    txt_nExp_ = NuevaCaja(fraExpansion_, "txt_nExp", kTextoNExpansion);
     lbl_nExp_ = NuevaEtiqueta(fraExpansion_, "lbl_nExp", "n =");
 
     fraCompresion_ = NuevoMarco(this, "fraCompresion", "Compresión");
     optGvariable_ = NuevaOpcion(fraCompresion_, "optGvariable", "Exponente adiabático variable");
     optGmedioCom_ = NuevaOpcion(fraCompresion_, "optGmedioCom", "Exponente adiabático medio");
-    txtGammaMedioComp_ = NuevaCaja(fraCompresion_, "txtGammaMedioComp", "Gamma medio", true);
+    txtGammaMedioComp_ = NuevaCaja(fraCompresion_, "txtGammaMedioComp", kTextoGammaMedioComp, true);
     optPolitropicaCom_ = NuevaOpcion(fraCompresion_, "optPolitropicaCom", "Politrópica");
-    txt_nCom_ = NuevaCaja(fraCompresion_, "txt_nCom", "1,39");
+    txt_nCom_ = NuevaCaja(fraCompresion_, "txt_nCom", kTextoNCompresion);
     lbl_n_comp_ = NuevaEtiqueta(fraCompresion_, "lbl_n_comp", "n =");
 
     cmdCal_ = NuevoBoton(this, "cmdCal", kCalcular);

@@ -10,6 +10,11 @@
 namespace vanta {
 
 // Dry air, in mole fraction.
+// Default texts of the air window's boxes.
+inline constexpr const char* kTextoTemperaturaAmbiente = "300";
+inline constexpr const char* kTextoPresionAmbiente = "100000";
+inline constexpr const char* kTextoHumedad = "0";
+
 inline constexpr double kAireSecoN2 = 0.78087;
 inline constexpr double kAireSecoO2 = 0.20946;
 inline constexpr double kAireSecoAr = 0.00934;
