@@ -257,14 +257,16 @@ bool EtapaCiclo(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, Superficies
     return !e.ErrorCalculo;
 }
 
-// The power block of the main window at the speed given.
-void EscribirPotencia(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, const TextosResultados& r,
+// The power block of the main window at the speed given; false when the
+// speed was refused (its message is told and the power stays empty).
+bool EscribirPotencia(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, const TextosResultados& r,
                       std::ostream& out) {
     CajaTextoSimple txtRpm(o.Valor("rpm")), txtPotencia, txtPotenciaCV;
     txtRpm_Change(e, dlg, txtRpm, txtPotencia, txtPotenciaCV);
     out << "r.p.m. = " << txtRpm.Text() << "\r\n"
         << "Potencia = " << txtPotencia.Text() << " W = " << txtPotenciaCV.Text() << " CV\r\n"
         << "Consumo = " << r.txtConsumoMJ << " g / MJ = " << r.txtConsumoKwh << " g / (kW·h)\r\n";
+    return !e.ErrorCalculo;
 }
 
 }  // namespace
@@ -281,13 +283,13 @@ bool DefinirFluido(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, Superfic
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, std::ostream& out) {
     VentanaPrincipalSimple v;
     v.tipoCombustible = TextoListaCombustible(o);
-    const bool bien = DefinirFluido(e, o, dlg, s, true) && EtapaCiclo(e, o, dlg, s, v);
+    bool bien = DefinirFluido(e, o, dlg, s, true) && EtapaCiclo(e, o, dlg, s, v);
     if (o.json) {
         out << EstadoJSON(e) << '\n';
     } else if (bien) {
         // The report as the program keeps it, CR LF, closed by one more line end.
         out << v.informe << "\r\n";
-        if (o.Tiene("rpm")) EscribirPotencia(e, o, dlg, v.resultados, out);
+        if (o.Tiene("rpm")) bien = EscribirPotencia(e, o, dlg, v.resultados, out);
     }
     return bien ? kSalidaBien : kSalidaFallo;
 }

@@ -86,6 +86,21 @@ TEST(LineaComandosTest, OptionsDefaultToWhatTheScreensStartWith) {
     EXPECT_EQ(p.opciones->Valor("ciclo"), "Otto");
 }
 
+TEST(LineaComandosTest, RpmAddsThePowerAndARefusedSpeedEndsWithOne) {
+    if (std::string(VANTA_BINARIO).empty()) GTEST_SKIP() << "sin binario";
+    const std::string consumo = "Consumo =    53.2 g / MJ =    191.4 g / (kW·h)\r\n";
+    Salida s = Ejecutar("calcular --rpm 3000");
+    EXPECT_EQ(s.estado, 0) << s.err;
+    const std::string potencia = "\r\nr.p.m. = 3000\r\nPotencia =   3 736.7 W =    5.1 CV\r\n" + consumo;
+    EXPECT_EQ(s.out.substr(s.out.size() - potencia.size()), potencia);
+    // The report stands; the speed's message goes to the error output.
+    s = Ejecutar("calcular --rpm abc");
+    EXPECT_EQ(s.estado, 1);
+    EXPECT_NE(s.err.find("rpm no es un número"), std::string::npos) << s.err;
+    EXPECT_NE(s.out.find("RENDIMIENTO = 0.45\r\n"), std::string::npos);
+    EXPECT_NE(s.out.find("Potencia =    0.0 W =    0.0 CV\r\n"), std::string::npos);
+}
+
 TEST(LineaComandosTest, JsonCarriesTheFuelAndGasFigures) {
     if (std::string(VANTA_BINARIO).empty()) GTEST_SKIP() << "sin binario";
     const Salida gasoil = Ejecutar("calcular --json --combustible Gasoil --fr 0.8");
