@@ -145,33 +145,6 @@ private slots:
         const QPixmap enorme = DibujoCiclo(QLatin1String(kCicloOtto), false, QSize(1000000, 3), 8);
         QVERIFY(enorme.width() <= 4096 && enorme.height() == 24);
     }
-
-    // The splash is a dark picture that fills its frame; the panel is a
-    // light one with something on it.
-    void presentacionYPanel() {
-        const QImage splash = DibujoPresentacion(QSize(400, 250), 1).toImage();
-        for (const QPoint& esquina : {QPoint(0, 0), QPoint(399, 0), QPoint(0, 249), QPoint(399, 249)}) {
-            const QColor c = splash.pixelColor(esquina);
-            QCOMPARE(c.alpha(), 255);
-            QVERIFY(c.value() < 110);
-        }
-        const QImage panel = DibujoElegirCiclo(QSize(400, 250), 1).toImage();
-        QVERIFY(panel.pixelColor(200, 125).value() > 180);
-        QSet<QRgb> colores;
-        for (int y = 0; y < panel.height(); y += 3)
-            for (int x = 0; x < panel.width(); x += 3) colores.insert(panel.pixel(x, y));
-        QVERIFY(colores.size() > 50);
-    }
-
-    // The icon comes at the usual sizes, on a tile with rounded corners.
-    void icono() {
-        const QIcon icono = IconoVanta();
-        const QList<QSize> tamanos = icono.availableSizes();
-        for (int lado : {16, 32, 48, 256}) QVERIFY(tamanos.contains(QSize(lado, lado)));
-        const QImage im = icono.pixmap(QSize(64, 64)).toImage();
-        QCOMPARE(qAlpha(im.pixel(0, 0)), 0);
-        QCOMPARE(qAlpha(im.pixel(32, 32)), 255);
-    }
 };
 
 // ---- Help ----------------------------------------------------------------------------
@@ -268,14 +241,6 @@ private slots:
         QCOMPARE(principal.findChildren<frmAcercaDe*>().size(), 1);
     }
 
-    // With no parent the window goes when it is closed.
-    void sinPadre() {
-        QPointer<frmAcercaDe> a = MostrarAcercaDe(nullptr);
-        QVERIFY(a->testAttribute(Qt::WA_DeleteOnClose));
-        a->close();
-        QTRY_VERIFY(a.isNull());
-    }
-
     // The button opens the bibliography, not modal, once: a second press
     // raises the same window. It lists every book in its own order.
     void bibliografia() {
@@ -310,26 +275,6 @@ private slots:
         QVERIFY(!IsbnValido(QString()));
     }
 
-    // Every entry is complete, every ISBN given is well formed, and the list
-    // has books in Spanish and in English on engines and on thermodynamics.
-    void librosCompletos() {
-        int espanol = 0, ingles = 0, motores = 0, termodinamica = 0;
-        for (const Libro& l : Bibliografia()) {
-            QVERIFY(!l.titulo.isEmpty() && !l.autores.isEmpty() && !l.editorial.isEmpty() &&
-                    !l.edicion.isEmpty());
-            QVERIFY(l.anio > 1900 && l.anio < 2100);
-            if (!l.isbn.isEmpty()) QVERIFY2(IsbnValido(l.isbn), qPrintable(l.isbn));
-            const QString t = l.titulo.toLower();
-            if (t.contains(QStringLiteral("motores")) || t.contains(QStringLiteral("termodinámica")))
-                ++espanol;
-            if (t.contains(QStringLiteral("engine")) || t.contains(QStringLiteral("thermodynamics")))
-                ++ingles;
-            if (t.contains(QStringLiteral("motores")) || t.contains(QStringLiteral("engine"))) ++motores;
-            if (t.contains(QStringLiteral("termodinámica")) || t.contains(QStringLiteral("thermodynamics")))
-                ++termodinamica;
-        }
-        QVERIFY(espanol >= 2 && ingles >= 2 && motores >= 3 && termodinamica >= 2);
-    }
 };
 
 namespace {
