@@ -47,6 +47,8 @@ bool Recortar(QPointF& p, QPointF& q, const QRectF& r) {
     return true;
 }
 
+constexpr qreal kPuntosLetra = 8;
+
 bool Finito(QPointF p) { return std::isfinite(p.x()) && std::isfinite(p.y()); }
 
 }  // namespace
@@ -59,6 +61,12 @@ SuperficieQt::SuperficieQt(QWidget* padre, int32_t fondo) : QFrame(padre), fondo
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    // The charts and diagrams were laid out for a small letter of 8 points:
+    // their texts stand at fixed places in the scale and longer ones would
+    // run past the edge.
+    QFont letra = font();
+    letra.setPointSizeF(kPuntosLetra);
+    setFont(letra);
 }
 
 SuperficieQt::~SuperficieQt() { CerrarPintor(); }
