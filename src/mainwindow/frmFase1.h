@@ -142,6 +142,7 @@ private:
     // diagram's own test on the current geometry; each ends in a calculation.
     void PonerGraficos(DiagramaAmpliable d);
     GeometriaDiagramas GeometriaActual() const;
+    SuperficieQt* SuperficieDe(DiagramaAmpliable d) const;
     void PonerGraficosPV() { PonerGraficos(DiagramaAmpliable::PV); }
     void PonerGraficosTV() { PonerGraficos(DiagramaAmpliable::TV); }
     void PonerGraficosTS() { PonerGraficos(DiagramaAmpliable::TS); }

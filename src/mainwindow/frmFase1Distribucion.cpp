@@ -277,6 +277,16 @@ void Poner(QWidget* w, const LugarDiagrama& l) {
 }
 }  // namespace
 
+SuperficieQt* frmFase1::SuperficieDe(DiagramaAmpliable d) const {
+    switch (d) {
+        case DiagramaAmpliable::PV: return pctPV_;
+        case DiagramaAmpliable::TV: return pctTV_;
+        case DiagramaAmpliable::TS: return pctTS_;
+        case DiagramaAmpliable::HS: return pctHS_;
+    }
+    return pctPV_;
+}
+
 GeometriaDiagramas frmFase1::GeometriaActual() const {
     GeometriaDiagramas actual;
     actual.W = width(), actual.H = height();
@@ -302,15 +312,10 @@ void frmFase1::PonerGraficos(DiagramaAmpliable d) {
     // In whole pixels the main surface may fall a hair short of 0.7 W, and a
     // second click on it would enlarge it again instead of returning: it
     // takes the next pixel.
-    if (DebeAmpliar(d, GeometriaActual(), dosTwips)) {
-        SuperficieQt* principal = d == DiagramaAmpliable::PV   ? pctPV_
-                                  : d == DiagramaAmpliable::TV ? pctTV_
-                                  : d == DiagramaAmpliable::TS ? pctTS_
-                                                               : pctHS_;
-        principal->resize(principal->width() + 1, principal->height());
-    }
+    SuperficieQt* principal = SuperficieDe(d);
+    if (DebeAmpliar(d, GeometriaActual(), dosTwips)) principal->resize(principal->width() + 1, principal->height());
     // The inset stands over the main surface.
-    (d == DiagramaAmpliable::HS ? static_cast<QWidget*>(pctTS_) : static_cast<QWidget*>(pctHS_))->raise();
+    (d == DiagramaAmpliable::HS ? pctTS_ : pctHS_)->raise();
     for (QWidget* w : {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_)})
         w->hide();
     pctTS_->show();

@@ -116,12 +116,13 @@ struct Programa {
     bool CuatroEtapas() { return Etapa1() && Etapa2() && Etapa3() && Etapa4(); }
 };
 
-// Whether the surface's persistent picture holds anything but its ground.
-inline bool Dibujada(SuperficieQt* s) {
+// Whether the surface's persistent picture holds anything but its ground,
+// from the given share of its width rightwards.
+inline bool Dibujada(SuperficieQt* s, double desdeFraccion = 0) {
     const QImage i = s->Imagen();
     const QRgb fondo = ColorQt(s->Fondo()).rgb();
     for (int y = 0; y < i.height(); ++y)
-        for (int x = 0; x < i.width(); ++x)
+        for (int x = int(i.width() * desdeFraccion); x < i.width(); ++x)
             if (i.pixel(x, y) != fondo) return true;
     return false;
 }

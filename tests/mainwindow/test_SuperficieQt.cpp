@@ -8,22 +8,14 @@
 #include "Pruebas.h"
 #include "services/SuperficieQt.h"
 
+using vanta::pruebas::Cuenta;
+
 using namespace vanta;
 
 namespace {
 
 const QColor kRojo(255, 0, 0);
 const QColor kAzul(0, 0, 255);
-
-// Pixels of exactly that colour in the image.
-int Cuenta(const QImage& imagen, const QColor& color) {
-    const QImage i = imagen.convertToFormat(QImage::Format_RGB32);
-    int n = 0;
-    for (int y = 0; y < i.height(); ++y)
-        for (int x = 0; x < i.width(); ++x)
-            if (QColor(i.pixel(x, y)) == color) ++n;
-    return n;
-}
 
 // The box of the pixels that differ from the ground, in device pixels.
 QRect Tinta(const QImage& imagen, const QColor& fondo) {

@@ -28,27 +28,13 @@ QString Texto(const QRect& r) {
 
 // Whether the picture has anything but its ground in its right fifth: a
 // picture drawn at its own size does, a smaller one carried over does not.
-bool DibujadaHastaLaDerecha(SuperficieQt* s) {
-    const QImage i = s->Imagen();
-    const QRgb fondo = ColorQt(s->Fondo()).rgb();
-    for (int y = 0; y < i.height(); ++y)
-        for (int x = i.width() * 4 / 5; x < i.width(); ++x)
-            if (i.pixel(x, y) != fondo) return true;
-    return false;
-}
-
-int Cuenta(const QImage& i, QRgb color) {
-    int n = 0;
-    for (int y = 0; y < i.height(); ++y)
-        for (int x = 0; x < i.width(); ++x) n += i.pixel(x, y) == color;
-    return n;
-}
+bool DibujadaHastaLaDerecha(SuperficieQt* s) { return Dibujada(s, 0.8); }
 
 // The pixels of the cross on the transient layer: the surface as shown less
 // its persistent picture, counted in the colour of the cross.
 int PixelesDeLaCruz(SuperficieQt* s, int32_t color) {
-    const QImage vista = s->grab(s->contentsRect()).toImage().convertToFormat(QImage::Format_RGB32);
-    return Cuenta(vista, ColorQt(color).rgb()) - Cuenta(s->Imagen(), ColorQt(color).rgb());
+    const QImage vista = s->grab(s->contentsRect()).toImage();
+    return Cuenta(vista, ColorQt(color)) - Cuenta(s->Imagen(), ColorQt(color));
 }
 
 const char* const kMenus[4] = {"mnuPV", "mnuTV", "mnuTS", "mnuHS"};
