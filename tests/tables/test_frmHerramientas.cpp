@@ -263,22 +263,6 @@ private slots:
         QVERIFY(p.open(QIODevice::ReadOnly));
         QVERIFY(p.read(5) == "%PDF-");
     }
-
-    void laCajaSeAjustaALaVentanaAlMoverElRaton() {
-        Herramienta h;
-        frmTablas* v = h.Visor();
-        v->show();
-        QVERIFY(QTest::qWaitForWindowExposed(v));
-        QMouseEvent mover(QEvent::MouseMove, QPointF(20, 20), QPointF(20, 20), Qt::NoButton, Qt::NoButton,
-                          Qt::NoModifier);
-        for (QSize tamano : {QSize(1000, 700), QSize(700, 450)}) {
-            v->resize(tamano);
-            QCoreApplication::sendEvent(h.Texto()->viewport(), &mover);
-            const QSize interior = v->centralWidget()->size();
-            QCOMPARE(h.Texto()->size(),
-                     QSize(qRound(interior.width() * 0.95), qRound(interior.height() * 0.9)));
-        }
-    }
 };
 
 static vanta::pruebas::Registrar<PruebaHerramientas> registro;
