@@ -5,8 +5,8 @@
 #include <sstream>
 
 #include "app/LineaComandos.h"
-#include "cycle/PantallaCiclo.h"
-#include "cycle/Transformaciones.h"
+#include "core/cycle/PantallaCiclo.h"
+#include "core/cycle/Transformaciones.h"
 
 using namespace vanta;
 

@@ -12,10 +12,10 @@
 #include <memory>
 
 #include "app/LineaComandos.h"
-#include "services/Numeros.h"
-#include "tables/TablasPropiedades.h"
-#include "tables/frmHerramientas.h"
-#include "tables/frmTablas.h"
+#include "core/services/Numeros.h"
+#include "core/tables/TablasPropiedades.h"
+#include "gui/tables/frmHerramientas.h"
+#include "gui/tables/frmTablas.h"
 
 namespace {
 

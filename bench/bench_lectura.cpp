@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "app/LineaComandos.h"
-#include "mainwindow/LecturaRaton.h"
+#include "core/diagrams/LecturaRaton.h"
 
 using namespace vanta;
 

@@ -1,8 +1,8 @@
 // Property evaluations with a new temperature each call, sweeping 300 to 3000 K.
 #include <benchmark/benchmark.h>
 
-#include "properties/Especies.h"
-#include "properties/Mezclas.h"
+#include "core/properties/Especies.h"
+#include "core/properties/Mezclas.h"
 
 using namespace vanta;
 

@@ -11,12 +11,12 @@ if(TARGET vanta)
   install(TARGETS vanta RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
 
-# VANTA_DIR_AYUDA and VANTA_PAGINAS_AYUDA come from src/resources/fuentes.cmake,
+# VANTA_DIR_AYUDA and VANTA_PAGINAS_AYUDA come from src/gui/resources/recursos.cmake,
 # which also gives the program the same folder to look in.
 install(FILES ${VANTA_PAGINAS_AYUDA} DESTINATION ${VANTA_DIR_AYUDA})
 
 install(FILES ${PROJECT_SOURCE_DIR}/packaging/${VANTA_ID}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${PROJECT_SOURCE_DIR}/src/resources/vanta.svg
+install(FILES ${PROJECT_SOURCE_DIR}/src/gui/resources/vanta.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps RENAME ${VANTA_ID}.svg)
 configure_file(${PROJECT_SOURCE_DIR}/packaging/${VANTA_ID}.metainfo.xml.in
                ${PROJECT_BINARY_DIR}/${VANTA_ID}.metainfo.xml @ONLY)

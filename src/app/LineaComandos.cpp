@@ -6,12 +6,12 @@
 #include <set>
 #include <sstream>
 
-#include "cycle/PantallaCiclo.h"
-#include "cycle/Transformaciones.h"
-#include "fluids/AireHumedo.h"
-#include "fluids/Combustible.h"
-#include "fluids/Combustion.h"
-#include "services/Fallos.h"
+#include "core/cycle/PantallaCiclo.h"
+#include "core/cycle/Transformaciones.h"
+#include "core/fluids/AireHumedo.h"
+#include "core/fluids/Combustible.h"
+#include "core/fluids/Combustion.h"
+#include "core/services/Fallos.h"
 
 namespace vanta::cli {
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "services/Puertos.h"
-#include "services/Superficie.h"
-#include "state/Estado.h"
+#include "core/services/Puertos.h"
+#include "core/services/Superficie.h"
+#include "core/state/Estado.h"
 
 namespace vanta::cli {
 

@@ -3,8 +3,8 @@
 #include <ostream>
 
 #include "app/LineaComandos.h"
-#include "properties/Especies.h"
-#include "tables/TablasPropiedades.h"
+#include "core/properties/Especies.h"
+#include "core/tables/TablasPropiedades.h"
 
 namespace vanta::cli {
 

@@ -12,11 +12,11 @@
 
 #include "app/LineaComandos.h"
 #include "app/LineaTablas.h"
-#include "database/GuardarBaseDatos.h"
-#include "reports/PaginaWeb.h"
-#include "mainwindow/frmFase1.h"
-#include "resources/Programa.h"
-#include "services/Numeros.h"
+#include "gui/database/GuardarBaseDatos.h"
+#include "gui/reports/PaginaWeb.h"
+#include "gui/mainwindow/frmFase1.h"
+#include "gui/resources/Programa.h"
+#include "core/services/Numeros.h"
 
 namespace {
 

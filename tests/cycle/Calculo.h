@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "app/LineaComandos.h"
-#include "services/Numeros.h"
+#include "core/services/Numeros.h"
 
 namespace vanta::prueba {
 

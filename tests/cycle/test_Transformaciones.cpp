@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "../properties/Fluidos.h"
-#include "cycle/Transformaciones.h"
-#include "properties/Busquedas.h"
-#include "properties/Mezclas.h"
+#include "core/cycle/Transformaciones.h"
+#include "core/properties/Busquedas.h"
+#include "core/properties/Mezclas.h"
 
 using namespace vanta;
 

@@ -16,11 +16,11 @@
 #include <vector>
 
 #include "app/LineaComandos.h"
-#include "database/AlmacenResultados.h"
-#include "database/GuardarBaseDatos.h"
-#include "database/Registro.h"
-#include "database/frmBaseDatos.h"
-#include "services/SuperficieQt.h"
+#include "gui/database/AlmacenResultados.h"
+#include "gui/database/GuardarBaseDatos.h"
+#include "core/database/Registro.h"
+#include "gui/database/frmBaseDatos.h"
+#include "gui/services/SuperficieQt.h"
 
 namespace vanta::pruebas {
 

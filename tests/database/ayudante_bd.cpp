@@ -19,9 +19,9 @@
 #include <string>
 #include <unistd.h>
 
-#include "database/AlmacenResultados.h"
-#include "database/GuardarBaseDatos.h"
-#include "database/Registro.h"
+#include "gui/database/AlmacenResultados.h"
+#include "gui/database/GuardarBaseDatos.h"
+#include "core/database/Registro.h"
 
 using namespace vanta;
 

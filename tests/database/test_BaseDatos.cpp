@@ -12,7 +12,7 @@
 
 #include "../mainwindow/Pruebas.h"
 #include "Banco.h"
-#include "database/ControlImagen.h"
+#include "gui/database/ControlImagen.h"
 
 using namespace vanta;
 using namespace vanta::pruebas;

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <limits>
 
-#include "database/Registro.h"
-#include "services/Numeros.h"
+#include "core/database/Registro.h"
+#include "core/services/Numeros.h"
 
 using namespace vanta;
 

@@ -11,9 +11,9 @@
 
 #include "../mainwindow/Pruebas.h"
 #include "Banco.h"
-#include "database/ControlImagen.h"
-#include "database/frmAmpliador.h"
-#include "services/Numeros.h"
+#include "gui/database/ControlImagen.h"
+#include "gui/database/frmAmpliador.h"
+#include "core/services/Numeros.h"
 
 using namespace vanta;
 using namespace vanta::pruebas;

@@ -7,10 +7,10 @@
 #include <type_traits>
 #include <vector>
 
-#include "fluids/AireHumedo.h"
-#include "fluids/Combustible.h"
-#include "fluids/Combustion.h"
-#include "services/Numeros.h"
+#include "core/fluids/AireHumedo.h"
+#include "core/fluids/Combustible.h"
+#include "core/fluids/Combustion.h"
+#include "core/services/Numeros.h"
 
 namespace vanta::prueba {
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "fluids/AireHumedo.h"
+#include "core/fluids/AireHumedo.h"
 
 using namespace vanta;
 

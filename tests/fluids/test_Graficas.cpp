@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "fluids/Graficas.h"
-#include "services/Numeros.h"
+#include "core/fluids/Graficas.h"
+#include "core/services/Numeros.h"
 
 using namespace vanta;
 

@@ -15,13 +15,13 @@
 #include <QTest>
 #include <string>
 
-#include "cycle/frmOtto_Diesel.h"
-#include "fluids/frmAireHumedad.h"
-#include "fluids/frmCombustible.h"
-#include "fluids/frmGasesCombustion.h"
-#include "mainwindow/frmFase1.h"
-#include "services/Puertos.h"
-#include "state/Estado.h"
+#include "gui/cycle/frmOtto_Diesel.h"
+#include "gui/fluids/frmAireHumedad.h"
+#include "gui/fluids/frmCombustible.h"
+#include "gui/fluids/frmGasesCombustion.h"
+#include "gui/mainwindow/frmFase1.h"
+#include "core/services/Puertos.h"
+#include "core/state/Estado.h"
 
 namespace vanta::pruebas {
 

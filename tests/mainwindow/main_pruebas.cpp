@@ -7,8 +7,8 @@
 #include <memory>
 
 #include "Pruebas.h"
-#include "resources/Programa.h"
-#include "services/Numeros.h"
+#include "gui/resources/Programa.h"
+#include "core/services/Numeros.h"
 
 namespace vanta::pruebas {
 std::vector<Fabrica>& Registro() {

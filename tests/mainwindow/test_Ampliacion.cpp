@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "mainwindow/Ampliacion.h"
+#include "core/workflow/Ampliacion.h"
 
 using namespace vanta;
 

@@ -4,8 +4,8 @@
 
 #include "Programa.h"
 #include "Pruebas.h"
-#include "fluids/Combustible.h"
-#include "services/SuperficieQt.h"
+#include "core/fluids/Combustible.h"
+#include "gui/services/SuperficieQt.h"
 
 using namespace vanta;
 using namespace vanta::pruebas;

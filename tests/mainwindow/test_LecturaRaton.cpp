@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "../cycle/Calculo.h"
-#include "mainwindow/LecturaRaton.h"
-#include "properties/Busquedas.h"
+#include "core/diagrams/LecturaRaton.h"
+#include "core/properties/Busquedas.h"
 
 using namespace vanta;
 using prueba::Calculo;

@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "Pruebas.h"
-#include "services/SuperficieQt.h"
+#include "gui/services/SuperficieQt.h"
 
 using vanta::pruebas::Cuenta;
 

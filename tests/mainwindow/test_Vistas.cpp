@@ -5,7 +5,7 @@
 
 #include "Programa.h"
 #include "Pruebas.h"
-#include "services/Numeros.h"
+#include "core/services/Numeros.h"
 
 using namespace vanta;
 using namespace vanta::pruebas;

@@ -7,8 +7,8 @@
 
 #include "Programa.h"
 #include "Pruebas.h"
-#include "cycle/Ciclo.h"
-#include "services/Numeros.h"
+#include "core/cycle/Ciclo.h"
+#include "core/services/Numeros.h"
 
 using namespace vanta;
 using namespace vanta::pruebas;

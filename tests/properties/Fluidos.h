@@ -2,7 +2,7 @@
 // hydrocarbon flame.
 #pragma once
 
-#include "state/Estado.h"
+#include "core/state/Estado.h"
 
 namespace vanta::prueba {
 

@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "Fluidos.h"
-#include "properties/Busquedas.h"
-#include "properties/Mezclas.h"
+#include "core/properties/Busquedas.h"
+#include "core/properties/Mezclas.h"
 
 using namespace vanta;
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "properties/Especies.h"
+#include "core/properties/Especies.h"
 
 using namespace vanta;
 

@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "Fluidos.h"
-#include "properties/Especies.h"
-#include "properties/Mezclas.h"
+#include "core/properties/Especies.h"
+#include "core/properties/Mezclas.h"
 
 using namespace vanta;
 

@@ -7,7 +7,7 @@
 #include <fstream>
 #include <string>
 
-#include "reports/ArchivosInforme.h"
+#include "core/reports/ArchivosInforme.h"
 
 using namespace vanta;
 namespace fs = std::filesystem;

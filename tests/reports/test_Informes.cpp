@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "reports/Informes.h"
-#include "services/Numeros.h"
+#include "core/reports/Informes.h"
+#include "core/services/Numeros.h"
 
 using namespace vanta;
 

@@ -16,11 +16,11 @@
 #include "../mainwindow/Programa.h"
 #include "../mainwindow/Pruebas.h"
 #include "app/LineaComandos.h"
-#include "reports/PaginaWeb.h"
-#include "reports/VisoresInforme.h"
-#include "reports/frmInforme.h"
-#include "reports/frmMostrar.h"
-#include "services/SuperficieQt.h"
+#include "gui/reports/PaginaWeb.h"
+#include "gui/reports/VisoresInforme.h"
+#include "gui/reports/frmInforme.h"
+#include "gui/reports/frmMostrar.h"
+#include "gui/services/SuperficieQt.h"
 
 using namespace vanta;
 

@@ -17,10 +17,10 @@
 #include <limits>
 
 #include "../mainwindow/Pruebas.h"
-#include "mainwindow/frmAcercaDe.h"
-#include "mainwindow/frmBibliografia.h"
-#include "resources/Dibujos.h"
-#include "resources/Programa.h"
+#include "gui/mainwindow/frmAcercaDe.h"
+#include "gui/mainwindow/frmBibliografia.h"
+#include "gui/resources/Dibujos.h"
+#include "gui/resources/Programa.h"
 
 #ifndef VANTA_DIR_CONSTRUCCION
 #define VANTA_DIR_CONSTRUCCION ""

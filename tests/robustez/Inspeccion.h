@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "services/Superficie.h"
-#include "state/Estado.h"
+#include "core/services/Superficie.h"
+#include "core/state/Estado.h"
 
 namespace vanta::prueba {
 

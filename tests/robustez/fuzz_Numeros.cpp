@@ -16,7 +16,7 @@
 #include <string>
 #include <string_view>
 
-#include "services/Numeros.h"
+#include "core/services/Numeros.h"
 
 namespace {
 

@@ -30,7 +30,7 @@ if(NOT VANTA_SANITIZE)
 
   if(VANTA_CLANGXX AND VANTA_LIBFUZZER)
     set(_fuzz ${CMAKE_CURRENT_BINARY_DIR}/vanta_fuzz_numeros)
-    set(_fuentes ${CMAKE_CURRENT_LIST_DIR}/fuzz_Numeros.cpp ${PROJECT_SOURCE_DIR}/src/services/Numeros.cpp)
+    set(_fuentes ${CMAKE_CURRENT_LIST_DIR}/fuzz_Numeros.cpp ${PROJECT_SOURCE_DIR}/src/core/services/Numeros.cpp)
     add_custom_command(
       OUTPUT ${_fuzz}
       COMMAND ${VANTA_CLANGXX} -std=c++20 -O1 -g -fsanitize=fuzzer,address,undefined

@@ -20,11 +20,11 @@
 #include "Inspeccion.h"
 #include "Vigilancia.h"
 #include "app/LineaComandos.h"
-#include "cycle/Ciclo.h"
-#include "database/Registro.h"
-#include "fluids/Combustible.h"
-#include "reports/Informes.h"
-#include "services/Numeros.h"
+#include "core/cycle/Ciclo.h"
+#include "core/database/Registro.h"
+#include "core/fluids/Combustible.h"
+#include "core/reports/Informes.h"
+#include "core/services/Numeros.h"
 
 namespace vanta::prueba {
 namespace {

@@ -19,9 +19,9 @@
 #include "Aleatorios.h"
 #include "Ejecucion.h"
 #include "Vigilancia.h"
-#include "fluids/Combustible.h"
-#include "mainwindow/LecturaRaton.h"
-#include "services/Numeros.h"
+#include "core/fluids/Combustible.h"
+#include "core/diagrams/LecturaRaton.h"
+#include "core/services/Numeros.h"
 
 namespace vanta::prueba {
 namespace {

@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "Ejecucion.h"
-#include "cycle/Ciclo.h"
-#include "properties/Busquedas.h"
-#include "properties/Especies.h"
-#include "services/Numeros.h"
+#include "core/cycle/Ciclo.h"
+#include "core/properties/Busquedas.h"
+#include "core/properties/Especies.h"
+#include "core/services/Numeros.h"
 
 namespace vanta::prueba {
 namespace {

@@ -16,9 +16,9 @@
 #include "Inspeccion.h"
 #include "Vigilancia.h"
 #include "app/LineaComandos.h"
-#include "properties/Especies.h"
-#include "services/Numeros.h"
-#include "tables/TablasPropiedades.h"
+#include "core/properties/Especies.h"
+#include "core/services/Numeros.h"
+#include "core/tables/TablasPropiedades.h"
 
 namespace vanta::prueba {
 namespace {

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "services/Numeros.h"
+#include "core/services/Numeros.h"
 
 using namespace vanta;
 

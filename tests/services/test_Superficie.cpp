@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "services/Superficie.h"
-#include "state/Estado.h"
+#include "core/services/Superficie.h"
+#include "core/state/Estado.h"
 
 using namespace vanta;
 

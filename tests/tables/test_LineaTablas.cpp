@@ -8,9 +8,9 @@
 
 #include "app/LineaComandos.h"
 #include "app/LineaTablas.h"
-#include "fluids/Combustible.h"
-#include "services/Numeros.h"
-#include "tables/TablasPropiedades.h"
+#include "core/fluids/Combustible.h"
+#include "core/services/Numeros.h"
+#include "core/tables/TablasPropiedades.h"
 
 using namespace vanta;
 

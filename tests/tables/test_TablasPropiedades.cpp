@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "app/LineaComandos.h"
-#include "properties/Especies.h"
-#include "properties/Mezclas.h"
-#include "services/Numeros.h"
-#include "tables/TablasPropiedades.h"
+#include "core/properties/Especies.h"
+#include "core/properties/Mezclas.h"
+#include "core/services/Numeros.h"
+#include "core/tables/TablasPropiedades.h"
 
 using namespace vanta;
 

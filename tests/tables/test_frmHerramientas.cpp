@@ -18,10 +18,10 @@
 #include "../mainwindow/Programa.h"
 #include "../mainwindow/Pruebas.h"
 #include "app/LineaComandos.h"
-#include "reports/DialogosInforme.h"
-#include "services/Numeros.h"
-#include "tables/frmHerramientas.h"
-#include "tables/frmTablas.h"
+#include "gui/reports/DialogosInforme.h"
+#include "core/services/Numeros.h"
+#include "gui/tables/frmHerramientas.h"
+#include "gui/tables/frmTablas.h"
 
 using namespace vanta;
 using namespace vanta::pruebas;

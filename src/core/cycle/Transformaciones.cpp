@@ -1,0 +1,485 @@
+#include "core/cycle/Transformaciones.h"
+
+#include <cmath>
+#include <string_view>
+#include <vector>
+
+#include "core/properties/Busquedas.h"
+#include "core/properties/Especies.h"
+#include "core/properties/Mezclas.h"
+#include "core/services/Fallos.h"
+
+namespace vanta {
+
+namespace {
+
+constexpr std::string_view kMensajeModelo = "Error interno Vanta:  Gmedio_1_Poli_2_Gvariable_3";
+constexpr std::string_view kMensajeTemperaturaIsobara = " Ha superado la temperatura máxima admitida por el programa ";
+constexpr std::string_view kMensajeVolumenExcesivo =
+    "No es posible este ciclo, el volumen final, sin sobrepasar la presión máxima, es excesivamente grande";
+constexpr std::string_view kMensajeIsocoraNoConverge =
+    "No se ha podido hallar la temperatura de la combustión a volumen constante: la búsqueda no converge. "
+    "Revise los datos del ciclo.";
+constexpr std::string_view kMensajePmaxNoConverge =
+    "No se ha podido hallar el grado de combustión que alcanza la presión máxima: la búsqueda no converge. "
+    "Revise la presión máxima.";
+constexpr std::string_view kMensajeIsobaraNoConverge =
+    "No se ha podido hallar la temperatura del final de la combustión a presión constante: la búsqueda no "
+    "converge. Revise los datos del ciclo.";
+constexpr std::string_view kCausaMoles = "una masa molecular del fluido es cero";
+constexpr std::string_view kCausaMolesFueraDeRango =
+    "los moles del ciclo salen del intervalo de los números del programa; revise la masa molecular del "
+    "combustible";
+constexpr std::string_view kCausaSinMoles = "el ciclo no tiene moles de gases";
+constexpr std::string_view kCausaCvNulo = "el calor específico de los gases es cero";
+constexpr std::string_view kCausaFraccionQuemada =
+    "la presión del gas quemado es igual a la del gas fresco y el grado de combustión no se puede hallar";
+constexpr std::string_view kCausaEstadoInicial = "el estado del comienzo de la combustión no es válido";
+constexpr std::string_view kCausaCombustionFueraDeRango =
+    "las presiones o el calor por mol de la combustión salen del intervalo de los números del programa; revise "
+    "la cilindrada y el combustible";
+constexpr std::string_view kCausaPasoNulo =
+    "el paso de volumen es tan pequeño frente al volumen que la carrera no avanza; revise la cilindrada y la "
+    "relación de compresión";
+
+// Each search converges long before these bounds; beyond them it would never end.
+constexpr int kPasosMaximosIsocora = 10000;
+constexpr int kPasosMaximosPmax = 2000;
+constexpr int kProfundidadMaximaIsobara = 200;
+constexpr double kTemperaturaSuperiorIsobara = 5000;
+
+float F(double v) { return static_cast<float>(v); }
+
+void PuntoEnDiagramas(Diagramas& g, double V, double T, double p, double s, double h) {
+    g.pctTV.PSet(F(V), F(-T));
+    g.pctPV.PSet(F(V), F(-p));
+    g.pctTS.PSet(F(s), F(-T));
+    g.pctHS.PSet(F(s), F(-h));
+}
+
+void LineaEnDiagramas(Diagramas& g, double V, double T, double p, double s, double h) {
+    g.pctTV.Line(F(V), F(-T));
+    g.pctPV.Line(F(V), F(-p));
+    g.pctTS.Line(F(s), F(-T));
+    g.pctHS.Line(F(s), F(-h));
+}
+
+void LineaEntropia(Diagramas& g, double s, double T, double h) {
+    g.pctTS.Line(F(s), F(-T));
+    g.pctHS.Line(F(s), F(-h));
+}
+
+void LineaVolumen(Diagramas& g, double V, double T, double p) {
+    g.pctTV.Line(F(V), F(-T));
+    g.pctPV.Line(F(V), F(-p));
+}
+
+// The exponent of the walk's next step by the model.
+void ExponentePaso(Estado& e, double modelo, double exponente) {
+    if (modelo == kModeloGammaMedio)
+        e.Gamma = e.GammaMedio.Numero();
+    else if (modelo == kModeloPolitropico)
+        e.Gamma = exponente;
+}
+
+// The exponent at the start of a stroke; Fluido 1 air, 2 gases.
+void ExponenteInicial(Estado& e, Dialogos& dlg, double modelo, double volumenFinal, double exponente, int fluido) {
+    if (modelo == kModeloGammaMedio) {
+        BuscarGammaMedio(e, dlg, e.PresionInicial, e.VolumenInicial, volumenFinal, e.TemperaturaInicial, fluido);
+        e.Gamma = e.GammaMedio.Numero();
+    } else if (modelo == kModeloPolitropico) {
+        e.GammaInicial = " N.D.";
+        e.Gamma = exponente;
+    } else if (modelo != kModeloGammaVariable) {
+        dlg.MsgBox(kMensajeModelo);
+    }
+}
+
+void PonerInicioDesdeFinal(Estado& e, Dialogos& dlg) {
+    PonerEstadoInicial(e, dlg, e.PresionFinal, e.VolumenFinal, e.TemperaturaFinal, e.EntalpiaFinal, e.EntropiaFinal);
+}
+
+// A step below half the spacing of the doubles at the volume (a compression
+// ratio a hair above 1, a volume near the smallest double) leaves the volume
+// where it was, and the walk would never end.
+bool AvanzaLaCarrera(Estado& e, Dialogos& dlg) {
+    if (e.VolumenProporcional != e.Volumen) return true;
+    FalloAritmetico(e, dlg, kCausaPasoNulo);
+    return false;
+}
+
+// One polytropic step from the record's current state to V, with its work.
+// False, with the calculation stopped, when a figure leaves the doubles.
+bool PasoPolitropico(Estado& e, Dialogos& dlg, double V, double& acumulado) {
+    if (!CalcularTemperaturaPolitropica(e, e.Temperatura, e.Volumen, V, e.Gamma) ||
+        !CalcularPresionPolitropica(e, e.Presion, e.Volumen, V, e.Gamma) ||
+        !std::isfinite(acumulado + e.TrabajoTransformacion)) {
+        FalloAritmetico(e, dlg, kCausaPolitropicaFueraDeRango);
+        return false;
+    }
+    acumulado += e.TrabajoTransformacion;
+    e.TrabajoPaso = e.TrabajoTransformacion;
+    return true;
+}
+
+// ---- Heat at constant volume ----------------------------------------------------
+
+void TrazarVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int dibujar) {
+    e.Presion = e.PresionInicial;
+    e.Temperatura = e.TemperaturaInicial;
+    const double denominador = (e.PresionMolQuemado - e.PresionMolFresco) * e.MolesHumos;
+    if (denominador == 0) {
+        FalloAritmetico(e, dlg, kCausaFraccionQuemada);
+        return;
+    }
+    auto paso = [&] {
+        e.Presion = e.Temperatura * e.PresionInicial / e.TemperaturaInicial;
+        e.FraccionQuemada = (e.Presion - e.MolesHumos * e.PresionMolFresco) / denominador;
+        PropiedadesAireHumosFraccion(e, dlg, e.FraccionQuemada);
+        if (dibujar == kDibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
+    };
+    // A failure stops the walk: its evaluations would do nothing from there on.
+    while (e.TemperaturaIsocora - 2 > e.Temperatura && !e.ErrorCalculo) {
+        e.Temperatura += 1;
+        paso();
+    }
+    if (e.Temperatura < e.TemperaturaIsocora && !e.ErrorCalculo) {
+        e.Temperatura = e.TemperaturaIsocora;
+        paso();
+    }
+}
+
+// Up to Pmax: bisection on the burnt moles.
+void BuscarGradoCombustionPmax(Estado& e, Dialogos& dlg) {
+    for (int pasos = 0;; ++pasos) {
+        if (e.ErrorCalculo) return;
+        if (pasos > kPasosMaximosPmax) {
+            dlg.MsgBox(kMensajePmaxNoConverge);
+            e.ErrorCalculo = Verdadero;
+            return;
+        }
+        e.MolesQuemados = (e.MolesInferior + e.MolesSuperior) / 2;
+        e.Presion = (e.MolesHumos - e.MolesQuemados) * e.PresionMolFresco + e.PresionMolQuemado * e.MolesQuemados;
+        if (std::fabs(e.Presion - e.Pmax) < 0.001) {
+            e.Presion = e.Pmax;
+            e.TipoFluido = kFluidoAireHumos;
+        }
+        if (e.Presion < e.Pmax)
+            e.MolesInferior = e.MolesQuemados;
+        else if (e.Presion > e.Pmax)
+            e.MolesSuperior = e.MolesQuemados;
+        else
+            break;
+    }
+    e.PresionIsocora = e.Presion;
+    e.Q23 = e.CalorPorMol * e.MolesQuemados;
+}
+
+// A figure of the combustion that leaves the doubles (a charge of a few
+// molecules, a heat of zero) stops it before it is stored.
+bool Finito(Estado& e, Dialogos& dlg, double v) {
+    if (std::isfinite(v)) return true;
+    FalloAritmetico(e, dlg, kCausaCombustionFueraDeRango);
+    return false;
+}
+
+void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, int dibujar) {
+    const double presionMolFresco = e.PresionInicial / e.MolesHumos, calorPorMol = e.Qciclo / e.MolesHumos;
+    if (!Finito(e, dlg, presionMolFresco) || !Finito(e, dlg, calorPorMol)) return;
+    e.PresionMolFresco = presionMolFresco;
+    e.CalorPorMol = calorPorMol;
+    e.TemperaturaIsocoraB = e.Temperatura;
+    e.TemperaturaIsocoraA = e.Temperatura - 1;
+    PropiedadesHumos(e, dlg);
+    // Fixed point on T = heat per mole / cv + T start, cv at the running mean.
+    for (int pasos = 0; std::fabs(e.TemperaturaIsocoraA - e.TemperaturaIsocoraB) > 0.001; ++pasos) {
+        if (e.CvHumos == 0) {
+            FalloAritmetico(e, dlg, kCausaCvNulo);
+            return;
+        }
+        if (pasos > kPasosMaximosIsocora || !std::isfinite(e.TemperaturaIsocoraA)) {
+            if (!e.ErrorCalculo) dlg.MsgBox(kMensajeIsocoraNoConverge);
+            e.ErrorCalculo = Verdadero;
+            return;
+        }
+        e.TemperaturaIsocoraA = e.CalorPorMol / e.CvHumos + e.TemperaturaInicial;
+        e.Temperatura = (e.TemperaturaIsocoraA + e.TemperaturaIsocoraB) / 2;
+        PropiedadesHumos(e, dlg);
+        e.TemperaturaIsocoraB = e.CalorPorMol / e.CvHumos + e.TemperaturaInicial;
+        e.Temperatura = (e.TemperaturaIsocoraA + e.TemperaturaIsocoraB) / 2;
+        PropiedadesHumos(e, dlg);
+    }
+    e.TemperaturaQuemado = e.Temperatura;
+    const double presionMolQuemado = e.TemperaturaQuemado * kR / e.VolumenInicial;
+    if (!Finito(e, dlg, presionMolQuemado)) return;
+    e.PresionMolQuemado = presionMolQuemado;
+    if (tipo == kCalorDado) {
+        const double molesQuemados = e.Q23 / e.CalorPorMol;
+        const double presionIsocora =
+            (e.MolesHumos - molesQuemados) * e.PresionMolFresco + molesQuemados * e.PresionMolQuemado;
+        if (!Finito(e, dlg, molesQuemados) || !Finito(e, dlg, presionIsocora)) return;
+        e.MolesQuemados = molesQuemados;
+        e.PresionIsocora = presionIsocora;
+        e.Presion = e.PresionIsocora;
+        e.TipoFluido = kFluidoAireHumos;
+    }
+    if (tipo == kCalorHastaPmax) {
+        const double presion = e.PresionMolQuemado * e.MolesHumos;
+        if (!Finito(e, dlg, presion)) return;
+        e.MolesSuperior = e.MolesHumos;
+        e.MolesInferior = 0;
+        e.Presion = presion;
+        if (e.Presion <= e.Pmax) {
+            e.PresionIsocora = e.Presion;
+            e.MolesQuemados = e.MolesHumos;
+            e.Q23 = e.Qciclo;
+            e.TipoFluido = kFluidoHumos;
+        } else {
+            BuscarGradoCombustionPmax(e, dlg);
+        }
+    }
+    // The temperature of the whole gas by the ideal-gas rule at constant volume.
+    const double temperaturaIsocora = e.PresionIsocora * e.TemperaturaInicial / e.PresionInicial;
+    if (!Finito(e, dlg, temperaturaIsocora)) return;
+    e.TemperaturaIsocora = temperaturaIsocora;
+    e.GammaFinal = " ND";
+    PonerEstadoFinal(e, dlg, e.Q23, 0, e.PresionIsocora, e.VolumenInicial, e.TemperaturaIsocora);
+    if (dibujar == kDibujar) LineaVolumen(g, e.VolumenInicial, e.TemperaturaFinal, e.PresionFinal);
+}
+
+// ---- Heat at constant pressure ------------------------------------------------------
+
+// Steps 1 to 4 of the search at one level: the trial temperature between the
+// bounds and the heat it takes at constant pressure.
+void ProbarTemperaturaIsobara(Estado& e, Dialogos& dlg, double calor) {
+    e.Temperatura = (e.TemperaturaInferior + e.TemperaturaSuperior) / 2;
+    e.TemperaturaFinal = e.Temperatura;
+    PropiedadesFin(e, dlg, calor, e.W34acumulado);
+    e.hBusqueda = e.hFinal;
+    e.SaltoEntalpia = e.hFinal - e.hInicioBusqueda;
+    e.CalorIsobaro = e.MasaHumos * e.SaltoEntalpia / e.MasaMolecularHumos;
+    if (std::fabs(calor - e.CalorIsobaro) < 1e-5) e.CalorIsobaro = calor;
+}
+
+// What every level of the search does as it unwinds, with the deepest state:
+// the volume and work of the isobar, and its end.
+void ColaIsobara(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor, int dibujar,
+                 bool& volumenAvisado) {
+    VolumenIsobarico(e, e.VolumenInicial, e.TemperaturaInicial, e.Temperatura);
+    e.VolumenIsobaro = e.VolumenProporcional;
+    TrabajoIsobarico(e, e.PresionInicial, e.VolumenInicial, e.VolumenIsobaro);
+    e.W34acumulado = e.TrabajoTransformacion;
+    e.GammaFinal = "ND";
+    if (e.VolumenIsobaro > volumenLimite) {
+        // Told once, not once a level.
+        if (!volumenAvisado) dlg.MsgBox(kMensajeVolumenExcesivo);
+        volumenAvisado = true;
+        e.ErrorCalculo = Verdadero;
+    }
+    PonerEstadoFinal(e, dlg, calor, e.W34acumulado, e.PresionInicial, e.VolumenIsobaro, e.Temperatura);
+    if (dibujar == kDibujar) LineaVolumen(g, e.VolumenFinal, e.TemperaturaFinal, e.PresionFinal);
+}
+
+// Bisection on the temperature of state 4 for the heat given. The program's
+// search is a recursion: each level halves the bounds and calls itself; a
+// level that raised the lower bound calls itself a second time once the first
+// call returns, and every call ends with the tail. Here the descent is a loop
+// that remembers which levels raised the lower bound, and the unwinding
+// replays the second calls and the tails in the same order.
+void CalorPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor, int dibujar) {
+    std::vector<bool> subioInferior;
+    bool volumenAvisado = false;
+    for (;;) {
+        ProbarTemperaturaIsobara(e, dlg, calor);
+        if (calor == e.CalorIsobaro || !(calor < e.CalorIsobaro || calor > e.CalorIsobaro)) break;
+        if (static_cast<int>(subioInferior.size()) >= kProfundidadMaximaIsobara) {
+            // The bounds no longer part: the heat cannot be reached below 5000 K,
+            // or the gases' enthalpy has no temperature for it.
+            const bool techo = e.TemperaturaSuperior == kTemperaturaSuperiorIsobara;
+            if (!e.ErrorCalculo) dlg.MsgBox(techo ? kMensajeTemperaturaIsobara : kMensajeIsobaraNoConverge);
+            e.ErrorCalculo = Verdadero;
+            return;
+        }
+        const bool sube = calor > e.CalorIsobaro;
+        if (sube)
+            e.TemperaturaInferior = e.Temperatura;
+        else
+            e.TemperaturaSuperior = e.Temperatura;
+        subioInferior.push_back(sube);
+    }
+    ColaIsobara(e, dlg, g, volumenLimite, calor, dibujar, volumenAvisado);
+    while (!subioInferior.empty()) {
+        const bool sube = subioInferior.back();
+        subioInferior.pop_back();
+        if (sube) {
+            if (e.TemperaturaInferior > kTemperaturaSuperiorIsobara) {
+                dlg.MsgBox(kMensajeTemperaturaIsobara);
+                e.ErrorCalculo = Verdadero;
+            }
+            // The second call finds the bounds unchanged: one trial and the tail.
+            ProbarTemperaturaIsobara(e, dlg, calor);
+            ColaIsobara(e, dlg, g, volumenLimite, calor, dibujar, volumenAvisado);
+        }
+        ColaIsobara(e, dlg, g, volumenLimite, calor, dibujar, volumenAvisado);
+    }
+}
+
+void TrazarPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, int dibujar) {
+    e.Presion = e.PresionInicial;
+    e.Temperatura = e.TemperaturaInicial;
+    // The share of gases goes linearly in T from the share at state 3 to 1.
+    auto fraccion = [&] {
+        return e.FraccionQuemada + (1 - e.FraccionQuemada) * (e.Temperatura - e.T3) / (e.TemperaturaFinal - e.T3);
+    };
+    while (e.TemperaturaFinal - 1 > e.Temperatura && !e.ErrorCalculo) {
+        e.Temperatura += 1;
+        PropiedadesAireHumosFraccion(e, dlg, fraccion());
+        if (dibujar == kDibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
+    }
+    if (e.Temperatura < e.TemperaturaFinal && !e.ErrorCalculo) {
+        e.Temperatura = e.TemperaturaFinal;
+        PropiedadesAireHumosFraccion(e, dlg, fraccion());
+        if (dibujar == kDibujar) LineaEntropia(g, e.SHumos, e.Temperatura, e.hHumos);
+    }
+}
+
+}  // namespace
+
+void PonerColorDiagramas(Diagramas& g, int32_t color) {
+    g.pctTS.SetForeColor(color);
+    g.pctHS.SetForeColor(color);
+    g.pctTV.SetForeColor(color);
+    g.pctPV.SetForeColor(color);
+}
+
+void CalcularMolesCiclo(Estado& e, Dialogos& dlg) {
+    if (e.MasaMolecularCombustible == 0 || e.MasaMolecularAire == 0 || e.MasaMolecularHumos == 0) {
+        FalloAritmetico(e, dlg, kCausaMoles);
+        return;
+    }
+    // A molar mass near the smallest double takes the moles beyond the
+    // doubles: nothing is stored then.
+    const double combustible = e.MasaCombustible / e.MasaMolecularCombustible;
+    const double aire = e.MasaAire / e.MasaMolecularAire;
+    const double humos = (e.MasaAire + e.MasaCombustible) / e.MasaMolecularHumos;
+    const double reactivos = combustible + aire;
+    for (double moles : {combustible, aire, humos, reactivos})
+        if (!std::isfinite(moles)) return FalloAritmetico(e, dlg, kCausaMolesFueraDeRango);
+    e.MolesCombustible = combustible;
+    e.MolesAire = aire;
+    e.MolesHumos = humos;
+    e.MolesReactivos = reactivos;
+}
+
+void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double volumenFinal, double paso,
+                double exponente, int dibujar) {
+    if (e.ErrorCalculo) return;
+    e.TipoFluido = kFluidoAire;
+    PonerInicioDesdeFinal(e, dlg);
+    ExponenteInicial(e, dlg, modelo, volumenFinal, exponente, 1);
+    e.gamma1 = e.Gamma;
+    if (dibujar == kDibujar)
+        PuntoEnDiagramas(g, e.VolumenInicial, e.TemperaturaInicial, e.PresionInicial, e.SAire, e.h1);
+    // The record holds the state before each step, so the exponent and the
+    // entropy lag one step behind T and p.
+    while (e.Volumen - paso > volumenFinal) {
+        e.VolumenProporcional = e.Volumen - paso;
+        if (!AvanzaLaCarrera(e, dlg)) return;
+        if (!PasoPolitropico(e, dlg, e.VolumenProporcional, e.W12acumulado)) return;
+        PropiedadesAire(e, dlg);
+        ExponentePaso(e, modelo, exponente);
+        if (dibujar == kDibujar)
+            LineaEnDiagramas(g, e.VolumenProporcional, e.TemperaturaPolitropica, e.PresionPolitropica, e.SAire,
+                             e.hAire);
+        e.Volumen = e.VolumenProporcional;
+        e.Temperatura = e.TemperaturaPolitropica;
+        e.Presion = e.PresionPolitropica;
+    }
+    if (e.VolumenProporcional > volumenFinal) {
+        PropiedadesAire(e, dlg);
+        ExponentePaso(e, modelo, exponente);
+        if (!PasoPolitropico(e, dlg, volumenFinal, e.W12acumulado)) return;
+    }
+    e.Gamma2 = e.Gamma;
+    PonerEstadoFinal(e, dlg, 0, e.W12acumulado, e.PresionPolitropica, volumenFinal, e.TemperaturaPolitropica);
+    if (dibujar == kDibujar)
+        LineaEnDiagramas(g, volumenFinal, e.TemperaturaFinal, e.PresionFinal, e.SAire, e.EntalpiaFinal);
+}
+
+void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double volumenFinal, double paso,
+               double exponente) {
+    if (e.ErrorCalculo) return;
+    e.TipoFluido = kFluidoHumos;
+    PonerInicioDesdeFinal(e, dlg);
+    ExponenteInicial(e, dlg, modelo, volumenFinal, exponente, 2);
+    e.Gamma4 = e.Gamma;
+    while (e.Volumen + paso < volumenFinal) {
+        e.VolumenProporcional = e.Volumen + paso;
+        if (!AvanzaLaCarrera(e, dlg)) return;
+        if (!PasoPolitropico(e, dlg, e.VolumenProporcional, e.W45acumulado)) return;
+        PropiedadesHumos(e, dlg);
+        ExponentePaso(e, modelo, exponente);
+        LineaEnDiagramas(g, e.VolumenProporcional, e.TemperaturaPolitropica, e.PresionPolitropica, e.SHumos,
+                         e.hHumos);
+        e.Volumen = e.VolumenProporcional;
+        e.Temperatura = e.TemperaturaPolitropica;
+        e.Presion = e.PresionPolitropica;
+    }
+    if (e.VolumenProporcional < volumenFinal) {
+        PropiedadesHumos(e, dlg);
+        ExponentePaso(e, modelo, exponente);
+        if (modelo == kModeloPolitropico) e.GammaInicial = " N.D.";
+        if (!PasoPolitropico(e, dlg, volumenFinal, e.W45acumulado)) return;
+    }
+    e.Gamma5 = e.Gamma;
+    PonerEstadoFinal(e, dlg, 0, e.W45acumulado, e.PresionPolitropica, volumenFinal, e.TemperaturaPolitropica);
+    LineaEnDiagramas(g, volumenFinal, e.TemperaturaFinal, e.PresionFinal, e.SHumos, e.EntalpiaFinal);
+}
+
+void CombustionVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, double /*presionMaxima*/,
+                                int dibujar) {
+    if (e.ErrorCalculo) return;
+    e.TipoFluido = kFluidoAire;
+    PonerInicioDesdeFinal(e, dlg);
+    CalcularMolesCiclo(e, dlg);
+    e.GammaInicial = " ND";
+    if (e.ErrorCalculo) return;
+    if (e.MolesHumos == 0 || e.VolumenInicial == 0 || e.PresionInicial == 0 || e.TemperaturaInicial == 0) {
+        FalloAritmetico(e, dlg, e.MolesHumos == 0 ? kCausaSinMoles : kCausaEstadoInicial);
+        return;
+    }
+    CalorVolumenConstante(e, dlg, g, tipo, dibujar);
+    TrazarVolumenConstante(e, dlg, g, dibujar);
+}
+
+void CombustionPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor,
+                                int dibujar) {
+    if (e.ErrorCalculo) return;
+    e.TipoFluido = kFluidoHumos;
+    PonerInicioDesdeFinal(e, dlg);
+    e.TemperaturaSuperior = kTemperaturaSuperiorIsobara;
+    e.TemperaturaInferior = e.TemperaturaInicial;
+    e.SaltoEntalpia = 0;
+    e.GammaInicial = " ND";
+    e.hInicioBusqueda = e.hInicial;
+    if (e.MasaMolecularHumos == 0 || e.TemperaturaInicial == 0) {
+        FalloAritmetico(e, dlg, e.MasaMolecularHumos == 0 ? kCausaMoles : kCausaEstadoInicial);
+        return;
+    }
+    CalorPresionConstante(e, dlg, g, volumenLimite, calor, dibujar);
+    TrazarPresionConstante(e, dlg, g, dibujar);
+}
+
+void TrazarEscape(Estado& e, Dialogos& dlg, Diagramas& g) {
+    FinalAInicial(e);
+    LineaVolumen(g, e.V1, e.T1, e.p1);
+    e.Temperatura = e.T5;
+    while (e.Temperatura > e.T1 && !e.ErrorCalculo) {
+        e.Temperatura -= 2;
+        e.Presion = e.p1 * e.Temperatura / e.T1;
+        PropiedadesAireHumosLineal(e, dlg, e.T5, e.T1, e.Temperatura);
+        LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
+    }
+}
+
+}  // namespace vanta

@@ -1,0 +1,190 @@
+#include "core/database/Registro.h"
+
+#include "core/services/Numeros.h"
+
+namespace vanta::bd {
+
+namespace {
+
+// [x, d]: rounded, then the general conversion.
+std::string R(double x, int d) { return TextoGeneral(Round(x, d)); }
+
+std::string Unir(std::initializer_list<std::string_view> piezas) {
+    std::string s;
+    for (std::string_view p : piezas) s += p;
+    return s;
+}
+
+}  // namespace
+
+std::string NombrePorDefecto(const Estado& e, std::string_view tipoCombustible) {
+    return Unir({"Aire ", TextoGeneral(e.Humedad), " % de humedad    ", tipoCombustible, "  Fr = ", TextoGeneral(e.Fr),
+                 "   ", e.TipoCiclo});
+}
+
+TextosRegistro ValoresRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
+                               std::string_view informe) {
+    return {
+        std::string(nombre),
+        TextoGeneral(e.AtomosC),
+        TextoGeneral(e.AtomosH),
+        TextoGeneral(e.AtomosN),
+        TextoGeneral(e.AtomosO),
+        TextoGeneral(e.AtomosS),
+        R(e.CienC, 2),
+        R(e.CienH, 2),
+        R(e.CienN, 2),
+        R(e.CienO, 2),
+        R(e.CienS, 2),
+        R(e.HCS, 2),
+        R(e.HCI, 2),
+        R(e.CalorVap, 2),
+        R(e.p1, 0),
+        R(e.p2, 0),
+        R(e.p3, 0),
+        R(e.p4, 0),
+        R(e.p5, 0),
+        R(e.V1 * 1000000, 2),
+        R(e.V2 * 1000000, 2),
+        R(e.V3 * 1000000, 2),
+        R(e.V4 * 1000000, 2),
+        R(e.V5 * 1000000, 2),
+        R(e.T1, 2),
+        R(e.T2, 2),
+        R(e.T3, 2),
+        R(e.T4, 2),
+        R(e.T5, 2),
+        R(e.h1, 2),
+        R(e.h2, 2),
+        R(e.h3, 2),
+        R(e.h4, 2),
+        R(e.h5, 2),
+        R(e.S1, 2),
+        R(e.S2, 2),
+        R(e.S3, 2),
+        R(e.S4, 2),
+        R(e.S5, 2),
+        R(e.Q23, 1),
+        R(e.Qciclo - e.Q23, 1),
+        R(e.Qciclo, 1),
+        R(e.W12, 1),
+        R(e.W34, 1),
+        R(e.W45, 1),
+        R(e.Wciclo, 1),
+        TextoGeneral(e.Rendimiento),
+        R(e.gamma1, 3),
+        R(e.Gamma2, 4),
+        R(e.Gamma4, 4),
+        R(e.Gamma5, 4),
+        R(1 / e.Fr, 3),
+        R(e.Fr, 3),
+        R(e.HCIhumos, 0),
+        R(e.Fe, 6),
+        R(e.Humedad, 3),
+        R(e.Pambiente, 0),
+        R(e.Psaturacion, 2),
+        R(e.Tambiente, 0),
+        std::string(tipoCombustible),
+        std::string(informe),
+    };
+}
+
+int PosicionTrasBorrar(int posicion, int cuenta) {
+    if (cuenta <= 1) return -1;
+    return posicion + 1 < cuenta ? posicion : posicion - 1;
+}
+
+// ---- SQL ---------------------------------------------------------------------------
+
+std::string Citado(std::string_view nombre) {
+    std::string s = "\"";
+    for (char c : nombre) {
+        if (c == '"') s += '"';
+        s += c;
+    }
+    return s + '"';
+}
+
+std::string SQLCrearTabla() {
+    std::string s = "CREATE TABLE " + Citado(kTabla) + " (";
+    for (const auto& c : kColumnasTexto) s += Citado(c.nombre) + " TEXT, ";
+    for (const auto& c : kColumnasImagen) s += Citado(c.nombre) + " BLOB, ";
+    s.resize(s.size() - 2);
+    return s + ")";
+}
+
+std::string SQLInsertar() {
+    std::string columnas, parametros;
+    auto agregar = [&](std::string_view nombre) {
+        columnas += (columnas.empty() ? "" : ", ") + Citado(nombre);
+        parametros += parametros.empty() ? "?" : ", ?";
+    };
+    for (const auto& c : kColumnasTexto) agregar(c.nombre);
+    for (const auto& c : kColumnasImagen) agregar(c.nombre);
+    return "INSERT INTO " + Citado(kTabla) + " (" + columnas + ") VALUES (" + parametros + ")";
+}
+
+namespace {
+
+template <class Columnas>
+std::string SQLLeer(const Columnas& columnas) {
+    std::string s;
+    for (const auto& c : columnas) s += (s.empty() ? "SELECT " : ", ") + Citado(c.nombre);
+    return s + " FROM " + Citado(kTabla) + " WHERE rowid = ?";
+}
+
+}  // namespace
+
+std::string SQLLeerTextos() { return SQLLeer(kColumnasTexto); }
+std::string SQLLeerImagenes() { return SQLLeer(kColumnasImagen); }
+
+// ---- Texts -------------------------------------------------------------------------
+
+std::string CausaSQLite(int codigo, std::string_view descripcion) {
+    switch (codigo & 0xFF) {
+        case 3:  // SQLITE_PERM
+        case 8:  // SQLITE_READONLY
+            return "el archivo es de solo lectura";
+        case 5:  // SQLITE_BUSY
+        case 6:  // SQLITE_LOCKED
+            return "otro programa (quizá otra Vanta) está usando la base de datos; inténtelo de nuevo más tarde";
+        case 10:  // SQLITE_IOERR
+            return "error de lectura o escritura en el disco";
+        case 11:  // SQLITE_CORRUPT
+        case 26:  // SQLITE_NOTADB
+            return "el archivo está dañado o no es una base de datos";
+        case 13:  // SQLITE_FULL
+            return "el disco está lleno";
+        case 14:  // SQLITE_CANTOPEN
+            return "no se puede abrir ni crear el archivo";
+        default:
+            return Unir({"error de la base de datos (", descripcion, ")"});
+    }
+}
+
+std::string MsgNoSeAbre(std::string_view ruta, std::string_view causa) {
+    return Unir({"No se puede abrir la base de datos ", ruta, ": ", causa, "."});
+}
+
+std::string MsgNoSeCrea(std::string_view ruta, std::string_view causa) {
+    return Unir({"No se puede crear la base de datos ", ruta, ": ", causa, "."});
+}
+
+std::string MsgNoSeGuarda(std::string_view causa) {
+    return Unir({"No se ha guardado el registro: ", causa,
+                 ". Los registros guardados antes siguen en la base de datos."});
+}
+
+std::string MsgNoSeLee(std::string_view causa) {
+    return Unir({"No se puede leer la base de datos: ", causa, "."});
+}
+
+std::string MsgNoSeBorra(std::string_view causa) {
+    return Unir({"No se ha borrado el registro: ", causa, "."});
+}
+
+std::string MsgNoSeGuardaInforme(std::string_view causa) {
+    return Unir({"No se ha guardado el informe en el registro: ", causa, "."});
+}
+
+}  // namespace vanta::bd

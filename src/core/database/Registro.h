@@ -1,0 +1,186 @@
+// The saved record of a calculation: the 68 columns of ResultadosGuardados,
+// the control of the browser that shows each one, the value that a save puts
+// in each, and the texts of the results database. Standard library only: the
+// store and the windows that use it are in the Qt part of this folder.
+//
+// How figures stand in the file: every column but the seven pictures is TEXT,
+// and a figure is kept exactly as its box shows it when it is saved (rounded,
+// by the general conversion, with the decimal separator of that session). The
+// browser shows it back as it stands, so a comma of a Spanish system is never
+// read as a thousands separator nor turned into a number by the engine.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/reports/Informes.h"
+#include "core/state/Estado.h"
+
+namespace vanta::bd {
+
+// A column of text and the box or label of the browser bound to it.
+struct ColumnaTexto {
+    std::string_view nombre;
+    std::string_view control;
+};
+
+// A picture column, its image control on the browser and the picture box of
+// the main window whose picture it holds.
+struct ColumnaImagen {
+    std::string_view nombre;
+    std::string_view control;
+    CuadroImagen cuadro;
+};
+
+inline constexpr std::size_t kNumColumnasTexto = 61;
+inline constexpr std::size_t kNumColumnasImagen = 7;
+inline constexpr std::size_t kNumColumnas = kNumColumnasTexto + kNumColumnasImagen;
+
+// The text columns in the order of the table.
+inline constexpr std::array<ColumnaTexto, kNumColumnasTexto> kColumnasTexto{{
+    {"Guardado como", "txtGuardarComo"},
+    {"Atomos de C", "txtMolC"},
+    {"Atomos de H", "txtMolH"},
+    {"Atomos de N", "txtMolN"},
+    {"Atomos de O", "txtMolO"},
+    {"Atomos de S", "txtMolS"},
+    {"Cien C", "txtCienC"},
+    {"Cien H", "txtCienH"},
+    {"Cien N", "txtCienN"},
+    {"Cien O", "txtCienO"},
+    {"Cien S", "txtCienS"},
+    {"HCS", "txtHCS"},
+    {"HCI", "txtHCI"},
+    {"Calor vap", "txtQVap"},
+    {"p1", "lblP1"},
+    {"p2", "lblP2"},
+    {"p3", "lblP3"},
+    {"p4", "lblP4"},
+    {"p5", "lblP5"},
+    {"V1", "lblV1"},
+    {"V2", "lblV2"},
+    {"V3", "lblV3"},
+    {"V4", "lblV4"},
+    {"V5", "lblV5"},
+    {"T1", "lblT1"},
+    {"T2", "lblT2"},
+    {"T3", "lblT3"},
+    {"T4", "lblT4"},
+    {"T5", "lblT5"},
+    {"h1", "lblH1"},
+    {"h2", "lblH2"},
+    {"h3", "lblH3"},
+    {"h4", "lblH4"},
+    {"h5", "lblH5"},
+    {"S1", "lbls1"},
+    {"S2", "lbls2"},
+    {"S3", "lbls3"},
+    {"S4", "lbls4"},
+    {"S5", "lblS5"},
+    {"Q23", "lblQ23"},
+    {"Q34", "lblQ34"},
+    {"Qciclo", "lblQciclo"},
+    {"W12", "lblW12"},
+    {"W34", "lblW34"},
+    {"W45", "lblW45"},
+    {"Wciclo", "lblWciclo"},
+    {"Rendimiento", "lblRen"},
+    {"gamma1", "lblG12"},
+    {"Gamma2", "lblG2"},
+    {"Gamma4", "lblG45"},
+    {"Gamma5", "lblG5"},
+    {"Lambda", "txtLambda"},
+    {"Fr", "txtFr"},
+    {"HCIhumos", "txtHCIhumos"},
+    {"Fe", "txtFe"},
+    {"Humedad", "txtW"},
+    {"Pambiente", "txtPamb"},
+    {"Psaturacion", "txtPsat"},
+    {"Tambiente", "txtTamb"},
+    {"TipoCombustible", "txtTipoCombustible"},
+    {"Informe", "txtInforme"},
+}};
+
+// Where the name and the report stand among the text columns.
+inline constexpr std::size_t kColumnaNombre = 0;
+inline constexpr std::size_t kColumnaInforme = kNumColumnasTexto - 1;
+
+// The picture columns in the order of the table. imgDPV and imgDTV are crossed
+// with the controls of the same names, and stay so: the column imgDTV holds
+// the p-V diagram, shown by the control imgDPV, and the column imgDPV the T-V.
+inline constexpr std::array<ColumnaImagen, kNumColumnasImagen> kColumnasImagen{{
+    {"imgAire", "ImgAire", CuadroImagen::pct1},
+    {"imgCombustible", "imgCombustible", CuadroImagen::pct2},
+    {"imgCombustion", "imgCombustion", CuadroImagen::pct3},
+    {"imgDPV", "imgDTV", CuadroImagen::pctTV},
+    {"imgDTV", "imgDPV", CuadroImagen::pctPV},
+    {"imgDTs", "imgDTS", CuadroImagen::pctTS},
+    {"imgDhs", "imgDhs", CuadroImagen::pctHS},
+}};
+
+using TextosRegistro = std::array<std::string, kNumColumnasTexto>;
+
+// The default answer of the name prompt: the humidity, the fuel, Fr and the
+// cycle, both numbers unrounded.
+std::string NombrePorDefecto(const Estado& e, std::string_view tipoCombustible);
+
+// The text columns of a new record, in the order of the table, with the
+// rounding and conversion of each. tipoCombustible is the text of the fuel
+// list; informe, the report as its viewer holds it.
+TextosRegistro ValoresRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
+                               std::string_view informe);
+
+// Where the browser stands after deleting the record at posicion of cuenta
+// records (0-based): on the one that followed it, or on the one before when it
+// was the last; -1 when none is left.
+int PosicionTrasBorrar(int posicion, int cuenta);
+
+// ---- The file ------------------------------------------------------------------
+
+// Its name, resolved against the current folder when the browser first loads.
+inline constexpr std::string_view kArchivoBaseDatos = "BD.sqlite";
+inline constexpr std::string_view kTabla = "ResultadosGuardados";
+// Marks a file made by this program ("VANT"), set when the file is created.
+inline constexpr int32_t kIdAplicacion = 0x56414E54;
+
+// A name of the file quoted for SQL: "Guardado como".
+std::string Citado(std::string_view nombre);
+// CREATE TABLE with the 68 columns in order: TEXT, and BLOB for the pictures.
+std::string SQLCrearTabla();
+// INSERT of the 68 columns in order, with positional parameters.
+std::string SQLInsertar();
+// SELECT of the text columns, or of the picture columns, of one record by its
+// rowid (one parameter).
+std::string SQLLeerTextos();
+std::string SQLLeerImagenes();
+
+// ---- Texts ---------------------------------------------------------------------
+
+inline constexpr std::string_view kPromptGuardar = "Guardar en un registro de la base de datos como: ";
+inline constexpr std::string_view kMsgSinRegistros = "La base de datos no contiene registros";
+inline constexpr std::string_view kMsgRegistroBorrado = "Se ha borrado el registro seleccionado permanentemente";
+
+// What went wrong with the file, in Spanish, from an SQLite result code
+// (primary or extended); descripcion is the engine's own text, for the codes
+// that have no plain words here.
+std::string CausaSQLite(int codigo, std::string_view descripcion);
+
+// Failures of the store, each ending the operation with nothing written.
+// ruta: the file; causa: CausaSQLite or one of the reasons below.
+std::string MsgNoSeAbre(std::string_view ruta, std::string_view causa);
+std::string MsgNoSeCrea(std::string_view ruta, std::string_view causa);
+std::string MsgNoSeGuarda(std::string_view causa);
+std::string MsgNoSeLee(std::string_view causa);
+std::string MsgNoSeBorra(std::string_view causa);
+std::string MsgNoSeGuardaInforme(std::string_view causa);
+
+inline constexpr std::string_view kCausaNoEsDeVanta =
+    "no es una base de datos de resultados de Vanta (ni se usa ni se modifica)";
+inline constexpr std::string_view kCausaSinColumnas =
+    "le falta la tabla ResultadosGuardados o alguna de sus 68 columnas (ni se usa ni se modifica)";
+inline constexpr std::string_view kCausaEsCarpeta = "es una carpeta, no un archivo";
+
+}  // namespace vanta::bd

@@ -1,0 +1,68 @@
+#include "core/fluids/AireHumedo.h"
+
+#include <cmath>
+
+#include "core/fluids/Graficas.h"
+#include "core/services/Fallos.h"
+#include "core/services/Numeros.h"
+
+namespace vanta {
+
+namespace {
+// The test stands at 250 K although the text says 300 K: kept as it is.
+constexpr double kTemperaturaMinima = 250.0;
+constexpr double kTemperaturaMaxima = 5000.0;
+constexpr std::string_view kMensajeTemperaturaBaja = " La temperatura ha de ser mayor a 300 K ";
+constexpr std::string_view kMensajeTemperaturaAlta = " La temperatura ha de ser menor a 5 000 K ";
+constexpr std::string_view kMensajeSuma = "Se ha producido el siguiente error: La suma de las fracciones molares del aire = ";
+constexpr std::string_view kCausaPresionNula = "la presión ambiente es cero y la fracción de vapor de agua no se puede calcular";
+constexpr std::string_view kCausaFueraDeRango = "la composición del aire sale del intervalo de los números del programa";
+}  // namespace
+
+bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
+    // A rejected text has been told by the validator; the calculation goes on.
+    ValidarNumero(e, dlg, c.txtPreAmb, e.Pambiente, "presión ambiente");
+    ValidarNumero(e, dlg, c.txtTemAmb, e.Tambiente, "temperatura ambiente");
+    ValidarNumero(e, dlg, c.txtHum, e.Humedad, "humedad relativa");
+
+    if (e.Tambiente < kTemperaturaMinima) {
+        dlg.MsgBox(kMensajeTemperaturaBaja);
+        return false;
+    }
+    if (e.Tambiente > kTemperaturaMaxima) {
+        dlg.MsgBox(kMensajeTemperaturaAlta);
+        return false;
+    }
+    if (e.Pambiente == 0) {
+        FalloAritmetico(e, dlg, kCausaPresionNula);
+        return false;
+    }
+
+    // Worked out first and kept only when the molar mass, which sums them
+    // all, and the percentage of water that the chart shows are finite
+    // numbers: a humidity or a pressure at the edge of the doubles leaves the
+    // previous air in place.
+    const double psat = std::exp(19.1 - 0.008 * e.Tambiente - 6012.0 / e.Tambiente) * 100000.0;
+    const double xH2O = e.Humedad * psat / (e.Pambiente * 100.0);
+    const double xN2 = kAireSecoN2 - xH2O * kAireSecoN2;
+    const double xO2 = kAireSecoO2 - xH2O * kAireSecoO2;
+    const double xAr = kAireSecoAr - xH2O * kAireSecoAr;
+    const double xCO2 = kAireSecoCO2 - xH2O * kAireSecoCO2;
+    const double masaMolecular = xO2 * 0.032 + xN2 * 0.028018 + xCO2 * 0.044011 + xAr * 0.039948 + xH2O * 0.018016;
+    if (!std::isfinite(masaMolecular) || !std::isfinite(xH2O * 100)) {
+        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        return false;
+    }
+    e.Psaturacion = psat;
+    e.xH2OAire = xH2O, e.xN2Aire = xN2, e.xO2Aire = xO2, e.xArAire = xAr, e.xCO2Aire = xCO2;
+    e.MasaMolecularAire = masaMolecular;
+
+    const double suma = e.xO2Aire + e.xN2Aire + e.xCO2Aire + e.xArAire + e.xH2OAire;
+    if (Round(suma, 2) != 1) dlg.MsgBox(std::string(kMensajeSuma) + TextoGeneral(suma));
+
+    GraficaAire(e, c.pct1);
+    if (c.chkOcultar.Value()) c.ventana.Hide();
+    return true;
+}
+
+}  // namespace vanta

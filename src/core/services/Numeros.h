@@ -1,0 +1,46 @@
+// Numbers as text: the one gate by which a typed number enters (ValidarNumero)
+// and the three ways in which a number leaves (Round, Format, the general
+// conversion). No other code turns text into numbers or numbers into text.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/services/Puertos.h"
+#include "core/state/Estado.h"
+
+namespace vanta {
+
+// The decimal separator of everything written: "." by default (command line,
+// tests); the window takes the system's.
+char SeparadorDecimal();
+void FijarSeparadorDecimal(char separador);
+
+// x rounded to d decimals; an exact tie goes to the even neighbour.
+double Round(double x, int d = 0);
+
+// x rendered by a mask of '#', '0', '.' and blanks (see Numeros.cpp).
+std::string Format(double x, std::string_view mascara);
+
+// The general conversion: up to 15 significant digits, no padding, exponent
+// form below 1E-05 and from 1E+15 on in magnitude.
+std::string TextoGeneral(double x);
+// A variant prints a number by the general conversion and a text as it stands.
+std::string TextoGeneral(const Variante& v);
+
+// The numeric test of the boxes and the value read, or nothing when the text
+// is not a number.
+std::optional<double> LeerNumero(std::string_view texto);
+
+// Reads a box into destino. A text that is not a number shows nombre followed
+// by "no es un número", puts the focus back and sets ErrorCalculo; destino then
+// keeps its value. Never clears ErrorCalculo.
+void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, double& destino,
+                   std::string_view nombre);
+
+// The same for the single-precision members of the tables tool.
+void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, float& destino,
+                   std::string_view nombre);
+
+}  // namespace vanta

@@ -1,5 +1,0 @@
-list(APPEND VANTA_CORE_SOURCES
-  ${CMAKE_CURRENT_LIST_DIR}/Ciclo.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/Transformaciones.cpp)
-list(APPEND VANTA_GUI_SOURCES
-  ${CMAKE_CURRENT_LIST_DIR}/frmOtto_Diesel.cpp)

@@ -1,0 +1,106 @@
+// The window "Ciclo": the user picks the cycle by its picture, gives the
+// engine data, the state at the end of admission, the models of compression
+// and expansion and, for the mixed cycle, how the heat is split. "CALCULAR"
+// solves the cycle and draws the four diagrams of the main window.
+#pragma once
+
+#include <QColor>
+#include <QDialog>
+#include <QPixmap>
+#include <memory>
+
+#include "core/cycle/Ciclo.h"
+#include "gui/services/PuertosQt.h"
+#include "core/services/Superficie.h"
+#include "core/state/Estado.h"
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace vanta {
+
+// A shape: a rectangle drawn with a border colour and width, round a picture.
+class Forma : public QWidget {
+public:
+    explicit Forma(QWidget* padre = nullptr);
+    QColor BorderColor() const { return color_; }
+    int BorderWidth() const { return ancho_; }
+    void SetBorderColor(const QColor& color);
+    void SetBorderWidth(int ancho);
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+
+private:
+    QColor color_ = Qt::black;
+    int ancho_ = 1;
+};
+
+class frmOtto_Diesel : public QDialog, public FormularioCiclo {
+    Q_OBJECT
+
+public:
+    frmOtto_Diesel(Estado& e, Dialogos& dlg, Diagramas& diagramas, VentanaPrincipal& principal,
+                   QWidget* padre = nullptr);
+    ~frmOtto_Diesel() override;
+
+    void MostrarMarcos(bool compresion, bool expansion, bool aire, bool opcion, bool datos, bool seleccionar) override;
+    void ResaltarCiclo(bool otto, bool diesel, bool mixto) override;
+
+    ControlesCiclo& Controles();
+
+public slots:
+    void cmdCal_Click();
+    void imgOtto_Click();
+    void imgDiesel_Click();
+    void imgMixto_Click();
+    void optGmedioCom_Click();
+    void optPolitropicaCom_Click();
+    void optGvariable_Click();
+    void optGmedioExp_Click();
+    void optPolitropica_Click();
+    void optGvariableExp_Click();
+    void optProporcion_Click();
+    void optPmax_Click();
+    void txtPropVcte_Change();
+
+protected:
+    void showEvent(QShowEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    void CrearControles();
+    void Distribuir();
+
+    Estado& e_;
+    Dialogos& dlg_;
+    Diagramas& diagramas_;
+    VentanaPrincipal& principal_;
+    bool cargada_ = false;
+    // The logic writes txtPropVcte from inside its own change event and runs
+    // the event again itself; Qt's signal of that write is not a second run.
+    bool enPropVcte_ = false;
+
+    QCheckBox* chkOcultar_;
+    QGroupBox *fraDTecnicos_, *fraAire_, *fraOpcion_, *fraExpansion_, *fraCompresion_;
+    QLineEdit *txtCilindrada_, *txtRc_, *txtP1_, *txtT1_, *txtPropVcte_, *txtPMax_, *txtPropPcte_, *txtGMedioExp_,
+        *txt_nExp_, *txtGammaMedioComp_, *txt_nCom_;
+    QLabel *Label1_, *Label2_, *lblcc_, *Label3_, *Label5_, *lblPa_, *lblK_, *lblcVc_, *lblCienCvC_, *lblcPc_,
+        *lblCienCpC_, *lblPmax_, *lblPaPmax_, *lbl_nExp_, *lbl_n_comp_;
+    QRadioButton *optProporcion_, *optPmax_, *optGvariableExp_, *optGmedioExp_, *optPolitropica_, *optGvariable_,
+        *optGmedioCom_, *optPolitropicaCom_;
+    QPushButton* cmdCal_;
+    QLabel *imgOtto_, *imgDiesel_, *imgMixto_, *imgSeleccinar_;
+    Forma *shpOtto_, *shpDiesel_, *shpMixto_, *shpActiva_, *shpInactiva_;
+    // The stock of pictures: [cycle][variant 1 idle, variant 2 chosen].
+    QPixmap stock_[3][2];
+
+    struct Puertos;
+    std::unique_ptr<Puertos> puertos_;
+};
+
+}  // namespace vanta

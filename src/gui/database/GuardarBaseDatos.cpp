@@ -1,0 +1,53 @@
+#include "gui/database/GuardarBaseDatos.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QGuiApplication>
+
+#include "core/database/Registro.h"
+#include "gui/database/frmBaseDatos.h"
+#include "gui/services/PuertosQt.h"
+
+namespace vanta {
+
+ImagenesRegistro ImagenesDeColumnas(const ImagenesPrincipal& imagenes) {
+    ImagenesRegistro columnas;
+    for (size_t i = 0; i < columnas.size(); ++i)
+        columnas[i] = imagenes[static_cast<size_t>(bd::kColumnasImagen[i].cuadro)];
+    return columnas;
+}
+
+bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombustible, std::string_view informe,
+                      const ImagenesPrincipal& imagenes, frmBaseDatos& navegador) {
+    const std::string nombre = dlg.InputBox(bd::kPromptGuardar, bd::NombrePorDefecto(e, tipoCombustible));
+    if (nombre.empty()) return false;
+    if (!navegador.Cargar()) return false;
+
+    // Each picture, in the order of the columns, goes through the clipboard as
+    // the user's copy and paste would take it.
+    ImagenesRegistro columnas = ImagenesDeColumnas(imagenes);
+    QClipboard* portapapeles = QGuiApplication::clipboard();
+    for (QImage& imagen : columnas) {
+        portapapeles->clear();
+        portapapeles->setImage(imagen);
+        // A clipboard that gives nothing back (no system clipboard) does not
+        // cost the record its picture.
+        if (const QImage copia = portapapeles->image(); !copia.isNull()) imagen = copia;
+    }
+    if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas)) return false;
+    navegador.MostrarModal();
+    return true;
+}
+
+bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
+                     std::string_view informe, const ImagenesPrincipal& imagenes, Dialogos& dlg, const QString& ruta) {
+    AlmacenResultados almacen(ruta.isEmpty() ? QDir::current().absoluteFilePath(ATexto(bd::kArchivoBaseDatos)) : ruta);
+    if (!almacen.Abrir() ||
+        !almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), ImagenesDeColumnas(imagenes))) {
+        dlg.MsgBox(almacen.Error());
+        return false;
+    }
+    return true;
+}
+
+}  // namespace vanta

@@ -1,0 +1,45 @@
+// Saving a calculation as a record of the results database: from the main
+// window, with the name asked and the browser shown on the new record; and
+// from the command line, with the name given.
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "gui/database/AlmacenResultados.h"
+#include "core/services/Puertos.h"
+#include "core/state/Estado.h"
+
+namespace vanta {
+
+class frmBaseDatos;
+
+// The seven pictures of the main window, indexed by CuadroImagen: pct1, pct2,
+// pct3, pctPV, pctTV, pctTS, pctHS (each surface's Imagen()).
+using ImagenesPrincipal = std::array<QImage, 7>;
+
+// The picture columns of a record from the main window's pictures, crossed
+// as the record keeps them (the column imgDTV takes pctPV).
+ImagenesRegistro ImagenesDeColumnas(const ImagenesPrincipal& imagenes);
+
+// The main window's save: asks the name with the default one; an empty answer
+// writes nothing and opens nothing. Otherwise the pictures pass one by one
+// through the system clipboard (which is left holding pctHS), the record is
+// added in one transaction, and the browser shows it modally as the last
+// record. tipoCombustible: the text of the fuel list; informe: the report as
+// its viewer holds it. Returns whether a record was added; a failure has
+// shown its message.
+bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombustible, std::string_view informe,
+                      const ImagenesPrincipal& imagenes, frmBaseDatos& navegador);
+
+// The command line's save: one record with the name given, in the file BD.sqlite
+// of the current folder (or ruta), made when missing. No clipboard, no window.
+// Returns whether the record was added; a failure goes through dlg.
+bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
+                     std::string_view informe, const ImagenesPrincipal& imagenes, Dialogos& dlg,
+                     const QString& ruta = {});
+
+}  // namespace vanta

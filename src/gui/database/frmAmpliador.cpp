@@ -1,0 +1,33 @@
+#include "gui/database/frmAmpliador.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "gui/database/ControlImagen.h"
+
+namespace vanta {
+
+frmAmpliador::frmAmpliador(QWidget* padre) : QDialog(padre) {
+    setObjectName(QStringLiteral("frmAmpliador"));
+    setWindowTitle(QStringLiteral("Base de datos: Ampliador de imágenes"));
+    imgAmpliada_ = new ControlImagen(this);
+    imgAmpliada_->setObjectName(QStringLiteral("imgAmpliada"));
+    imgAmpliada_->setFrameStyle(QFrame::NoFrame);
+    auto* caja = new QVBoxLayout(this);
+    caja->setContentsMargins(0, 0, 0, 0);
+    caja->addWidget(imgAmpliada_);
+    connect(imgAmpliada_, &ControlImagen::Click, this, &frmAmpliador::imgAmpliada_Click);
+}
+
+void frmAmpliador::PonerImagen(const QImage& imagen) {
+    imgAmpliada_->SetPicture(imagen);
+    QSize tam = imagen.isNull() ? QSize(320, 240) : imagen.deviceIndependentSize().toSize();
+    const QScreen* pantalla = screen() ? screen() : QGuiApplication::primaryScreen();
+    if (pantalla) tam = tam.boundedTo(pantalla->availableSize() * 0.9);
+    resize(tam);
+}
+
+void frmAmpliador::imgAmpliada_Click() { hide(); }
+
+}  // namespace vanta

@@ -1,0 +1,142 @@
+// "Base de datos": the browser of the saved results. It shows one record at a
+// time, as a summary (every figure in its box, the seven pictures as
+// thumbnails) or as the report text, and moves, deletes and enlarges. It is
+// made once and only hidden when closed; the file is opened when it is first
+// needed, and stays open for the program's life.
+//
+// The report view shows the main window's report buffer, not the record's own
+// report; the record being left gets that text in its Informe column when it
+// differs. This is the one way that a stored report changes.
+#pragma once
+
+#include <QDialog>
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "gui/database/AlmacenResultados.h"
+#include "core/database/Registro.h"
+#include "core/services/Puertos.h"
+
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+class QToolButton;
+
+namespace vanta {
+
+class ControlImagen;
+class frmAmpliador;
+
+class frmBaseDatos : public QDialog {
+    Q_OBJECT
+
+public:
+    // dlg: where messages go. informeF1: the main window's report buffer as
+    // it stands when the report view is asked for.
+    frmBaseDatos(Dialogos& dlg, std::function<std::string()> informeF1, QWidget* padre = nullptr);
+    ~frmBaseDatos() override;
+
+    // The first call resolves the file name against the current folder and
+    // opens the file (making it when missing) on the first record; later
+    // calls do nothing once it is open. False, with the message shown, when
+    // the file cannot be used.
+    bool Cargar();
+
+    // Adds a record in one transaction and moves to it, as the last one.
+    // False, with the message shown, when nothing was saved.
+    bool AgregarRegistro(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes);
+
+    // Shown after a save, modally; from the menu, not modally (nothing is
+    // shown when the file cannot be used).
+    void MostrarModal();
+    void MostrarNoModal();
+    // How a modal window (this one, the enlargement) is shown: exec() unless
+    // replaced; the window tests show it without a nested event loop.
+    void FijarMostrarModal(std::function<void(QDialog&)> mostrar) { mostrarModal_ = std::move(mostrar); }
+    // How long a save or a read waits for another program holding the file.
+    void FijarEspera(int milisegundos) { espera_ = milisegundos; }
+
+    // ---- The record navigator ----
+    int RecordCount() const { return static_cast<int>(ids_.size()); }
+    // 0-based position of the current record; -1 when there is none.
+    int Posicion() const { return posicion_; }
+    void MoveFirst();
+    void MovePrevious();
+    void MoveNext();
+    void MoveLast();
+
+    bool ModoInforme() const { return ModoInforme_; }
+    // The text that the report box holds, line ends as stored.
+    const std::string& TextoInforme() const { return textoInforme_; }
+    AlmacenResultados* Almacen() const { return almacen_.get(); }
+    frmAmpliador* Ampliador() const { return ampliador_; }
+
+public slots:
+    void cmdVer_Click();
+    void cmdBorrarRegistro_Click();
+    void cmdCerrar_Click();
+    // Enlarges one of the seven pictures, through the system clipboard.
+    void Imagen_Click(ControlImagen* imagen);
+
+protected:
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    void CrearControles();
+    QGroupBox* CrearAire();
+    QGroupBox* CrearCombustible();
+    QGroupBox* CrearCombustion();
+    QGroupBox* CrearPuntos();
+    QGroupBox* CrearTransformaciones();
+    QWidget* CrearNavegador();
+    QWidget* Control(std::string_view nombre) const;
+    // Rows of a caption, a box and its unit.
+    struct Fila {
+        const char *rotulo, *control, *unidad;
+    };
+    QGridLayout* Filas(QWidget* marco, std::initializer_list<Fila> filas) const;
+
+    // Leaves the current record (writing a changed report), then shows the
+    // record at posicion.
+    void IrA(int posicion);
+    void DejarRegistro();
+    // Reads the current record into the controls; empty controls for none.
+    void MostrarRegistro();
+    void Vaciar();
+    void PonerTexto(size_t columna, const std::string& texto);
+    void PonerInformeEnCaja(const std::string& texto);
+    // The report box's fit, in parts of the form's size.
+    void AjustarInforme(double arriba, double alto, double ancho, double izquierda);
+    void AjustarInformeRaton();
+
+    Dialogos& dlg_;
+    std::function<std::string()> informeF1_;
+    std::function<void(QDialog&)> mostrarModal_;
+    int espera_ = 2000;
+
+    QString ruta_;  // resolved at the first load
+    std::unique_ptr<AlmacenResultados> almacen_;
+    std::vector<qint64> ids_;
+    int posicion_ = -1;
+    bool hayRegistro_ = false;       // the current record's texts are loaded
+    std::string informeGuardado_;    // its Informe column as stored
+    std::string textoInforme_;       // what the report box holds
+    bool ModoInforme_ = false;
+
+    std::array<QWidget*, bd::kNumColumnasTexto> controles_{};
+    std::array<ControlImagen*, bd::kNumColumnasImagen> imagenes_{};
+    QPlainTextEdit* txtInforme_ = nullptr;
+    QGroupBox *fraAire_ = nullptr, *fraCombustible_ = nullptr, *fraCombustion_ = nullptr, *fraPuntos_ = nullptr,
+              *fraTransformaciones_ = nullptr;
+    QPushButton *cmdCerrar_ = nullptr, *cmdVer_ = nullptr, *cmdBorrarRegistro_ = nullptr;
+    QToolButton *cmdPrimero_ = nullptr, *cmdAnterior_ = nullptr, *cmdSiguiente_ = nullptr, *cmdUltimo_ = nullptr;
+    frmAmpliador* ampliador_ = nullptr;
+};
+
+}  // namespace vanta

@@ -1,0 +1,71 @@
+#include "gui/fluids/frmAireHumedad.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/fluids/AireHumedo.h"
+#include "gui/services/TextosVentanas.h"
+#include "gui/services/Controles.h"
+
+namespace vanta {
+
+frmAireHumedad::frmAireHumedad(Estado& e, Dialogos& dlg, Superficie& pct1, QWidget* padre)
+    : QDialog(padre),
+      e_(e),
+      dlg_(dlg),
+      pct1_(pct1),
+      Frame1_(NuevoMarco(this, "Frame1", "Ambiente")),
+      txtTemAmb_(NuevaCaja(Frame1_, "txtTemAmb", kTextoTemperaturaAmbiente)),
+      txtPreAmb_(NuevaCaja(Frame1_, "txtPreAmb", kTextoPresionAmbiente)),
+      txtHum_(NuevaCaja(Frame1_, "txtHum", kTextoHumedad)),
+      Label1_(NuevaEtiqueta(Frame1_, "Label1", "Humedad  relativa")),
+      Label2_(NuevaEtiqueta(Frame1_, "Label2", "%")),
+      Label3_(NuevaEtiqueta(Frame1_, "Label3", "Temperatura")),
+      Label4_(NuevaEtiqueta(Frame1_, "Label4", "K")),
+      Label5_(NuevaEtiqueta(Frame1_, "Label5", "Presión ")),
+      Label6_(NuevaEtiqueta(Frame1_, "Label6", "Pa")),
+      chkOcultar_(NuevaCasilla(this, "chkOcultar", kOcultarAutomaticamente, true)),
+      cmdCal_(NuevoBoton(this, "cmdCal", kCalcular)),
+      cajaTemAmb_(txtTemAmb_),
+      cajaPreAmb_(txtPreAmb_),
+      cajaHum_(txtHum_),
+      interruptorOcultar_(chkOcultar_),
+      ventana_(this) {
+    setObjectName(QStringLiteral("frmAireHumedad"));
+    setWindowTitle(QString::fromUtf8("Aire húmedo"));
+    setModal(true);
+    txtPreAmb_->setToolTip(QString::fromUtf8(kPresionAbsoluta));
+
+    auto* rejilla = new QGridLayout(Frame1_);
+    rejilla->addWidget(Label3_, 0, 0);
+    rejilla->addWidget(txtTemAmb_, 0, 1);
+    rejilla->addWidget(Label4_, 0, 2);
+    rejilla->addWidget(Label5_, 1, 0);
+    rejilla->addWidget(txtPreAmb_, 1, 1);
+    rejilla->addWidget(Label6_, 1, 2);
+    rejilla->addWidget(Label1_, 2, 0);
+    rejilla->addWidget(txtHum_, 2, 1);
+    rejilla->addWidget(Label2_, 2, 2);
+
+    auto* abajo = new QHBoxLayout;
+    abajo->addWidget(chkOcultar_);
+    abajo->addStretch(1);
+    abajo->addWidget(cmdCal_);
+    auto* columna = new QVBoxLayout(this);
+    columna->addWidget(Frame1_);
+    columna->addLayout(abajo);
+    connect(cmdCal_, &QPushButton::clicked, this, &frmAireHumedad::cmdCal_Click);
+}
+
+void frmAireHumedad::cmdCal_Click() {
+    ControlesAire c{cajaPreAmb_, cajaTemAmb_, cajaHum_, interruptorOcultar_, ventana_, pct1_};
+    CalcularAire(e_, dlg_, c);
+}
+
+}  // namespace vanta

@@ -1,0 +1,45 @@
+// The window "Aire húmedo": ambient pressure, temperature and relative
+// humidity of the comburent. Its button runs CalcularAire and draws the chart
+// of the air on pct1 of the main window.
+#pragma once
+
+#include <QDialog>
+
+#include "gui/services/PuertosQt.h"
+#include "core/services/Superficie.h"
+#include "core/state/Estado.h"
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace vanta {
+
+class frmAireHumedad : public QDialog {
+    Q_OBJECT
+
+public:
+    frmAireHumedad(Estado& e, Dialogos& dlg, Superficie& pct1, QWidget* padre = nullptr);
+
+public slots:
+    void cmdCal_Click();
+
+private:
+    Estado& e_;
+    Dialogos& dlg_;
+    Superficie& pct1_;
+
+    QGroupBox* Frame1_;
+    QLineEdit *txtTemAmb_, *txtPreAmb_, *txtHum_;
+    QLabel *Label1_, *Label2_, *Label3_, *Label4_, *Label5_, *Label6_;
+    QCheckBox* chkOcultar_;
+    QPushButton* cmdCal_;
+
+    CajaTextoQt cajaTemAmb_, cajaPreAmb_, cajaHum_;
+    InterruptorQt interruptorOcultar_;
+    VentanaQt ventana_;
+};
+
+}  // namespace vanta

@@ -1,0 +1,591 @@
+#include "gui/mainwindow/frmFase1.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QEvent>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QUrl>
+
+#include "gui/cycle/frmOtto_Diesel.h"
+#include "gui/database/GuardarBaseDatos.h"
+#include "core/reports/ArchivosInforme.h"
+#include "gui/reports/VisoresInforme.h"
+#include "gui/database/frmBaseDatos.h"
+#include "gui/tables/frmHerramientas.h"
+#include "gui/fluids/frmAireHumedad.h"
+#include "gui/fluids/frmCombustible.h"
+#include "gui/fluids/frmGasesCombustion.h"
+#include "gui/resources/Dibujos.h"
+#include "gui/services/Controles.h"
+#include "gui/mainwindow/frmAcercaDe.h"
+#include "gui/mainwindow/frmBibliografia.h"
+#include "gui/resources/Programa.h"
+
+namespace vanta {
+
+namespace {
+
+// The prompt of the speed box, emptied by a click.
+constexpr const char* kTextoRpm = "rpm";
+constexpr const char* kMensajeFaltanEtapas = "Antes debe especificar: comburente, combustible y combustión";
+
+// The design of the window: a 1024 × 768 screen.
+constexpr int kAnchoDiseno = 1024;
+constexpr int kAltoDiseno = 768;
+// Share of the screen's free area that the window takes at most.
+constexpr double kFraccionPantalla = 0.92;
+
+// A cell of a table of results: the figure as Format wrote it, blanks and all.
+QLabel* Celda(QWidget* padre, const QString& nombre) {
+    auto* l = new QLabel(padre);
+    l->setObjectName(nombre);
+    l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return l;
+}
+
+// A rule of a table: a line of one pixel.
+QFrame* Regla(QWidget* padre, const QString& nombre, bool vertical) {
+    auto* r = new QFrame(padre);
+    r->setObjectName(nombre);
+    r->setFrameShape(vertical ? QFrame::VLine : QFrame::HLine);
+    r->setFrameShadow(QFrame::Plain);
+    r->setLineWidth(1);
+    r->setStyleSheet(QStringLiteral("color: #808080;"));
+    return r;
+}
+
+QAction* Entrada(QMenu* menu, const char* nombre, const char* texto) {
+    QAction* a = menu->addAction(QString::fromUtf8(texto));
+    a->setObjectName(QString::fromLatin1(nombre));
+    return a;
+}
+
+QMenu* Menu(QWidget* padre, const char* nombre, const char* texto) {
+    auto* m = new QMenu(QString::fromUtf8(texto), padre);
+    m->setObjectName(QString::fromLatin1(nombre));
+    m->menuAction()->setObjectName(QString::fromLatin1(nombre));
+    return m;
+}
+
+// The largest window of the design's proportions that the screen holds.
+QSize TamanoInicial(const QWidget* ventana) {
+    const QScreen* pantalla = ventana->screen() ? ventana->screen() : QGuiApplication::primaryScreen();
+    if (!pantalla) return {kAnchoDiseno, kAltoDiseno};
+    const QRect libre = pantalla->availableGeometry();
+    const double ancho = libre.width() * kFraccionPantalla, alto = libre.height() * kFraccionPantalla;
+    const double escala = std::min(ancho / kAnchoDiseno, alto / kAltoDiseno);
+    return {qRound(kAnchoDiseno * escala), qRound(kAltoDiseno * escala)};
+}
+
+}  // namespace
+
+frmFase1::frmFase1(Estado& e, Dialogos* dlg, QSize tamano, QWidget* padre)
+    : QMainWindow(padre),
+      e_(e),
+      dlgPropios_(dlg ? nullptr : std::make_unique<DialogosQt>(this)),
+      dlg_(dlg ? dlg : dlgPropios_.get()),
+      pct1_(new SuperficieQt(nullptr, kFondoBlanco)),
+      pct2_(new SuperficieQt(nullptr, kFondoBlanco)),
+      pct3_(new SuperficieQt(nullptr, kFondoBlanco)),
+      pctPV_(new SuperficieQt(nullptr, kFondoBlanco)),
+      pctTV_(new SuperficieQt(nullptr, kFondoBlanco)),
+      pctTS_(new SuperficieQt(nullptr, kFondoGris)),
+      pctHS_(new SuperficieQt(nullptr, kFondoGris)),
+      diagramas_{*pctPV_, *pctTV_, *pctTS_, *pctHS_} {
+    setObjectName(QStringLiteral("frmFase1"));
+    setWindowTitle(NombrePrograma());
+    setWindowIcon(IconoVanta());
+    CrearControles();
+    CrearMenus();
+
+    frmAireHumedad_ = new frmAireHumedad(e_, *dlg_, *pct1_, this);
+    frmCombustible_ = new frmCombustible(e_, *dlg_, *pct2_, this);
+    frmGasesCombustion_ = new frmGasesCombustion(e_, *dlg_, *pct3_, this);
+    FuentePagina fuente{[this] { return TipoCombustible(); },
+                        [this](CuadroImagen cuadro) { return Imagenes()[static_cast<size_t>(cuadro)]; }};
+    visores_ = std::make_unique<VisoresInforme>(e_, *dlg_, std::move(fuente), this);
+    frmOtto_Diesel_ = new frmOtto_Diesel(e_, *dlg_, diagramas_, *this, this);
+
+    resize(tamano.isEmpty() ? TamanoInicial(this) : tamano);
+    Form_Load();
+}
+
+frmFase1::~frmFase1() = default;
+
+// ---- Controls -------------------------------------------------------------------
+
+void frmFase1::CrearControles() {
+    central_ = new QWidget(this);
+    central_->setObjectName(QStringLiteral("centralFase1"));
+    setCentralWidget(central_);
+
+    imgPresentacion_ = new QLabel(central_);
+    imgPresentacion_->setObjectName(QStringLiteral("imgPresentacion"));
+    imgPresentacion_->setAlignment(Qt::AlignCenter);
+
+    const std::pair<SuperficieQt*, const char*> superficies[] = {
+        {pct1_, "pct1"}, {pct2_, "pct2"}, {pct3_, "pct3"}, {pctPV_, "pctPV"},
+        {pctTV_, "pctTV"}, {pctTS_, "pctTS"}, {pctHS_, "pctHS"}};
+    for (auto [s, nombre] : superficies) {
+        s->setParent(central_);
+        s->setObjectName(QString::fromLatin1(nombre));
+    }
+    connect(pctPV_, &SuperficieQt::DblClick, this, &frmFase1::pctPV_DblClick);
+    connect(pctTV_, &SuperficieQt::KeyPress, this, &frmFase1::pctTV_KeyPress);
+    connect(pctPV_, &SuperficieQt::Click, this, &frmFase1::pctPV_Click);
+    connect(pctTV_, &SuperficieQt::Click, this, &frmFase1::pctTV_Click);
+    connect(pctTS_, &SuperficieQt::Click, this, &frmFase1::pctTS_Click);
+    connect(pctHS_, &SuperficieQt::Click, this, &frmFase1::pctHS_Click);
+    connect(pctPV_, &SuperficieQt::MouseMove, this, &frmFase1::pctPV_MouseMove);
+    connect(pctTV_, &SuperficieQt::MouseMove, this, &frmFase1::pctTV_MouseMove);
+
+    fraBotonera_ = NuevoMarco(central_, "fraBotonera");
+    auto boton = [this](QWidget* padre, const char* nombre, const char* texto, void (frmFase1::*accion)()) {
+        auto* b = new QPushButton(QString::fromUtf8(texto), padre);
+        b->setObjectName(QString::fromLatin1(nombre));
+        connect(b, &QPushButton::clicked, this, accion);
+        return b;
+    };
+    cmdElegirComburente_ = boton(fraBotonera_, "cmdElegirComburente", "1- Comburente", &frmFase1::cmdElegirComburente_Click);
+    cmdCombustible_ = boton(fraBotonera_, "cmdCombustible", "2 - Combustible", &frmFase1::cmdCombustible_Click);
+    cmdCarCombustion_ = boton(fraBotonera_, "cmdCarCombustion", "3- Combustión", &frmFase1::cmdCarCombustion_Click);
+    cmdCarCiclo_ = boton(fraBotonera_, "cmdCarCiclo", "4- Ciclo", &frmFase1::cmdCarCiclo_Click);
+    cmdCombustible_->setEnabled(false);
+    cmdCarCombustion_->setEnabled(false);
+    cmdCarCiclo_->setEnabled(false);
+
+    cmdInforme_ = boton(central_, "cmdInforme", "Ver informe", &frmFase1::cmdInforme_Click);
+    cmdEnvBaseDatos_ = boton(central_, "cmdEnvBaseDatos", "Guardar en la base de datos", &frmFase1::cmdEnvBaseDatos_Click);
+    cmdInforme_->hide();
+    cmdEnvBaseDatos_->hide();
+
+    chkVerHs_ = new QCheckBox(QStringLiteral("Ver diagrama h-s"), central_);
+    chkVerHs_->setObjectName(QStringLiteral("chkVerHs"));
+    // The program's Click of a check box also runs when its value is set by
+    // code, and only on a change.
+    connect(chkVerHs_, &QCheckBox::toggled, this, &frmFase1::chkVerHs_Click);
+
+    CrearTablaPuntos();
+    CrearTablaTransformaciones();
+    CrearPotencia();
+    CrearEstadoActual();
+}
+
+void frmFase1::CrearTablaPuntos() {
+    fraPuntos_ = NuevoMarco(central_, "fraPuntos");
+    const char* cabezas[5][2] = {{"lblP", "P (Pa)"}, {"lblV", "V (c.c.)"}, {"lblT", "T (K)"},
+                                 {"lblH", "h (J/mol)"}, {"lblS", "s (J/(mol·K))"}};
+    // The cells keep the program's names: lbls1 … lbls4 in lower case, lblS5.
+    const char* celdas[5] = {"lblP%1", "lblV%1", "lblT%1", "lblH%1", "lbls%1"};
+    for (int c = 0; c < 5; ++c) {
+        cabezaPuntos_[c] = NuevaEtiqueta(fraPuntos_, cabezas[c][0], cabezas[c][1]);
+        for (int f = 0; f < 5; ++f) {
+            QString nombre = QString::fromLatin1(celdas[c]).arg(f + 1);
+            if (c == 4 && f == 4) nombre = QStringLiteral("lblS5");
+            celdaPuntos_[c][f] = Celda(fraPuntos_, nombre);
+        }
+    }
+    for (int f = 0; f < 5; ++f) {
+        filaPuntos_[f] = NuevaEtiqueta(fraPuntos_, "", "");
+        filaPuntos_[f]->setText(QString::number(f + 1));
+        filaPuntos_[f]->setObjectName(QStringLiteral("lbl%1").arg(f + 1));
+        filaPuntos_[f]->setAlignment(Qt::AlignCenter);
+        lv_[f] = Regla(fraPuntos_, QStringLiteral("lv%1").arg(f + 1), true);
+        lh_[f] = Regla(fraPuntos_, QStringLiteral("lh%1").arg(f + 1), false);
+    }
+}
+
+void frmFase1::CrearTablaTransformaciones() {
+    fraTransformaciones_ = NuevoMarco(central_, "fraTransformaciones");
+    const char* filas[5][2] = {{"lbl12", "1-2"}, {"lbl23", "2-3"}, {"lbl34", "3-4"}, {"lbl45", "4-5"}, {"lblCiclo", "Ciclo"}};
+    for (int i = 0; i < 5; ++i) filaTransformaciones_[i] = NuevaEtiqueta(fraTransformaciones_, filas[i][0], filas[i][1]);
+    const char* cabezas[5][2] = {{"Label12", "Q"}, {"Label13", "W"}, {"Label14", "n"}, {"Label23", "gamma"}, {"Label15", "Rend."}};
+    for (int i = 0; i < 5; ++i) {
+        cabezaTransformaciones_[i] = NuevaEtiqueta(fraTransformaciones_, cabezas[i][0], cabezas[i][1]);
+        cabezaTransformaciones_[i]->setAlignment(Qt::AlignCenter);
+    }
+    unidadQ_ = NuevaEtiqueta(fraTransformaciones_, "Label20", "(J)");
+    unidadW_ = NuevaEtiqueta(fraTransformaciones_, "Label22", "(J)");
+    unidadQ_->setAlignment(Qt::AlignCenter);
+    unidadW_->setAlignment(Qt::AlignCenter);
+    lblW12_ = Celda(fraTransformaciones_, QStringLiteral("lblW12"));
+    lblG12_ = Celda(fraTransformaciones_, QStringLiteral("lblG12"));
+    lblG2_ = Celda(fraTransformaciones_, QStringLiteral("lblG2"));
+    lblQ23_ = Celda(fraTransformaciones_, QStringLiteral("lblQ23"));
+    lblQ34_ = Celda(fraTransformaciones_, QStringLiteral("lblQ34"));
+    lblW34_ = Celda(fraTransformaciones_, QStringLiteral("lblW34"));
+    lblW45_ = Celda(fraTransformaciones_, QStringLiteral("lblW45"));
+    lblG45_ = Celda(fraTransformaciones_, QStringLiteral("lblG45"));
+    lblG5_ = Celda(fraTransformaciones_, QStringLiteral("lblG5"));
+    lblQciclo_ = Celda(fraTransformaciones_, QStringLiteral("lblQciclo"));
+    lblWciclo_ = Celda(fraTransformaciones_, QStringLiteral("lblWciclo"));
+    lblRen_ = Celda(fraTransformaciones_, QStringLiteral("lblRen"));
+    for (int i = 0; i < 5; ++i) lhT_[i] = Regla(fraTransformaciones_, QStringLiteral("lh%1").arg(i + 6), false);
+    for (int i = 0; i < 4; ++i) lvT_[i] = Regla(fraTransformaciones_, QStringLiteral("lv%1").arg(i + 6), true);
+}
+
+void frmFase1::CrearPotencia() {
+    fraPotencia_ = NuevoMarco(central_, "fraPotencia");
+    Label30_ = NuevaEtiqueta(fraPotencia_, "Label30", "Potencia:");
+    Label28_ = NuevaEtiqueta(fraPotencia_, "Label28", "Consumo:");
+    Label29_ = NuevaEtiqueta(fraPotencia_, "Label29", "r.p.m.");
+    Label33_ = NuevaEtiqueta(fraPotencia_, "Label33", "W");
+    Label35_ = NuevaEtiqueta(fraPotencia_, "Label35", "CV");
+    Label34_ = NuevaEtiqueta(fraPotencia_, "Label34", "c.c.");
+    Label31_ = NuevaEtiqueta(fraPotencia_, "Label31", "g / MJ");
+    Label32_ = NuevaEtiqueta(fraPotencia_, "Label32", "g / (kW·h)");
+    // The speed is the one value typed here; the others are figures.
+    txtRpm_ = NuevaCaja(fraPotencia_, "txtRpm", kTextoRpm, false);
+    txtPotencia_ = NuevaCaja(fraPotencia_, "txtPotencia", "watios", true);
+    txtPotenciaCV_ = NuevaCaja(fraPotencia_, "txtPotenciaCV", "CV", true);
+    txtCilindrada_ = NuevaCaja(fraPotencia_, "txtCilindrada", "c.c.", true);
+    txtConsumoMJ_ = NuevaCaja(fraPotencia_, "txtConsumoMJ", "g/MJ", true);
+    txtConsumoKwh_ = NuevaCaja(fraPotencia_, "txtConsumoKwh", "g/kWh", true);
+    for (QLineEdit* c : {txtRpm_, txtPotencia_, txtPotenciaCV_, txtCilindrada_, txtConsumoMJ_, txtConsumoKwh_})
+        c->setAlignment(Qt::AlignRight);
+    cajaRpm_ = std::make_unique<CajaTextoQt>(txtRpm_);
+    cajaPotencia_ = std::make_unique<CajaTextoQt>(txtPotencia_);
+    cajaPotenciaCV_ = std::make_unique<CajaTextoQt>(txtPotenciaCV_);
+    connect(txtRpm_, &QLineEdit::textChanged, this, &frmFase1::txtRpm_Change);
+    txtRpm_->installEventFilter(this);
+    txtCilindrada_->installEventFilter(this);
+}
+
+void frmFase1::CrearEstadoActual() {
+    fraEstadoActual_ = NuevoMarco(central_, "fraEstadoActual");
+    const char* nombres[5][4] = {{"p = ", "lblPmouseVal", "Pa", "lblPmouse"},
+                                 {"V = ", "lblVmouseVal", "cc", "lblVmouse"},
+                                 {"T = ", "lblTmouseVal", "K", "lblTmouse"},
+                                 {"h = ", "lblhmouseVal", "J/mol", "lblhmouse"},
+                                 {"s =", "lblSmouseVal", "J/(mol·K)", "lblSmouse"}};
+    for (int i = 0; i < 5; ++i) {
+        nombreEstado_[i] = NuevaEtiqueta(fraEstadoActual_, nombres[i][3], nombres[i][0]);
+        valorEstado_[i] = Celda(fraEstadoActual_, QString::fromLatin1(nombres[i][1]));
+        unidadEstado_[i] = NuevaEtiqueta(fraEstadoActual_, "", nombres[i][2]);
+        unidadEstado_[i]->setObjectName(QString::fromLatin1(nombres[i][3]) + QStringLiteral("Unidad"));
+    }
+    txtTransformacion_ = NuevaCaja(fraEstadoActual_, "txtTransformacion", "Transformación", true);
+    fraEstadoActual_->hide();
+}
+
+void frmFase1::CrearMenus() {
+    QMenuBar* barra = menuBar();
+    mnuArchivo_ = Menu(barra, "mnuArchivo", "&Archivo");
+    mnuNuevo_ = Entrada(mnuArchivo_, "mnuNuevo", "&Nuevo ciclo");
+    mnuAbrirBD_ = Entrada(mnuArchivo_, "mnuAbrirBD", "&Abrir  base de datos");
+    mnuAbrirInforme_ = Entrada(mnuArchivo_, "mnuAbrirInforme", "Abrir &informe");
+    mnuInforme_ = Entrada(mnuArchivo_, "mnuInforme", "&Ver informe");
+    mnuBDatos_ = Entrada(mnuArchivo_, "mnuBDatos", "Guardar en la base de &datos");
+    mnuGuardar_ = Menu(mnuArchivo_, "mnuGuardar", "&Guardar como");
+    mnuArchivo_->addMenu(mnuGuardar_);
+    mnuGuardarTexto_ = Entrada(mnuGuardar_, "mnuGuardarTexto", "&Texto");
+    mnuGuardarHTML_ = Entrada(mnuGuardar_, "mnuGuardarHTML", "&HTML (Página Web)");
+    barra->addMenu(mnuArchivo_);
+
+    mnuVer_ = Menu(barra, "mnuVer", "&Ver");
+    mnuVerTodo_ = Entrada(mnuVer_, "mnuVerTodo", "&Todos los gráficos");
+    mnuVerCiclo_ = Menu(mnuVer_, "mnuVerCiclo", "&Ampliar diagrama");
+    mnuVer_->addMenu(mnuVerCiclo_);
+    mnuPV_ = Entrada(mnuVerCiclo_, "mnuPV", "&PV");
+    mnuTV_ = Entrada(mnuVerCiclo_, "mnuTV", "&TV");
+    mnuTS_ = Entrada(mnuVerCiclo_, "mnuTS", "T&S");
+    mnuHS_ = Entrada(mnuVerCiclo_, "mnuHS", "&HS");
+    for (QAction* a : {mnuVerTodo_, mnuPV_, mnuTV_, mnuTS_, mnuHS_}) a->setCheckable(true);
+    mnuCalcular_ = Entrada(mnuVer_, "mnuCalcular", "Calcular &ciclo");
+    barra->addMenu(mnuVer_);
+
+    mnuHerramientas_ = Menu(barra, "mnuHerramientas", "&Herramientas");
+    mnuTablasActual_ = Entrada(mnuHerramientas_, "mnuTablasActual", "Tablas del aire y gases del ciclo &actual");
+    mnuTablas_ = Entrada(mnuHerramientas_, "mnuTablas", "&Tablas del aire y gases");
+    barra->addMenu(mnuHerramientas_);
+
+    mnuAyuda_ = Menu(barra, "mnuAyuda", "Ay&uda");
+    mnuAyuda2_ = Entrada(mnuAyuda_, "mnuAyuda2", "Ay&uda");
+    mnuAcercaDe_ = Entrada(mnuAyuda_, "mnuAcercaDe", "&Acerca de");
+    barra->addMenu(mnuAyuda_);
+
+    mnuInforme_->setEnabled(false);
+    mnuBDatos_->setEnabled(false);
+    mnuGuardar_->menuAction()->setEnabled(false);
+    mnuTablasActual_->setEnabled(false);
+
+    const std::pair<QAction*, void (frmFase1::*)()> acciones[] = {
+        {mnuNuevo_, &frmFase1::mnuNuevo_Click},
+        {mnuAbrirBD_, &frmFase1::mnuAbrirBD_Click},
+        {mnuAbrirInforme_, &frmFase1::mnuAbrirInforme_Click},
+        {mnuInforme_, &frmFase1::mnuInforme_Click},
+        {mnuBDatos_, &frmFase1::mnuBDatos_Click},
+        {mnuGuardarTexto_, &frmFase1::mnuGuardarTexto_Click},
+        {mnuGuardarHTML_, &frmFase1::mnuGuardarHTML_Click},
+        {mnuVerTodo_, &frmFase1::mnuVerTodo_Click},
+        {mnuPV_, &frmFase1::mnuPV_Click},
+        {mnuTV_, &frmFase1::mnuTV_Click},
+        {mnuTS_, &frmFase1::mnuTS_Click},
+        {mnuHS_, &frmFase1::mnuHS_Click},
+        {mnuCalcular_, &frmFase1::mnuCalcular_Click},
+        {mnuTablasActual_, &frmFase1::mnuTablasActual_Click},
+        {mnuTablas_, &frmFase1::mnuTablas_Click},
+        {mnuAyuda2_, &frmFase1::mnuAyuda2_Click},
+        {mnuAcercaDe_, &frmFase1::mnuAcercaDe_Click}};
+    for (auto [accion, metodo] : acciones) connect(accion, &QAction::triggered, this, metodo);
+}
+
+// ---- Load and workflow ---------------------------------------------------------------
+
+void frmFase1::Form_Load() {
+    GuardarColoresDiagramas(e_);
+    PonerGraficosTodos();
+    LugaresIniciales();
+    for (QWidget* w : std::initializer_list<QWidget*>{fraPotencia_, fraPuntos_, fraTransformaciones_, pct1_, pct2_,
+                                                       pct3_, pctPV_, pctTV_, pctTS_})
+        w->hide();
+    mnuVerCiclo_->menuAction()->setEnabled(false);
+    mnuVerTodo_->setEnabled(false);
+    mnuCalcular_->setEnabled(false);
+    imgPresentacion_->show();
+    imgPresentacion_->raise();
+    fraBotonera_->raise();
+}
+
+void frmFase1::Ocultabotones(bool b1, bool b2, bool b3, bool b4, bool b5, bool b6) {
+    imgPresentacion_->hide();
+    cmdElegirComburente_->setEnabled(b1);
+    cmdCombustible_->setEnabled(b2);
+    cmdCarCombustion_->setEnabled(b3);
+    cmdCarCiclo_->setEnabled(b4);
+    cmdEnvBaseDatos_->setVisible(b5);
+    cmdInforme_->setVisible(b6);
+    mnuBDatos_->setEnabled(b5);
+    mnuInforme_->setEnabled(b6);
+    mnuTablasActual_->setEnabled(b4);
+    fraPuntos_->setVisible(b5);
+    fraTransformaciones_->setVisible(b5);
+    fraEstadoActual_->setVisible(b5);
+    mnuCalcular_->setEnabled(b4);
+    mnuVerTodo_->setEnabled(b5);
+    mnuVerCiclo_->menuAction()->setEnabled(b5);
+    pct2_->setVisible(b3);
+    pct3_->setVisible(b4);
+    pctTV_->setVisible(b5);
+    pctPV_->setVisible(b5);
+    pctTS_->setVisible(b5);
+    mnuGuardar_->menuAction()->setEnabled(b5);
+    fraPotencia_->setVisible(b5);
+}
+
+std::string frmFase1::TipoCombustible() const { return frmCombustible_->TipoCombustible(); }
+
+void frmFase1::PonerInforme(const std::string& texto) {
+    txtInformeF1_ = texto;
+    visores_->PonerInformeTexto(texto);
+}
+
+void frmFase1::MostrarResultados(const TextosResultados& t) {
+    for (int i = 0; i < 5; ++i) {
+        celdaPuntos_[0][i]->setText(ATexto(t.lblP[i]));
+        celdaPuntos_[1][i]->setText(ATexto(t.lblV[i]));
+        celdaPuntos_[2][i]->setText(ATexto(t.lblT[i]));
+        celdaPuntos_[3][i]->setText(ATexto(t.lblH[i]));
+        celdaPuntos_[4][i]->setText(ATexto(t.lblS[i]));
+    }
+    lblW12_->setText(ATexto(t.lblW12));
+    lblW34_->setText(ATexto(t.lblW34));
+    lblW45_->setText(ATexto(t.lblW45));
+    lblQ23_->setText(ATexto(t.lblQ23));
+    lblQ34_->setText(ATexto(t.lblQ34));
+    lblWciclo_->setText(ATexto(t.lblWciclo));
+    lblQciclo_->setText(ATexto(t.lblQciclo));
+    lblRen_->setText(ATexto(t.lblRen));
+    lblG12_->setText(ATexto(t.lblG12));
+    lblG2_->setText(ATexto(t.lblG2));
+    lblG45_->setText(ATexto(t.lblG45));
+    lblG5_->setText(ATexto(t.lblG5));
+    txtConsumoMJ_->setText(ATexto(t.txtConsumoMJ));
+    txtConsumoKwh_->setText(ATexto(t.txtConsumoKwh));
+    txtCilindrada_->setText(ATexto(t.txtCilindrada));
+}
+
+void frmFase1::MostrarModal(QDialog& ventana) {
+    if (mostrarModal_) {
+        mostrarModal_(ventana);
+        return;
+    }
+    ventana.exec();
+}
+
+// ---- Events ------------------------------------------------------------------------
+
+void frmFase1::cmdElegirComburente_Click() {
+    PonerGraficosTodos();
+    pct1_->show();
+    Ocultabotones(true, true, false, false, false, false);
+    MostrarModal(*frmAireHumedad_);
+}
+
+void frmFase1::cmdCombustible_Click() {
+    Ocultabotones(true, true, true, false, false, false);
+    MostrarModal(*frmCombustible_);
+}
+
+void frmFase1::cmdCarCombustion_Click() {
+    Ocultabotones(false, true, true, true, false, false);
+    MostrarModal(*frmGasesCombustion_);
+}
+
+void frmFase1::cmdCarCiclo_Click() { MostrarModal(*frmOtto_Diesel_); }
+
+// The report window comes with the reports.
+void frmFase1::cmdInforme_Click() { visores_->VerInforme(txtInformeF1_); }
+
+std::array<QImage, 7> frmFase1::Imagenes() const {
+    return {pct1_->Imagen(),  pct2_->Imagen(),  pct3_->Imagen(), pctPV_->Imagen(),
+            pctTV_->Imagen(), pctTS_->Imagen(), pctHS_->Imagen()};
+}
+
+frmBaseDatos& frmFase1::BaseDatos() {
+    if (!frmBaseDatos_) frmBaseDatos_ = std::make_unique<frmBaseDatos>(*dlg_, [this] { return txtInformeF1_; }, this);
+    return *frmBaseDatos_;
+}
+
+void frmFase1::cmdEnvBaseDatos_Click() {
+    GuardarBaseDatos(e_, *dlg_, TipoCombustible(), visores_->rthInforme(), Imagenes(), BaseDatos());
+}
+
+void frmFase1::chkVerHs_Click() { pctHS_->setVisible(chkVerHs_->isChecked()); }
+
+void frmFase1::pctPV_DblClick() {
+    if (cmdCarCiclo_->isEnabled())
+        MostrarModal(*frmOtto_Diesel_);
+    else
+        dlg_->MsgBox(kMensajeFaltanEtapas);
+}
+
+void frmFase1::pctTV_KeyPress(int) {
+    if (cmdCarCiclo_->isEnabled()) MostrarModal(*frmOtto_Diesel_);
+}
+
+void frmFase1::txtCilindrada_Click() { MostrarModal(*frmOtto_Diesel_); }
+
+void frmFase1::txtRpm_Change() { vanta::txtRpm_Change(e_, *dlg_, *cajaRpm_, *cajaPotencia_, *cajaPotenciaCV_); }
+
+void frmFase1::txtRpm_Click() {
+    if (txtRpm_->text() == QLatin1String(kTextoRpm)) txtRpm_->clear();
+}
+
+// Enlarging a diagram by a click comes with the enlarged views.
+void frmFase1::pctPV_Click() { ClickDiagrama(DiagramaAmpliable::PV); }
+void frmFase1::pctTV_Click() { ClickDiagrama(DiagramaAmpliable::TV); }
+void frmFase1::pctTS_Click() { ClickDiagrama(DiagramaAmpliable::TS); }
+void frmFase1::pctHS_Click() { ClickDiagrama(DiagramaAmpliable::HS); }
+
+void frmFase1::CalcularCicloActual() { frmOtto_Diesel_->cmdCal_Click(); }
+
+void frmFase1::ClickDiagrama(DiagramaAmpliable d) {
+    if (cmdCarCiclo_->isEnabled()) CalcularCicloActual();
+    PonerGraficos(d);
+}
+
+void frmFase1::MenuDiagrama(DiagramaAmpliable d, QAction* entrada) {
+    PonerGraficos(d);
+    for (QAction* a : {mnuPV_, mnuTV_, mnuTS_, mnuHS_, mnuVerTodo_}) a->setChecked(a == entrada);
+}
+
+// The readout of the state under the pointer; only while a cycle is on show
+// (the button of the report is not hidden).
+void frmFase1::pctPV_MouseMove(int, int, float x, float y) {
+    vanta::pctPV_MouseMove(e_, *dlg_, diagramas_, !cmdInforme_->isHidden(), x, y, lectura_);
+    MostrarLectura();
+}
+
+void frmFase1::pctTV_MouseMove(int, int, float x, float y) {
+    vanta::pctTV_MouseMove(e_, *dlg_, diagramas_, !cmdInforme_->isHidden(), x, y, lectura_);
+    MostrarLectura();
+}
+
+void frmFase1::MostrarLectura() {
+    const std::string* valores[5] = {&lectura_.lblPmouseVal, &lectura_.lblVmouseVal, &lectura_.lblTmouseVal,
+                                     &lectura_.lblhmouseVal, &lectura_.lblSmouseVal};
+    for (int i = 0; i < 5; ++i) valorEstado_[i]->setText(ATexto(*valores[i]));
+    // A name longer than the box shows its beginning, and whole as a tip.
+    txtTransformacion_->setText(ATexto(lectura_.txtTransformacion));
+    txtTransformacion_->setCursorPosition(0);
+    txtTransformacion_->setToolTip(txtTransformacion_->text());
+}
+
+bool frmFase1::eventFilter(QObject* objeto, QEvent* evento) {
+    if (evento->type() == QEvent::MouseButtonRelease) {
+        if (objeto == txtRpm_) txtRpm_Click();
+        if (objeto == txtCilindrada_) txtCilindrada_Click();
+    }
+    return QMainWindow::eventFilter(objeto, evento);
+}
+
+// ---- Menus ----------------------------------------------------------------------------
+
+void frmFase1::mnuNuevo_Click() {
+    pct1_->show();
+    Ocultabotones(true, true, false, false, false, false);
+    MostrarModal(*frmAireHumedad_);
+}
+
+void frmFase1::mnuAbrirBD_Click() { BaseDatos().MostrarNoModal(); }
+void frmFase1::mnuAbrirInforme_Click() { visores_->AbrirInforme(); }
+void frmFase1::mnuInforme_Click() { cmdInforme_Click(); }
+void frmFase1::mnuBDatos_Click() { cmdEnvBaseDatos_Click(); }
+void frmFase1::mnuGuardarTexto_Click() { visores_->GuardarTexto(this); }
+void frmFase1::mnuGuardarHTML_Click() { visores_->GuardarPaginaWeb(this, kDialogoPaginaPrincipal); }
+
+void frmFase1::mnuVerTodo_Click() {
+    PonerGraficosTodos();
+    mnuVerTodo_->setChecked(true);
+    for (QAction* a : {mnuPV_, mnuTV_, mnuTS_, mnuHS_}) a->setChecked(false);
+}
+
+void frmFase1::mnuPV_Click() { MenuDiagrama(DiagramaAmpliable::PV, mnuPV_); }
+void frmFase1::mnuTV_Click() { MenuDiagrama(DiagramaAmpliable::TV, mnuTV_); }
+void frmFase1::mnuTS_Click() { MenuDiagrama(DiagramaAmpliable::TS, mnuTS_); }
+void frmFase1::mnuHS_Click() { MenuDiagrama(DiagramaAmpliable::HS, mnuHS_); }
+
+void frmFase1::mnuCalcular_Click() { MostrarModal(*frmOtto_Diesel_); }
+
+frmHerramientas& frmFase1::Herramientas() {
+    if (!frmHerramientas_) {
+        EnlacesHerramientas enlaces{
+            [this] { MostrarModal(*frmAireHumedad_); },
+            [this] { MostrarModal(*frmCombustible_); },
+            [this] {
+                frmGasesCombustion_->show();
+                frmGasesCombustion_->raise();
+            },
+            [this] { return TipoCombustible(); },
+        };
+        frmHerramientas_ = std::make_unique<frmHerramientas>(e_, *dlg_, std::move(enlaces), this);
+    }
+    return *frmHerramientas_;
+}
+
+void frmFase1::mnuTablasActual_Click() { Herramientas().MostrarCicloActual(); }
+
+void frmFase1::mnuTablas_Click() {
+    Ocultabotones(true, false, false, false, false, false);
+    Herramientas().MostrarParaDefinir();
+}
+
+void frmFase1::mnuAyuda2_Click() { AbrirAyuda(); }
+
+void frmFase1::mnuAcercaDe_Click() { MostrarAcercaDe(this); }
+
+void frmFase1::AbrirAyuda() {
+    // No test that the pages are there: the browser shows what it finds.
+    QDesktopServices::openUrl(QUrl::fromLocalFile(RutaAyuda()));
+}
+
+}  // namespace vanta

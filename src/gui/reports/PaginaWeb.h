@@ -1,0 +1,48 @@
+// Writing a saved page: the page itself and, beside it, the seven pictures of
+// the main window as Windows bitmaps at the pictures' size.
+//
+// The page names its pictures with an upper-case extension ("BMPAIRE.BMP").
+// The bitmaps are written under exactly those names, so that the page finds
+// them on a file system that tells the cases apart; on one that does not, the
+// names are the same file as "BMPAIRE.bmp".
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <array>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "core/reports/Informes.h"
+#include "core/state/Estado.h"
+
+namespace vanta {
+
+// The seven pictures, in the order of kImagenesPagina.
+using ImagenesPagina = std::array<QImage, kImagenesPagina.size()>;
+
+// The seven pictures taken from their boxes.
+ImagenesPagina ImagenesDe(const std::function<QImage(CuadroImagen)>& imagen);
+
+// The file a picture is written to in a folder: the name the page uses.
+QString ArchivoImagenEn(const QString& carpeta, const ImagenPagina& imagen);
+
+// Writes the seven bitmaps into the folder, in order, each as a whole file
+// (never half-written under its name). Stops at the first that fails and
+// returns false; what was written stays. A picture with no pixels is written
+// as one white pixel, so that the page still finds a picture.
+bool EscribirImagenesPagina(const QString& carpeta, const ImagenesPagina& imagenes);
+
+// Writes the page to the file (whole, never half-written under its name) and
+// then its seven bitmaps into the same folder. False at the first failure;
+// what was written stays.
+bool EscribirPaginaWeb(const QString& archivo, std::string_view pagina, const ImagenesPagina& imagenes);
+
+// The page of a calculated cycle and its seven bitmaps in a folder (made when
+// missing), the page under the main window's name for it, "Index.htm".
+// tipoCombustible: the text of the fuel list. False when anything fails.
+bool EscribirPaginaEnCarpeta(const QString& carpeta, const Estado& e, std::string_view tipoCombustible,
+                             const ImagenesPagina& imagenes);
+
+}  // namespace vanta

@@ -1,0 +1,75 @@
+#include "gui/reports/VisoresInforme.h"
+
+#include <QPrinter>
+#include <QWidget>
+
+#include "gui/reports/PaginaWeb.h"
+#include "gui/reports/frmInforme.h"
+#include "gui/reports/frmMostrar.h"
+
+namespace vanta {
+
+VisoresInforme::VisoresInforme(Estado& e, Dialogos& dlg, FuentePagina fuente, QWidget* padre,
+                               DialogosArchivo* archivos)
+    : e_(e), dlg_(dlg), fuente_(std::move(fuente)), padre_(padre) {
+    if (!archivos) {
+        archivosPropios_ = std::make_unique<DialogosArchivoQt>();
+        archivos = archivosPropios_.get();
+    }
+    archivos_ = archivos;
+}
+
+VisoresInforme::~VisoresInforme() {
+    delete frmInforme_.data();
+    delete frmMostrar_.data();
+}
+
+frmInforme* VisoresInforme::Informe() {
+    if (!frmInforme_) frmInforme_ = new frmInforme(*this, padre_);
+    return frmInforme_;
+}
+
+frmMostrar* VisoresInforme::Mostrar() {
+    if (!frmMostrar_) frmMostrar_ = new frmMostrar(*this, padre_);
+    return frmMostrar_;
+}
+
+void VisoresInforme::VerInforme(const std::string& txtInformeF1) {
+    frmInforme* ventana = Informe();
+    ventana->PonerTexto(txtInformeF1);
+    rthInforme_ = txtInformeF1;
+    ventana->show();
+    ventana->raise();
+}
+
+void VisoresInforme::AbrirInforme() {
+    frmMostrar* ventana = Mostrar();
+    ventana->show();
+    ventana->raise();
+}
+
+void VisoresInforme::GuardarTexto(QWidget* ventana) {
+    const QString nombre = archivos_->Guardar(ventana, kDialogoTexto);
+    if (nombre.isEmpty()) return;
+    EscribirArchivoEntero(RutaArchivo(nombre), BytesInformeTexto(rthInforme_));
+}
+
+void VisoresInforme::GuardarPaginaWeb(QWidget* ventana, const DialogoArchivo& dialogo) {
+    rthHTML_ = HTMLInforme(e_, fuente_.tipoCombustible ? fuente_.tipoCombustible() : std::string());
+    dlg_.MsgBox(kConsejoCarpetaNueva);
+    const QString nombre = archivos_->Guardar(ventana, dialogo);
+    if (nombre.isEmpty()) return;
+    // The pictures are read as the boxes stand now, after the dialog.
+    const ImagenesPagina imagenes =
+        ImagenesDe([this](CuadroImagen c) { return fuente_.imagen ? fuente_.imagen(c) : QImage(); });
+    if (EscribirPaginaWeb(nombre, rthHTML_, imagenes)) archivoPagina_ = nombre;
+}
+
+void VisoresInforme::Imprimir(QWidget* ventana, const QString& texto, const QString& seleccion) {
+    if (!impresora_) impresora_ = std::make_unique<QPrinter>();
+    if (!archivos_->ElegirImpresora(ventana, *impresora_, !seleccion.isEmpty())) return;
+    const bool soloSeleccion = !seleccion.isEmpty() && impresora_->printRange() == QPrinter::Selection;
+    ImprimirTexto(*impresora_, soloSeleccion ? seleccion : texto);
+}
+
+}  // namespace vanta

@@ -1,0 +1,224 @@
+#include "gui/tables/frmHerramientas.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "gui/services/Controles.h"
+#include "core/properties/Especies.h"
+#include "gui/services/PuertosQt.h"
+#include "gui/tables/frmTablas.h"
+
+namespace vanta {
+
+namespace {
+
+// The species list as the tables read it: the text shown, chosen or typed.
+class CajaElementoQt : public CajaTexto {
+public:
+    explicit CajaElementoQt(QComboBox* lista) : lista_(lista) {}
+    std::string Text() const override { return lista_->currentText().toStdString(); }
+    void SetText(std::string_view texto) override { lista_->setEditText(ATexto(texto)); }
+    void SetFocus() override { lista_->setFocus(); }
+    void SetSelStart(int) override {}
+
+private:
+    QComboBox* lista_;
+};
+
+}  // namespace
+
+// The controls as the tables see them.
+struct frmHerramientas::Puertos {
+    explicit Puertos(frmHerramientas& f)
+        : txtAT(f.txtAT_),
+          txtTinicial(f.txtTinicial_),
+          txtTfinal(f.txtTfinal_),
+          optMol(f.optMol_),
+          optKg(f.optKg_),
+          optAire(f.optAire_),
+          optHumos(f.optHumos_),
+          cboElemento(f.cboElemento_) {}
+    CajaTextoQt txtAT, txtTinicial, txtTfinal;
+    InterruptorQt optMol, optKg, optAire, optHumos;
+    CajaElementoQt cboElemento;
+    ControlesHerramientas controles{txtAT, txtTinicial, txtTfinal, optMol,
+                                    optKg, optAire,     optHumos,  cboElemento};
+};
+
+frmHerramientas::frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas enlaces, QWidget* padre,
+                                 DialogosArchivo* archivos)
+    : QWidget(padre, Qt::Window),
+      e_(e),
+      dlg_(dlg),
+      enlaces_(std::move(enlaces)),
+      optMol_(NuevaOpcion(this, "optMol", "por mol")),
+      optKg_(NuevaOpcion(this, "optKg", "Por kg")),
+      txtAT_(NuevaCaja(this, "txtAT", kTextoIncremento)),
+      txtTinicial_(NuevaCaja(this, "txtTinicial", kTextoTinicial)),
+      txtTfinal_(NuevaCaja(this, "txtTfinal", kTextoTfinal)),
+      Frame2_(NuevoMarco(this, "Frame2")),
+      cboElemento_(new QComboBox(Frame2_)),
+      cmdTab_(NuevoBoton(Frame2_, "cmdTab", "TABLAS")),
+      Frame1_(NuevoMarco(this, "Frame1")),
+      optAire_(NuevaOpcion(Frame1_, "optAire", "Aire")),
+      optHumos_(NuevaOpcion(Frame1_, "optHumos", "Gases de combustión")),
+      cmdComburente_(NuevoBoton(Frame1_, "cmdComburente", "Comburente")),
+      cmdCombustible_(NuevoBoton(Frame1_, "cmdCombustible", "Combustible")),
+      cmdCombustion_(NuevoBoton(Frame1_, "cmdCombustion", "Combustión")),
+      cmdTablas_(NuevoBoton(Frame1_, "cmdTablas", "TABLAS")),
+      frmTablas_(new frmTablas(this, archivos)) {
+    setObjectName(QStringLiteral("frmHerramientas"));
+    setWindowTitle(QString::fromUtf8(kTituloHerramientas));
+    optMol_->setChecked(true);
+    optAire_->setChecked(true);
+
+    cboElemento_->setObjectName(QStringLiteral("cboElemento"));
+    cboElemento_->setEditable(true);
+    cboElemento_->setInsertPolicy(QComboBox::NoInsert);
+    for (const char* especie : kNombresEspecies) cboElemento_->addItem(QString::fromLatin1(especie));
+    cboElemento_->setCurrentIndex(-1);
+    cboElemento_->setEditText(QString::fromUtf8(kTextoElegir));
+
+    // The fluid is defined through these buttons only when the main window
+    // shows them; TABLAS waits for a fluid.
+    for (QPushButton* b : {cmdComburente_, cmdCombustible_, cmdCombustion_}) b->setVisible(false);
+    PonerBotones(true, false, false, false);
+
+    // The range and the units.
+    auto* rango = new QGridLayout;
+    int fila = 0;
+    for (auto [texto, caja] :
+         {std::pair{"Incremento de temperatura", txtAT_}, std::pair{"Temperatura inicial", txtTinicial_},
+          std::pair{"Temperatura final", txtTfinal_}}) {
+        rango->addWidget(NuevaEtiqueta(this, "", texto), fila, 0);
+        rango->addWidget(caja, fila, 1);
+        rango->addWidget(NuevaEtiqueta(this, "", "K"), fila, 2);
+        ++fila;
+    }
+    auto* unidades = new QHBoxLayout;
+    unidades->addWidget(NuevaEtiqueta(this, "", "Resultados:"));
+    unidades->addWidget(optMol_);
+    unidades->addWidget(optKg_);
+    unidades->addStretch();
+
+    auto* especie = new QHBoxLayout(Frame2_);
+    especie->addWidget(NuevaEtiqueta(Frame2_, "", "Propiedades del"));
+    especie->addWidget(cboElemento_, 1);
+    especie->addWidget(cmdTab_);
+
+    auto* mezcla = new QGridLayout(Frame1_);
+    mezcla->addWidget(optAire_, 0, 0);
+    mezcla->addWidget(optHumos_, 1, 0);
+    mezcla->addWidget(cmdComburente_, 0, 1);
+    mezcla->addWidget(cmdCombustible_, 1, 1);
+    mezcla->addWidget(cmdCombustion_, 2, 1);
+    mezcla->addWidget(cmdTablas_, 3, 0, 1, 2);
+
+    auto* columna = new QVBoxLayout(this);
+    columna->addLayout(unidades);
+    columna->addLayout(rango);
+    columna->addWidget(Frame2_);
+    columna->addWidget(Frame1_);
+
+    puertos_ = std::make_unique<Puertos>(*this);
+
+    connect(cmdComburente_, &QPushButton::clicked, this, &frmHerramientas::cmdComburente_Click);
+    connect(cmdCombustible_, &QPushButton::clicked, this, &frmHerramientas::cmdCombustible_Click);
+    connect(cmdCombustion_, &QPushButton::clicked, this, &frmHerramientas::cmdCombustion_Click);
+    connect(optAire_, &QRadioButton::clicked, this, &frmHerramientas::optAire_Click);
+    connect(optHumos_, &QRadioButton::clicked, this, &frmHerramientas::optHumos_Click);
+    connect(cmdTablas_, &QPushButton::clicked, this, &frmHerramientas::cmdTablas_Click);
+    connect(cmdTab_, &QPushButton::clicked, this, &frmHerramientas::cmdTab_Click);
+}
+
+frmHerramientas::~frmHerramientas() = default;
+
+void frmHerramientas::MostrarParaDefinir() {
+    show();
+    raise();
+    activateWindow();
+    for (QPushButton* b : {cmdComburente_, cmdCombustible_, cmdCombustion_}) b->setVisible(true);
+}
+
+void frmHerramientas::MostrarCicloActual() {
+    show();
+    raise();
+    activateWindow();
+    MostrarBotonesTablas(false, false, false, true);
+    e_.TablaAireDisponible = Verdadero;
+    e_.TablaHumosDisponible = Verdadero;
+}
+
+void frmHerramientas::MostrarBotonesTablas(bool a, bool, bool c, bool d) {
+    cmdComburente_->setVisible(a);
+    cmdCombustible_->setVisible(a);
+    cmdCombustion_->setVisible(c);
+    cmdTablas_->setEnabled(d);
+}
+
+void frmHerramientas::PonerBotones(bool, bool combustible, bool combustion, bool tablas) {
+    cmdCombustible_->setEnabled(combustible);
+    cmdCombustion_->setEnabled(combustion);
+    cmdTablas_->setEnabled(tablas);
+}
+
+void frmHerramientas::cmdComburente_Click() {
+    e_.TablaAireDisponible = Verdadero;
+    e_.TablaHumosDisponible = Falso;
+    PonerBotones(true, true, false, optAire_->isChecked());
+    if (enlaces_.comburente) enlaces_.comburente();
+}
+
+void frmHerramientas::cmdCombustible_Click() {
+    e_.TablaAireDisponible = Verdadero;
+    e_.TablaHumosDisponible = Falso;
+    PonerBotones(true, true, true, optAire_->isChecked());
+    if (enlaces_.combustible) enlaces_.combustible();
+}
+
+void frmHerramientas::cmdCombustion_Click() {
+    e_.TablaAireDisponible = Verdadero;
+    e_.TablaHumosDisponible = Verdadero;
+    PonerBotones(true, true, true, true);
+    if (enlaces_.combustion) enlaces_.combustion();
+}
+
+// An option never disables TABLAS: it only enables it for a fluid defined.
+void frmHerramientas::optAire_Click() {
+    cmdTablas_->setEnabled(cmdTablas_->isEnabled() || e_.TablaAireDisponible);
+}
+
+void frmHerramientas::optHumos_Click() {
+    cmdTablas_->setEnabled(cmdTablas_->isEnabled() || e_.TablaHumosDisponible);
+}
+
+template <class F>
+void frmHerramientas::HacerTabla(F&& tabla) {
+    // The viewer lets the events through while it grows: a second press in
+    // the meantime waits for the first table to end.
+    if (ocupada_) return;
+    ocupada_ = true;
+    tabla();
+    frmTablas_->Vaciar();
+    ocupada_ = false;
+}
+
+void frmHerramientas::cmdTablas_Click() {
+    HacerTabla([this] {
+        const std::string combustible = enlaces_.tipoCombustible ? enlaces_.tipoCombustible() : std::string();
+        vanta::cmdTablas_Click(e_, dlg_, puertos_->controles, miembros_, *frmTablas_, combustible);
+    });
+}
+
+void frmHerramientas::cmdTab_Click() {
+    HacerTabla([this] { vanta::cmdTab_Click(e_, dlg_, puertos_->controles, miembros_, *frmTablas_); });
+}
+
+}  // namespace vanta

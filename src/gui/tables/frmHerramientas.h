@@ -1,0 +1,98 @@
+// The window "Tablas del aire seco o húmedo y Gases de combustión": the range
+// of temperatures, per mole or per kilogram, a species or the mixture, and the
+// three buttons with which the user defines the fluid in the tool itself. The
+// tables appear in frmTablas.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "core/services/Puertos.h"
+#include "core/state/Estado.h"
+#include "core/tables/TablasPropiedades.h"
+
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace vanta {
+
+class DialogosArchivo;
+class frmTablas;
+
+// What the tool asks of the main window, which owns the stage windows.
+struct EnlacesHerramientas {
+    std::function<void()> comburente;              // shows frmAireHumedad, modal
+    std::function<void()> combustible;             // shows frmCombustible, modal
+    std::function<void()> combustion;              // shows frmGasesCombustion, not modal
+    std::function<std::string()> tipoCombustible;  // the text of the fuel list, cboTipCom
+};
+
+class frmHerramientas : public QWidget {
+    Q_OBJECT
+
+public:
+    // archivos: the viewer's file and printer dialogs; the platform's when null.
+    frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas enlaces, QWidget* padre = nullptr,
+                    DialogosArchivo* archivos = nullptr);
+    ~frmHerramientas() override;
+
+    // ---- What the main window calls ----
+    // "Tablas del aire y gases": shown, with the three buttons that define the
+    // fluid visible.
+    void MostrarParaDefinir();
+    // "Tablas del aire y gases del ciclo actual": shown for the fluid of the
+    // current calculation, the definition buttons hidden, TABLAS enabled and
+    // both fluids counted as defined.
+    void MostrarCicloActual();
+    // Visible of cmdComburente and cmdCombustible = a, of cmdCombustion = c;
+    // Enabled of cmdTablas = d. The second is passed and ignored.
+    void MostrarBotonesTablas(bool a, bool sinUso, bool c, bool d);
+
+    // Enabled of cmdCombustible, cmdCombustion and cmdTablas from the last
+    // three; the first has no effect.
+    void PonerBotones(bool comburente, bool combustible, bool combustion, bool tablas);
+
+    frmTablas* Tablas() const { return frmTablas_; }
+    // Whether a table is being made now.
+    bool Ocupada() const { return ocupada_; }
+
+public slots:
+    void cmdComburente_Click();
+    void cmdCombustible_Click();
+    void cmdCombustion_Click();
+    void optAire_Click();
+    void optHumos_Click();
+    void cmdTablas_Click();
+    void cmdTab_Click();
+
+private:
+    template <class F>
+    void HacerTabla(F&& tabla);
+
+    Estado& e_;
+    Dialogos& dlg_;
+    EnlacesHerramientas enlaces_;
+    MiembrosHerramientas miembros_;
+    bool ocupada_ = false;
+
+    QRadioButton *optMol_, *optKg_;
+    QLineEdit *txtAT_, *txtTinicial_, *txtTfinal_;
+    QGroupBox* Frame2_;
+    QComboBox* cboElemento_;
+    QPushButton* cmdTab_;
+    QGroupBox* Frame1_;
+    QRadioButton *optAire_, *optHumos_;
+    QPushButton *cmdComburente_, *cmdCombustible_, *cmdCombustion_, *cmdTablas_;
+
+    frmTablas* frmTablas_;
+    struct Puertos;
+    std::unique_ptr<Puertos> puertos_;
+};
+
+}  // namespace vanta

@@ -1,4 +1,0 @@
-list(APPEND VANTA_CORE_SOURCES
-  ${CMAKE_CURRENT_LIST_DIR}/Especies.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/Mezclas.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/Busquedas.cpp)

@@ -1,4 +1,0 @@
-list(APPEND VANTA_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/TablasPropiedades.cpp)
-list(APPEND VANTA_GUI_SOURCES
-  ${CMAKE_CURRENT_LIST_DIR}/frmTablas.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/frmHerramientas.cpp)
