@@ -43,8 +43,10 @@ const QTemporaryDir& Carpeta() {
             .exec(QStringLiteral("PRAGMA synchronous = OFF"));
         for (int i = 0; i < kRegistros; ++i) {
             const pruebas::Calculo& c = calculos[static_cast<size_t>(i % 3)];
-            const auto textos = bd::ValoresRegistro(c.e, "registro " + std::to_string(i), c.combustible, c.informe);
-            if (!almacen.Insertar(textos, ImagenesDeColumnas(c.imagenes))) qFatal("%s", almacen.Error().c_str());
+            const auto textos =
+                bd::ValoresRegistro(c.e, "registro " + std::to_string(i), c.combustible, c.informe);
+            if (!almacen.Insertar(textos, ImagenesDeColumnas(c.imagenes)))
+                qFatal("%s", almacen.Error().c_str());
         }
         return true;
     }();
@@ -53,7 +55,8 @@ const QTemporaryDir& Carpeta() {
 }
 
 double BytesPorRegistro() {
-    return static_cast<double>(QFileInfo(Carpeta().filePath(QStringLiteral("BD.sqlite"))).size()) / kRegistros;
+    return static_cast<double>(QFileInfo(Carpeta().filePath(QStringLiteral("BD.sqlite"))).size()) /
+           kRegistros;
 }
 
 void BM_AbrirNavegador(benchmark::State& estado) {

@@ -19,8 +19,8 @@ Estado Calculado(const char* modelo) {
     DiagramasNulos d;
     cli::SuperficiesCalculo s{a, b, c, d.Todos()};
     std::ostringstream out;
-    cli::EjecutarCalcular(e, *cli::ParsearCalcular({"--compresion", modelo, "--expansion", modelo}).opciones, dlg, s,
-                          out);
+    cli::EjecutarCalcular(e, *cli::ParsearCalcular({"--compresion", modelo, "--expansion", modelo}).opciones,
+                          dlg, s, out);
     return e;
 }
 
@@ -43,6 +43,4 @@ void Movimiento(benchmark::State& estado) {
 
 }  // namespace
 
-BENCHMARK(Movimiento)
-    ->ArgsProduct({{0, 1, 2}, {-100, 5, 500, 995, 1100}})
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(Movimiento)->ArgsProduct({{0, 1, 2}, {-100, 5, 500, 995, 1100}})->Unit(benchmark::kMicrosecond);

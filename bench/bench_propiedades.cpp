@@ -31,7 +31,9 @@ void Barrido(benchmark::State& estado) {
     }
 }
 
-void CalcularEspeciesSolo(Estado& e, Dialogos& dlg) { CalcularEspecies(e, dlg); }
+void CalcularEspeciesSolo(Estado& e, Dialogos& dlg) {
+    CalcularEspecies(e, dlg);
+}
 
 }  // namespace
 

@@ -68,7 +68,9 @@ std::vector<std::string> Separar(const std::string& lista) {
     return campos;
 }
 
-size_t Campos(const std::string& lista) { return Separar(lista).size(); }
+size_t Campos(const std::string& lista) {
+    return Separar(lista).size();
+}
 
 std::string NombresCombustibles() {
     std::string nombres;
@@ -82,8 +84,10 @@ std::string Comprobar(const OpcionesCalcular& o) {
     const std::set<std::string> modelos{"medio", "politropica", "variable"};
     if (o.Tiene("ciclo") && !ciclos.count(o.Valor("ciclo"))) return "ciclo desconocido: " + o.Valor("ciclo");
     for (const char* m : {"compresion", "expansion"})
-        if (o.Tiene(m) && !modelos.count(o.Valor(m))) return std::string("modelo de ") + m + " desconocido: " + o.Valor(m);
-    if (o.Tiene("formula") && Campos(o.Valor("formula")) != 5) return "--formula lleva cinco números: C,H,N,O,S";
+        if (o.Tiene(m) && !modelos.count(o.Valor(m)))
+            return std::string("modelo de ") + m + " desconocido: " + o.Valor(m);
+    if (o.Tiene("formula") && Campos(o.Valor("formula")) != 5)
+        return "--formula lleva cinco números: C,H,N,O,S";
     if (o.Tiene("masa") && Campos(o.Valor("masa")) != 4) return "--masa lleva cuatro porcentajes: C,N,O,S";
     const int definiciones = o.Tiene("combustible") + o.Tiene("formula") + o.Tiene("masa");
     if (definiciones > 1) return "--combustible, --formula y --masa se excluyen entre sí";
@@ -92,9 +96,11 @@ std::string Comprobar(const OpcionesCalcular& o) {
     if (o.Tiene("entalpia-formacion") && !o.Tiene("formula") && !o.Tiene("masa"))
         return "--entalpia-formacion va con --formula o --masa";
     if (o.Tiene("combustible") && !BuscarCombustible(o.Valor("combustible")))
-        return "combustible desconocido: " + o.Valor("combustible") + " (los de la lista: " + NombresCombustibles() + ")";
+        return "combustible desconocido: " + o.Valor("combustible") +
+               " (los de la lista: " + NombresCombustibles() + ")";
     if (o.Tiene("fr") && o.Tiene("lambda")) return "--fr y --lambda se excluyen entre sí";
-    if (o.Tiene("proporcion-vcte") && o.Tiene("pmax")) return "--proporcion-vcte y --pmax se excluyen entre sí";
+    if (o.Tiene("proporcion-vcte") && o.Tiene("pmax"))
+        return "--proporcion-vcte y --pmax se excluyen entre sí";
     return {};
 }
 
@@ -139,12 +145,14 @@ std::string TextoUso() {
            "  --guardar NOMBRE                guarda también el resultado en la base de datos\n"
            "  --presion-ambiente PA (100000)  --temperatura-ambiente K (300)  --humedad PCT (0)\n"
            "  --combustible NOMBRE (Gasolina) | --formula C,H,N,O,S --entalpia-formacion J_MOL\n"
-           "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion J_MOL\n"
+           "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion "
+           "J_MOL\n"
            "  --fr X (1) | --lambda X\n"
            "  --ciclo Otto|Diesel|Mixto (Otto)  --cilindrada CC (100)  --rc X (10)  --p1 PA  --t1 K\n"
            "  --compresion medio|politropica|variable (medio)  --n-compresion X (1,39)\n"
            "  --expansion medio|politropica|variable (medio)   --n-expansion X (1,23)\n"
-           "  --proporcion-vcte PCT (50) | --pmax PA (10000000)   ciclo Mixto: reparto del calor o presión máxima\n"
+           "  --proporcion-vcte PCT (50) | --pmax PA (10000000)   ciclo Mixto: reparto del calor o presión "
+           "máxima\n"
            "  --rpm N                         escribe también la potencia a ese régimen\n"
            "Los números se escriben como en las casillas: \"1,39\" y \"1.39\" valen lo mismo.\n";
 }
@@ -215,7 +223,8 @@ void Elegir(Interruptor& elegida, std::initializer_list<Interruptor*> todas) {
 
 // The cycle window: the cycle chosen by its picture, the boxes typed, the
 // models and the Mixto option clicked, then CALCULAR.
-bool EtapaCiclo(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, VentanaPrincipal& v) {
+bool EtapaCiclo(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
+                VentanaPrincipal& v) {
     PantallaCicloSimple p;
     ControlesCiclo c = p.Controles();
     FormCiclo_Load(e, c);
@@ -232,13 +241,19 @@ bool EtapaCiclo(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, Superficies
 
     const std::string compresion = o.Valor("compresion"), expansion = o.Valor("expansion");
     const auto modelo = [](const std::string& m) {
-        return m == "politropica" ? kModeloPolitropico : m == "variable" ? kModeloGammaVariable : kModeloGammaMedio;
+        return m == "politropica" ? kModeloPolitropico
+               : m == "variable"  ? kModeloGammaVariable
+                                  : kModeloGammaMedio;
     };
-    Elegir(compresion == "politropica" ? p.optPolitropicaCom : compresion == "variable" ? p.optGvariable : p.optGmedioCom,
+    Elegir(compresion == "politropica" ? p.optPolitropicaCom
+           : compresion == "variable"  ? p.optGvariable
+                                       : p.optGmedioCom,
            {&p.optPolitropicaCom, &p.optGvariable, &p.optGmedioCom});
     ElegirModeloCompresion(e, modelo(compresion));
     p.txt_nCom.SetText(o.Valor("n-compresion"));
-    Elegir(expansion == "politropica" ? p.optPolitropica : expansion == "variable" ? p.optGvariableExp : p.optGmedioExp,
+    Elegir(expansion == "politropica" ? p.optPolitropica
+           : expansion == "variable"  ? p.optGvariableExp
+                                      : p.optGmedioExp,
            {&p.optPolitropica, &p.optGvariableExp, &p.optGmedioExp});
     ElegirModeloExpansion(e, modelo(expansion));
     p.txt_nExp.SetText(o.Valor("n-expansion"));
@@ -275,12 +290,14 @@ std::string TextoListaCombustible(const OpcionesCalcular& o) {
     return o.Tiene("formula") || o.Tiene("masa") ? std::string(kOtrosCombustibles) : o.Valor("combustible");
 }
 
-bool DefinirFluido(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, bool conGases) {
+bool DefinirFluido(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
+                   bool conGases) {
     if (!EtapaAire(e, o, dlg, s)) return false;
     return !conGases || (EtapaCombustible(e, o, dlg, s) && EtapaCombustion(e, o, dlg, s));
 }
 
-int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, std::ostream& out) {
+int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
+                     std::ostream& out) {
     VentanaPrincipalSimple v;
     v.tipoCombustible = TextoListaCombustible(o);
     bool bien = DefinirFluido(e, o, dlg, s, true) && EtapaCiclo(e, o, dlg, s, v);

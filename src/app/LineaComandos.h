@@ -56,7 +56,8 @@ std::string TextoListaCombustible(const OpcionesCalcular& o);
 
 // Runs the stages in order; writes the report (or the JSON) on out and returns
 // the exit status. Messages go through dlg.
-int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s, std::ostream& out);
+int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
+                     std::ostream& out);
 
 // Every variable of the state as one JSON object, full precision.
 std::string EstadoJSON(const Estado& e);

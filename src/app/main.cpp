@@ -12,11 +12,11 @@
 
 #include "app/LineaComandos.h"
 #include "app/LineaTablas.h"
-#include "gui/database/GuardarBaseDatos.h"
-#include "gui/reports/PaginaWeb.h"
-#include "gui/mainwindow/frmFase1.h"
-#include "gui/resources/Programa.h"
 #include "core/services/Numeros.h"
+#include "gui/database/GuardarBaseDatos.h"
+#include "gui/mainwindow/frmFase1.h"
+#include "gui/reports/PaginaWeb.h"
+#include "gui/resources/Programa.h"
 
 namespace {
 
@@ -68,7 +68,8 @@ int Calcular(const std::vector<std::string>& argumentos) {
         }
     }
     if (!o.guardar.empty()) {
-        if (!GuardarRegistro(e, o.guardar, tipo, ventana.InformeF1(), imagenes, dlg)) return cli::kSalidaFallo;
+        if (!GuardarRegistro(e, o.guardar, tipo, ventana.InformeF1(), imagenes, dlg))
+            return cli::kSalidaFallo;
     }
     return cli::kSalidaBien;
 }

@@ -1,12 +1,12 @@
 // End to end: the vanta binary as a script would run it.
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <fstream>
 #include <sstream>
 #include <string>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "app/LineaComandos.h"
 
@@ -20,8 +20,8 @@ struct Salida {
 Salida Ejecutar(const std::string& argumentos) {
     // ctest runs tests side by side: one file per process and call.
     static int llamada = 0;
-    const std::string errores =
-        ::testing::TempDir() + "vanta_stderr_" + std::to_string(getpid()) + "_" + std::to_string(++llamada) + ".txt";
+    const std::string errores = ::testing::TempDir() + "vanta_stderr_" + std::to_string(getpid()) + "_" +
+                                std::to_string(++llamada) + ".txt";
     const std::string orden = std::string(VANTA_BINARIO) + " " + argumentos + " 2>" + errores;
     Salida s;
     FILE* p = popen(orden.c_str(), "r");
@@ -57,9 +57,9 @@ TEST(LineaComandosTest, JsonCarriesTheAirFigures) {
     if (std::string(VANTA_BINARIO).empty()) GTEST_SKIP() << "sin binario";
     const Salida s = Ejecutar("calcular --json --temperatura-ambiente 320 --humedad 60");
     EXPECT_EQ(s.estado, 0) << s.err;
-    for (const char* clave : {"\"Psaturacion\":", "\"xN2Aire\":", "\"xO2Aire\":", "\"xArAire\":", "\"xCO2Aire\":",
-                              "\"xH2OAire\":", "\"MasaMolecularAire\":", "\"ErrorCalculo\":0", "\"Tambiente\":320",
-                              "\"Humedad\":60"})
+    for (const char* clave : {"\"Psaturacion\":", "\"xN2Aire\":", "\"xO2Aire\":", "\"xArAire\":",
+                              "\"xCO2Aire\":", "\"xH2OAire\":", "\"MasaMolecularAire\":",
+                              "\"ErrorCalculo\":0", "\"Tambiente\":320", "\"Humedad\":60"})
         EXPECT_NE(s.out.find(clave), std::string::npos) << clave;
     EXPECT_EQ(s.out.find("null"), std::string::npos);
 }
@@ -104,19 +104,21 @@ TEST(LineaComandosTest, RpmAddsThePowerAndARefusedSpeedEndsWithOne) {
 TEST(LineaComandosTest, JsonCarriesTheFuelAndGasFigures) {
     if (std::string(VANTA_BINARIO).empty()) GTEST_SKIP() << "sin binario";
     const Salida gasoil = Ejecutar("calcular --json --combustible Gasoil --fr 0.8");
-    const Salida heptano = Ejecutar("calcular --json --formula 7,16,0,0,0 --entalpia-formacion -187800 --fr 1.1");
+    const Salida heptano =
+        Ejecutar("calcular --json --formula 7,16,0,0,0 --entalpia-formacion -187800 --fr 1.1");
     for (const Salida* s : {&gasoil, &heptano}) {
         EXPECT_EQ(s->estado, 0) << s->err;
         EXPECT_EQ(s->err, "");
-        for (const char* clave : {"\"MasaMolecularCombustible\":", "\"HCS\":", "\"HCI\":", "\"CienC\":", "\"Fe\":",
-                                  "\"xCO2Humos\":", "\"xN2Humos\":", "\"MasaMolecularHumos\":", "\"HCIhumos\":",
-                                  "\"ErrorCalculo\":0"})
+        for (const char* clave : {"\"MasaMolecularCombustible\":", "\"HCS\":", "\"HCI\":", "\"CienC\":",
+                                  "\"Fe\":", "\"xCO2Humos\":", "\"xN2Humos\":", "\"MasaMolecularHumos\":",
+                                  "\"HCIhumos\":", "\"ErrorCalculo\":0"})
             EXPECT_NE(s->out.find(clave), std::string::npos) << clave;
         EXPECT_EQ(s->out.find("null"), std::string::npos);
     }
     for (const char* clave : {"\"AtomosS\":0.032", "\"Fr\":0.8,", "\"xSHumos\":0,", "\"xCOHumos\":0,"})
         EXPECT_NE(gasoil.out.find(clave), std::string::npos) << clave;
-    for (const char* clave : {"\"AtomosC\":7,", "\"AtomosH\":16,", "\"EntalpiaFormacion\":-187800,", "\"Fr\":1.1,"})
+    for (const char* clave :
+         {"\"AtomosC\":7,", "\"AtomosH\":16,", "\"EntalpiaFormacion\":-187800,", "\"Fr\":1.1,"})
         EXPECT_NE(heptano.out.find(clave), std::string::npos) << clave;
     EXPECT_EQ(heptano.out.find("\"xCOHumos\":0,"), std::string::npos);  // rich: CO in the gases
 }
@@ -137,7 +139,8 @@ TEST(LineaComandosTest, RefusedFuelOrMixtureEndsTheRunWithOne) {
     } casos[] = {
         {"--masa 85,0,20,0 --masa-molecular 0.1",
          "Las proporciones en masa de combustible superan el 100%, revise los valores"},
-        {"--formula 0,0,0,0,0", "Introduzca la proporciones de los componentes del combustible o su fórmula química"},
+        {"--formula 0,0,0,0,0",
+         "Introduzca la proporciones de los componentes del combustible o su fórmula química"},
         {"--formula 8,x,0,0,0", " Nº de moles de H no es un número"},
         {"--fr 2", "Exceso de combustible-Cambie el dosado"},
         {"--fr -1", "Fr no puede ser negativo"},
@@ -148,7 +151,8 @@ TEST(LineaComandosTest, RefusedFuelOrMixtureEndsTheRunWithOne) {
     for (const auto& caso : casos) {
         const Salida s = Ejecutar(std::string("calcular --json ") + caso.orden);
         EXPECT_EQ(s.estado, 1) << caso.orden;
-        EXPECT_EQ(s.err.substr(0, s.err.find('\n')).rfind(caso.mensaje, 0), 0u) << caso.orden << ": " << s.err;
+        EXPECT_EQ(s.err.substr(0, s.err.find('\n')).rfind(caso.mensaje, 0), 0u)
+            << caso.orden << ": " << s.err;
         EXPECT_NE(s.out.find("\"ErrorCalculo\":-1"), std::string::npos) << caso.orden;
         EXPECT_EQ(s.out.find("null"), std::string::npos) << caso.orden;
     }
@@ -156,13 +160,15 @@ TEST(LineaComandosTest, RefusedFuelOrMixtureEndsTheRunWithOne) {
 
 TEST(LineaComandosTest, FuelOptionsThatDoNotFitAreUsageErrors) {
     if (std::string(VANTA_BINARIO).empty()) GTEST_SKIP() << "sin binario";
-    for (const char* malos : {"calcular --combustible Queroseno", "calcular --combustible \"Otros combustibles\"",
-                              "calcular --entalpia-formacion -1000", "calcular --masa-molecular 0.1"}) {
+    for (const char* malos :
+         {"calcular --combustible Queroseno", "calcular --combustible \"Otros combustibles\"",
+          "calcular --entalpia-formacion -1000", "calcular --masa-molecular 0.1"}) {
         const Salida s = Ejecutar(malos);
         EXPECT_EQ(s.estado, 2) << malos;
         EXPECT_NE(s.err.find("Uso: vanta"), std::string::npos) << malos;
     }
     const auto p = vanta::cli::ParsearCalcular({"--combustible", "Queroseno"});
     EXPECT_FALSE(p.opciones);
-    EXPECT_NE(p.error.find("Etanol, Gasolina, Gasoil, GLP-Etano, GLP-Butano, GLP-Propano, Metanol"), std::string::npos);
+    EXPECT_NE(p.error.find("Etanol, Gasolina, Gasoil, GLP-Etano, GLP-Butano, GLP-Propano, Metanol"),
+              std::string::npos);
 }

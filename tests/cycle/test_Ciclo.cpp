@@ -14,16 +14,21 @@ namespace {
 
 // The five states and the closing figures, which must agree to the bit.
 void EsperarMismoCiclo(const Estado& a, const Estado& b) {
-    const double va[] = {a.p1, a.p2, a.p3, a.p4, a.p5, a.V1, a.V2, a.V3, a.V4, a.V5, a.T1, a.T2, a.T3, a.T4, a.T5,
-                         a.h1, a.h2, a.h3, a.h4, a.h5, a.S1, a.S2, a.S3, a.S4, a.S5, a.W12, a.W34, a.W45, a.Q23,
-                         a.Qciclo, a.Wciclo, a.Rendimiento, a.gamma1, a.Gamma2, a.Gamma4, a.Gamma5};
-    const double vb[] = {b.p1, b.p2, b.p3, b.p4, b.p5, b.V1, b.V2, b.V3, b.V4, b.V5, b.T1, b.T2, b.T3, b.T4, b.T5,
-                         b.h1, b.h2, b.h3, b.h4, b.h5, b.S1, b.S2, b.S3, b.S4, b.S5, b.W12, b.W34, b.W45, b.Q23,
-                         b.Qciclo, b.Wciclo, b.Rendimiento, b.gamma1, b.Gamma2, b.Gamma4, b.Gamma5};
+    const double va[] = {a.p1,     a.p2,     a.p3,     a.p4,    a.p5,  a.V1,     a.V2,     a.V3,
+                         a.V4,     a.V5,     a.T1,     a.T2,    a.T3,  a.T4,     a.T5,     a.h1,
+                         a.h2,     a.h3,     a.h4,     a.h5,    a.S1,  a.S2,     a.S3,     a.S4,
+                         a.S5,     a.W12,    a.W34,    a.W45,   a.Q23, a.Qciclo, a.Wciclo, a.Rendimiento,
+                         a.gamma1, a.Gamma2, a.Gamma4, a.Gamma5};
+    const double vb[] = {b.p1,     b.p2,     b.p3,     b.p4,    b.p5,  b.V1,     b.V2,     b.V3,
+                         b.V4,     b.V5,     b.T1,     b.T2,    b.T3,  b.T4,     b.T5,     b.h1,
+                         b.h2,     b.h3,     b.h4,     b.h5,    b.S1,  b.S2,     b.S3,     b.S4,
+                         b.S5,     b.W12,    b.W34,    b.W45,   b.Q23, b.Qciclo, b.Wciclo, b.Rendimiento,
+                         b.gamma1, b.Gamma2, b.Gamma4, b.Gamma5};
     for (size_t i = 0; i < std::size(va); ++i) EXPECT_EQ(va[i], vb[i]) << "figura " << i;
 }
 
-size_t Contar(const std::vector<std::string>& llamadas, const std::string& prefijo, const std::string& sufijo) {
+size_t Contar(const std::vector<std::string>& llamadas, const std::string& prefijo,
+              const std::string& sufijo) {
     return std::count_if(llamadas.begin(), llamadas.end(), [&](const std::string& l) {
         return l.rfind(prefijo, 0) == 0 && l.size() >= sufijo.size() &&
                l.compare(l.size() - sufijo.size(), sufijo.size(), sufijo) == 0;
@@ -104,7 +109,8 @@ TEST(CalcularCicloTest, DieselStateThreeIsStateTwo) {
     EXPECT_EQ(c.e.p4, c.e.p3);  // isobar
     EXPECT_GT(c.e.W34, 0);
     const auto l = c.Lineas();
-    EXPECT_NE(std::find(l.begin(), l.end(), " Q 2-3 =   0.0 J      Q 2-3 molar =   0.0 J/(mol aire)"), l.end());
+    EXPECT_NE(std::find(l.begin(), l.end(), " Q 2-3 =   0.0 J      Q 2-3 molar =   0.0 J/(mol aire)"),
+              l.end());
     EXPECT_NE(std::find(l.begin(), l.end(), " h3-h2 =    0.00  J/mol      "), l.end());
 }
 
@@ -113,8 +119,10 @@ TEST(CalcularCicloTest, OttoShowsNoHeatAtConstantPressureButTheWholeMolarHeat) {
     c.Ejecutar({});
     const auto l = c.Lineas();
     const std::string molar = Format(Round(c.e.Qciclo / c.e.MolesAire, 1), "### ### ##00");
-    EXPECT_NE(std::find(l.begin(), l.end(), " Q 3-4 =   0.0 J      Q molar 3-4 = " + molar + " J/(mol aire)"), l.end());
-    EXPECT_NE(std::find(l.begin(), l.end(), " Trabajo 3-4 = 0      Trabajo molar 3-4 =   0.0 J/(mol aire)"), l.end());
+    EXPECT_NE(std::find(l.begin(), l.end(), " Q 3-4 =   0.0 J      Q molar 3-4 = " + molar + " J/(mol aire)"),
+              l.end());
+    EXPECT_NE(std::find(l.begin(), l.end(), " Trabajo 3-4 = 0      Trabajo molar 3-4 =   0.0 J/(mol aire)"),
+              l.end());
 }
 
 TEST(CalcularCicloTest, EachModelOfCompressionAndExpansionRuns) {
@@ -182,9 +190,9 @@ TEST(CalcularCicloTest, DiagramsAreScaledTitledDrawnAndNumbered) {
     EXPECT_EQ(Contar(pv, "PSet", "#0100FF"), 1u);
     EXPECT_NEAR(Contar(pv, "Line", "#0100FF"), 1000.5, 0.5);
     EXPECT_NEAR(Contar(pv, "Line", "#323232"), 1000.5, 0.5);  // expansion
-    EXPECT_EQ(Contar(pv, "Line", "#7D007D"), 1u);     // 2-3, one straight line
-    EXPECT_EQ(Contar(pv, "Line", "#00FF00"), 1u);     // exhaust
-    EXPECT_EQ(Contar(pv, "Line", "#FF0000"), 0u);     // Otto has no isobar
+    EXPECT_EQ(Contar(pv, "Line", "#7D007D"), 1u);             // 2-3, one straight line
+    EXPECT_EQ(Contar(pv, "Line", "#00FF00"), 1u);             // exhaust
+    EXPECT_EQ(Contar(pv, "Line", "#FF0000"), 0u);             // Otto has no isobar
     // The numbers of the states, in the expansion pen, on p-V and T-V only.
     EXPECT_EQ(Contar(pv, "Print", "\"1\""), 1u);
     EXPECT_EQ(Contar(pv, "Print", "\"5\""), 1u);
@@ -203,22 +211,30 @@ TEST(CalcularCicloTest, RejectedInputsStopTheRunWithTheirMessages) {
     pmax.Ejecutar({"--ciclo", "Mixto", "--pmax", "2000000"});
     EXPECT_EQ(pmax.estado, 1);
     EXPECT_EQ(pmax.dlg.mensajes,
-              std::vector<std::string>{"Imposible realizar el ciclo, Aumente la presión máxima que soporta el motor o "
-                                       "disminuya la relación de compresión"});
+              std::vector<std::string>{
+                  "Imposible realizar el ciclo, Aumente la presión máxima que soporta el motor o "
+                  "disminuya la relación de compresión"});
 
     Calculo volumen;
     volumen.Ejecutar({"--ciclo", "Diesel", "--rc", "2"});
     EXPECT_EQ(volumen.estado, 1);
     // Told once, though every level of the search unwinds through it.
     EXPECT_EQ(volumen.dlg.mensajes,
-              std::vector<std::string>{"No es posible este ciclo, el volumen final, sin sobrepasar la presión máxima, "
-                                       "es excesivamente grande"});
+              std::vector<std::string>{
+                  "No es posible este ciclo, el volumen final, sin sobrepasar la presión máxima, "
+                  "es excesivamente grande"});
 }
 
 TEST(CalcularCicloTest, AbsurdInputsGetAClearMessageAndNoNaN) {
     const std::vector<std::vector<std::string>> casos = {
-        {"--rc", "1"},           {"--rc", "0"},           {"--rc", "-3"},        {"--cilindrada", "0"},
-        {"--t1", "-20"},         {"--p1", "0"},           {"--t1", "0,001"},     {"--cilindrada", "1e308"},
+        {"--rc", "1"},
+        {"--rc", "0"},
+        {"--rc", "-3"},
+        {"--cilindrada", "0"},
+        {"--t1", "-20"},
+        {"--p1", "0"},
+        {"--t1", "0,001"},
+        {"--cilindrada", "1e308"},
         {"--compresion", "politropica", "--n-compresion", "1"},
         {"--expansion", "politropica", "--n-expansion", "0.5"},
         {"--ciclo", "Diesel", "--t1", "2500"},  // heat carries the gases past the limits

@@ -69,7 +69,8 @@ TEST_F(Isobara, LoopedSearchGivesTheRecursionsValuesAndDrawCalls) {
     r.TipoFluido = kFluidoHumos;
     PonerEstadoInicial(r, referencia.dlg, r.PresionFinal, r.VolumenFinal, r.TemperaturaFinal, r.EntalpiaFinal,
                        r.EntropiaFinal);
-    r.TemperaturaSuperior = 5000, r.TemperaturaInferior = r.TemperaturaInicial, r.hInicioBusqueda = r.hInicial;
+    r.TemperaturaSuperior = 5000, r.TemperaturaInferior = r.TemperaturaInicial,
+    r.hInicioBusqueda = r.hInicial;
     referencia.Recursion(1e-4, 150);
 
     EXPECT_EQ(e.TemperaturaFinal, r.TemperaturaFinal);
@@ -86,7 +87,8 @@ TEST_F(Isobara, LoopedSearchGivesTheRecursionsValuesAndDrawCalls) {
 TEST_F(Isobara, HeatBeyond5000KEndsWithTheTemperatureMessage) {
     CombustionPresionConstante(e, dlg, g, 1, 1e6, kSinDibujar);
     EXPECT_EQ(e.ErrorCalculo, Verdadero);
-    EXPECT_EQ(dlg.mensajes, std::vector<std::string>{" Ha superado la temperatura máxima admitida por el programa "});
+    EXPECT_EQ(dlg.mensajes,
+              std::vector<std::string>{" Ha superado la temperatura máxima admitida por el programa "});
 }
 
 TEST_F(Isobara, FlagSetOnEntryChangesNothing) {

@@ -16,9 +16,9 @@
 #include <vector>
 
 #include "app/LineaComandos.h"
+#include "core/database/Registro.h"
 #include "gui/database/AlmacenResultados.h"
 #include "gui/database/GuardarBaseDatos.h"
-#include "core/database/Registro.h"
 #include "gui/database/frmBaseDatos.h"
 #include "gui/services/SuperficieQt.h"
 
@@ -49,7 +49,8 @@ inline Calculo Calcular(const std::vector<std::string>& argumentos) {
     c.informe = salida.str();
     c.informe.resize(c.informe.size() - 2);
     c.combustible = p.opciones->Valor("combustible");
-    c.imagenes = {pct1.Imagen(), pct2.Imagen(), pct3.Imagen(), pv.Imagen(), tv.Imagen(), ts.Imagen(), hs.Imagen()};
+    c.imagenes = {pct1.Imagen(), pct2.Imagen(), pct3.Imagen(), pv.Imagen(),
+                  tv.Imagen(),   ts.Imagen(),   hs.Imagen()};
     return c;
 }
 
@@ -57,10 +58,10 @@ inline Calculo Calcular(const std::vector<std::string>& argumentos) {
 inline const std::vector<Calculo>& TresCiclos() {
     static const std::vector<Calculo> calculos{
         Calcular({}),
-        Calcular({"--ciclo", "Diesel", "--combustible", "Gasoil", "--rc", "18", "--fr", "0,7", "--humedad", "47.5",
-                  "--compresion", "variable"}),
-        Calcular({"--ciclo", "Mixto", "--combustible", "GLP-Propano", "--lambda", "1.2", "--proporcion-vcte", "40",
-                  "--temperatura-ambiente", "288.6"}),
+        Calcular({"--ciclo", "Diesel", "--combustible", "Gasoil", "--rc", "18", "--fr", "0,7", "--humedad",
+                  "47.5", "--compresion", "variable"}),
+        Calcular({"--ciclo", "Mixto", "--combustible", "GLP-Propano", "--lambda", "1.2", "--proporcion-vcte",
+                  "40", "--temperatura-ambiente", "288.6"}),
     };
     return calculos;
 }
@@ -124,7 +125,8 @@ struct Banco {
 // The file seen with SQLite alone, on a connection of its own.
 struct Mirada {
     QString nombre;
-    explicit Mirada(const QString& ruta) : nombre(QStringLiteral("mirada_%1").arg(reinterpret_cast<quintptr>(this))) {
+    explicit Mirada(const QString& ruta)
+        : nombre(QStringLiteral("mirada_%1").arg(reinterpret_cast<quintptr>(this))) {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), nombre);
         db.setDatabaseName(ruta);
         db.open();

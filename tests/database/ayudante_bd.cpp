@@ -8,6 +8,8 @@
 //                                           and says "a mitad"
 //   ayudante_bd bloquear RUTA               holds a write lock, says "bloqueada", waits
 //   ayudante_bd sin-permisos RUTA           saves one record as user nobody when run as root
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QImage>
 #include <QPainter>
@@ -17,11 +19,10 @@
 #include <cstdio>
 #include <iostream>
 #include <string>
-#include <unistd.h>
 
+#include "core/database/Registro.h"
 #include "gui/database/AlmacenResultados.h"
 #include "gui/database/GuardarBaseDatos.h"
-#include "core/database/Registro.h"
 
 using namespace vanta;
 
@@ -30,7 +31,9 @@ namespace {
 class DialogosSalida : public Dialogos {
 public:
     void MsgBox(std::string_view mensaje) override { std::cout << mensaje << std::endl; }
-    std::string InputBox(std::string_view, std::string_view porDefecto) override { return std::string(porDefecto); }
+    std::string InputBox(std::string_view, std::string_view porDefecto) override {
+        return std::string(porDefecto);
+    }
 };
 
 // A record whose every figure tells its number, with pictures of some weight.
@@ -38,7 +41,8 @@ bd::TextosRegistro Textos(int k) {
     Estado e;
     e.T1 = 300 + k;
     e.p1 = 100000 + k;
-    return bd::ValoresRegistro(e, "registro " + std::to_string(k), "Gasolina", "informe " + std::to_string(k));
+    return bd::ValoresRegistro(e, "registro " + std::to_string(k), "Gasolina",
+                               "informe " + std::to_string(k));
 }
 
 ImagenesRegistro Imagenes(int k) {
@@ -47,7 +51,8 @@ ImagenesRegistro Imagenes(int k) {
         QImage img(400, 300, QImage::Format_RGB32);
         img.fill(Qt::white);
         QPainter p(&img);
-        for (int x = 0; x < 400; x += 3) p.drawLine(x, 0, (x * (k + 7) + static_cast<int>(i) * 13) % 400, 299);
+        for (int x = 0; x < 400; x += 3)
+            p.drawLine(x, 0, (x * (k + 7) + static_cast<int>(i) * 13) % 400, 299);
         imagenes[i] = img;
     }
     return imagenes;
@@ -70,7 +75,8 @@ int main(int argc, char** argv) {
         if (!almacen.Abrir()) return std::cout << almacen.Error() << std::endl, 1;
         const int n = std::stoi(argv[3]);
         for (int k = 1; k <= n; ++k) {
-            if (!almacen.Insertar(Textos(k), Imagenes(k))) return std::cout << almacen.Error() << std::endl, 1;
+            if (!almacen.Insertar(Textos(k), Imagenes(k)))
+                return std::cout << almacen.Error() << std::endl, 1;
             std::cout << "guardado " << k << std::endl;
         }
         if (argc >= 5 && std::string(argv[4]) == "--parar") {

@@ -26,7 +26,8 @@ QByteArray Leer(const QString& ruta) {
 
 void Escribir(const QString& ruta, const QByteArray& datos) {
     QFile f(ruta);
-    if (!f.open(QIODevice::WriteOnly) || f.write(datos) != datos.size()) qFatal("no se escribe %s", qPrintable(ruta));
+    if (!f.open(QIODevice::WriteOnly) || f.write(datos) != datos.size())
+        qFatal("no se escribe %s", qPrintable(ruta));
 }
 
 // Runs SQL on a file of its own making.
@@ -89,7 +90,9 @@ int RegistrosLegibles(const QString& ruta) {
     return static_cast<int>(ids->size());
 }
 
-std::string Abre(const QString& ruta, std::string_view causa) { return bd::MsgNoSeAbre(ruta.toStdString(), causa); }
+std::string Abre(const QString& ruta, std::string_view causa) {
+    return bd::MsgNoSeAbre(ruta.toStdString(), causa);
+}
 
 }  // namespace
 
@@ -122,7 +125,8 @@ private slots:
         Banco vacio;
         Escribir(vacio.Ruta(), {});
         QVERIFY(vacio.f->Cargar());
-        QCOMPARE(Mirada(vacio.Ruta()).Valor(QStringLiteral("PRAGMA application_id")).toInt(), bd::kIdAplicacion);
+        QCOMPARE(Mirada(vacio.Ruta()).Valor(QStringLiteral("PRAGMA application_id")).toInt(),
+                 bd::kIdAplicacion);
     }
 
     void unArchivoQueNoEsNuestroNoSeUsaNiSeToca() {
@@ -247,7 +251,8 @@ private slots:
     void unaVantaMatadaAMitadDeGuardarDejaLoAnteriorEntero() {
         Banco b;
         {
-            Ayudante otra({QStringLiteral("guardar"), b.Ruta(), QStringLiteral("3"), QStringLiteral("--parar")});
+            Ayudante otra(
+                {QStringLiteral("guardar"), b.Ruta(), QStringLiteral("3"), QStringLiteral("--parar")});
             QVERIFY(otra.Esperar(QStringLiteral("a mitad")));
             otra.Matar();
         }
@@ -289,7 +294,8 @@ private slots:
 
         const Calculo& c = TresCiclos()[0];
         QGuiApplication::clipboard()->setText(QStringLiteral("intacto"));
-        QVERIFY(GuardarRegistro(c.e, "desde la línea de órdenes", c.combustible, c.informe, c.imagenes, b.dlg));
+        QVERIFY(
+            GuardarRegistro(c.e, "desde la línea de órdenes", c.combustible, c.informe, c.imagenes, b.dlg));
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("intacto"));
         auto otro = b.Nuevo();
         QVERIFY(otro->Cargar());

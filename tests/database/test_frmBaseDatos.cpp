@@ -11,17 +11,21 @@
 
 #include "../mainwindow/Pruebas.h"
 #include "Banco.h"
+#include "core/services/Numeros.h"
 #include "gui/database/ControlImagen.h"
 #include "gui/database/frmAmpliador.h"
-#include "core/services/Numeros.h"
 
 using namespace vanta;
 using namespace vanta::pruebas;
 
 namespace {
 
-std::string R(double x, int d) { return TextoGeneral(Round(x, d)); }
-std::string G(double x) { return TextoGeneral(x); }
+std::string R(double x, int d) {
+    return TextoGeneral(Round(x, d));
+}
+std::string G(double x) {
+    return TextoGeneral(x);
+}
 
 // What each box of the browser shows for a saved calculation: the table of
 // the record, written out here on its own.
@@ -29,18 +33,41 @@ std::vector<std::pair<std::string, std::string>> Esperado(const Calculo& c, cons
     const Estado& e = c.e;
     std::vector<std::pair<std::string, std::string>> v{
         {"txtGuardarComo", nombre},
-        {"txtMolC", G(e.AtomosC)},       {"txtMolH", G(e.AtomosH)},         {"txtMolN", G(e.AtomosN)},
-        {"txtMolO", G(e.AtomosO)},       {"txtMolS", G(e.AtomosS)},         {"txtCienC", R(e.CienC, 2)},
-        {"txtCienH", R(e.CienH, 2)},     {"txtCienN", R(e.CienN, 2)},       {"txtCienO", R(e.CienO, 2)},
-        {"txtCienS", R(e.CienS, 2)},     {"txtHCS", R(e.HCS, 2)},           {"txtHCI", R(e.HCI, 2)},
-        {"txtQVap", R(e.CalorVap, 2)},   {"lblQ23", R(e.Q23, 1)},           {"lblQ34", R(e.Qciclo - e.Q23, 1)},
-        {"lblQciclo", R(e.Qciclo, 1)},   {"lblW12", R(e.W12, 1)},           {"lblW34", R(e.W34, 1)},
-        {"lblW45", R(e.W45, 1)},         {"lblWciclo", R(e.Wciclo, 1)},     {"lblRen", G(e.Rendimiento)},
-        {"lblG12", R(e.gamma1, 3)},      {"lblG2", R(e.Gamma2, 4)},         {"lblG45", R(e.Gamma4, 4)},
-        {"lblG5", R(e.Gamma5, 4)},       {"txtLambda", R(1 / e.Fr, 3)},     {"txtFr", R(e.Fr, 3)},
-        {"txtHCIhumos", R(e.HCIhumos, 0)}, {"txtFe", R(e.Fe, 6)},           {"txtW", R(e.Humedad, 3)},
-        {"txtPamb", R(e.Pambiente, 0)},  {"txtPsat", R(e.Psaturacion, 2)},  {"txtTamb", R(e.Tambiente, 0)},
-        {"txtTipoCombustible", c.combustible}, {"txtInforme", c.informe},
+        {"txtMolC", G(e.AtomosC)},
+        {"txtMolH", G(e.AtomosH)},
+        {"txtMolN", G(e.AtomosN)},
+        {"txtMolO", G(e.AtomosO)},
+        {"txtMolS", G(e.AtomosS)},
+        {"txtCienC", R(e.CienC, 2)},
+        {"txtCienH", R(e.CienH, 2)},
+        {"txtCienN", R(e.CienN, 2)},
+        {"txtCienO", R(e.CienO, 2)},
+        {"txtCienS", R(e.CienS, 2)},
+        {"txtHCS", R(e.HCS, 2)},
+        {"txtHCI", R(e.HCI, 2)},
+        {"txtQVap", R(e.CalorVap, 2)},
+        {"lblQ23", R(e.Q23, 1)},
+        {"lblQ34", R(e.Qciclo - e.Q23, 1)},
+        {"lblQciclo", R(e.Qciclo, 1)},
+        {"lblW12", R(e.W12, 1)},
+        {"lblW34", R(e.W34, 1)},
+        {"lblW45", R(e.W45, 1)},
+        {"lblWciclo", R(e.Wciclo, 1)},
+        {"lblRen", G(e.Rendimiento)},
+        {"lblG12", R(e.gamma1, 3)},
+        {"lblG2", R(e.Gamma2, 4)},
+        {"lblG45", R(e.Gamma4, 4)},
+        {"lblG5", R(e.Gamma5, 4)},
+        {"txtLambda", R(1 / e.Fr, 3)},
+        {"txtFr", R(e.Fr, 3)},
+        {"txtHCIhumos", R(e.HCIhumos, 0)},
+        {"txtFe", R(e.Fe, 6)},
+        {"txtW", R(e.Humedad, 3)},
+        {"txtPamb", R(e.Pambiente, 0)},
+        {"txtPsat", R(e.Psaturacion, 2)},
+        {"txtTamb", R(e.Tambiente, 0)},
+        {"txtTipoCombustible", c.combustible},
+        {"txtInforme", c.informe},
     };
     const double p[] = {e.p1, e.p2, e.p3, e.p4, e.p5}, V[] = {e.V1, e.V2, e.V3, e.V4, e.V5},
                  T[] = {e.T1, e.T2, e.T3, e.T4, e.T5}, h[] = {e.h1, e.h2, e.h3, e.h4, e.h5},
@@ -58,8 +85,9 @@ std::vector<std::pair<std::string, std::string>> Esperado(const Calculo& c, cons
 
 // The image controls and the picture of the main window that each shows.
 const std::pair<const char*, CuadroImagen> kImagenes[] = {
-    {"ImgAire", CuadroImagen::pct1},  {"imgCombustible", CuadroImagen::pct2}, {"imgCombustion", CuadroImagen::pct3},
-    {"imgDPV", CuadroImagen::pctPV},  {"imgDTV", CuadroImagen::pctTV},        {"imgDTS", CuadroImagen::pctTS},
+    {"ImgAire", CuadroImagen::pct1},       {"imgCombustible", CuadroImagen::pct2},
+    {"imgCombustion", CuadroImagen::pct3}, {"imgDPV", CuadroImagen::pctPV},
+    {"imgDTV", CuadroImagen::pctTV},       {"imgDTS", CuadroImagen::pctTS},
     {"imgDhs", CuadroImagen::pctHS},
 };
 
@@ -67,7 +95,9 @@ QImage Imagen(const frmBaseDatos& f, const char* control) {
     return f.findChild<ControlImagen*>(QString::fromLatin1(control))->Picture();
 }
 
-QImage Cuadro(const Calculo& c, CuadroImagen cuadro) { return c.imagenes[static_cast<size_t>(cuadro)]; }
+QImage Cuadro(const Calculo& c, CuadroImagen cuadro) {
+    return c.imagenes[static_cast<size_t>(cuadro)];
+}
 
 // The current record of the browser against a calculation, box by box.
 void Comprobar(const frmBaseDatos& f, const Calculo& c, const std::string& nombre) {
@@ -106,7 +136,8 @@ private slots:
     void guardaLosTresCiclosYLosLeeCampoACampo() {
         const auto& calculos = TresCiclos();
         // The pictures must differ for the crossed columns to be checked.
-        QVERIFY(!MismaImagen(Cuadro(calculos[0], CuadroImagen::pctPV), Cuadro(calculos[0], CuadroImagen::pctTV)));
+        QVERIFY(
+            !MismaImagen(Cuadro(calculos[0], CuadroImagen::pctPV), Cuadro(calculos[0], CuadroImagen::pctTV)));
         Banco b;
         std::vector<std::string> nombres;
         for (size_t i = 0; i < calculos.size(); ++i) {
@@ -144,9 +175,10 @@ private slots:
                  0);
         // The p-V and T-V pictures sit in the crossed columns.
         const auto columna = [&](const char* c) {
-            return PNGAImagen(m.Valor(QStringLiteral("SELECT %1 FROM ResultadosGuardados ORDER BY rowid LIMIT 1")
-                                          .arg(QLatin1String(c)))
-                                  .toByteArray());
+            return PNGAImagen(
+                m.Valor(QStringLiteral("SELECT %1 FROM ResultadosGuardados ORDER BY rowid LIMIT 1")
+                            .arg(QLatin1String(c)))
+                    .toByteArray());
         };
         QVERIFY(MismaImagen(columna("imgDTV"), Cuadro(calculos[0], CuadroImagen::pctPV)));
         QVERIFY(MismaImagen(columna("imgDPV"), Cuadro(calculos[0], CuadroImagen::pctTV)));
@@ -232,7 +264,8 @@ private slots:
         Pulsar(*b.f, "cmdBorrarRegistro");
         QCOMPARE(b.Mensaje(), std::string(bd::kMsgSinRegistros));
         QCOMPARE(b.dlg.mensajes.size(), size_t(5));
-        QCOMPARE(Mirada(b.Ruta()).Valor(QStringLiteral("SELECT count(*) FROM ResultadosGuardados")).toInt(), 0);
+        QCOMPARE(Mirada(b.Ruta()).Valor(QStringLiteral("SELECT count(*) FROM ResultadosGuardados")).toInt(),
+                 0);
         // A record saved afterwards is shown.
         b.Agregar({"E"});
         QCOMPARE(b.Texto("txtGuardarComo"), QStringLiteral("E"));
@@ -254,25 +287,29 @@ private slots:
         QCOMPARE(ver->text(), QStringLiteral("Ver resumen"));
         QVERIFY(caja->isVisible());
         QCOMPARE(caja->toPlainText(), QStringLiteral("informe del último cálculo\ncon dos líneas"));
-        for (const char* marco : {"fraAire", "fraCombustible", "fraCombustion", "fraPuntos", "fraTransformaciones"})
+        for (const char* marco :
+             {"fraAire", "fraCombustible", "fraCombustion", "fraPuntos", "fraTransformaciones"})
             QVERIFY2(!b.f->findChild<QGroupBox*>(QString::fromLatin1(marco))->isVisible(), marco);
         for (const auto& [control, cuadro] : kImagenes)
             QVERIFY2(!b.f->findChild<ControlImagen*>(QString::fromLatin1(control))->isVisible(), control);
         const QSize tam = b.f->size();
-        QCOMPARE(caja->geometry(), QRect(0, qRound(0.035 * tam.height()), tam.width(), qRound(0.72 * tam.height())));
+        QCOMPARE(caja->geometry(),
+                 QRect(0, qRound(0.035 * tam.height()), tam.width(), qRound(0.72 * tam.height())));
 
         // Leaving A writes the buffer into its report, line ends and all; B
         // shows its own report.
         Pulsar(*b.f, "cmdSiguiente");
         QCOMPARE(b.f->TextoInforme(), std::string("informe de B\r\n"));
         Mirada m(b.Ruta());
-        QCOMPARE(m.Valor(QStringLiteral("SELECT Informe FROM ResultadosGuardados WHERE \"Guardado como\" = 'A'"))
-                     .toString()
-                     .toStdString(),
-                 b.buffer);
-        QCOMPARE(m.Valor(QStringLiteral("SELECT Informe FROM ResultadosGuardados WHERE \"Guardado como\" = 'B'"))
-                     .toString(),
-                 QStringLiteral("informe de B\r\n"));
+        QCOMPARE(
+            m.Valor(QStringLiteral("SELECT Informe FROM ResultadosGuardados WHERE \"Guardado como\" = 'A'"))
+                .toString()
+                .toStdString(),
+            b.buffer);
+        QCOMPARE(
+            m.Valor(QStringLiteral("SELECT Informe FROM ResultadosGuardados WHERE \"Guardado como\" = 'B'"))
+                .toString(),
+            QStringLiteral("informe de B\r\n"));
 
         // Back to the summary.
         Pulsar(*b.f, "cmdVer");

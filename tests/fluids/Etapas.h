@@ -46,7 +46,8 @@ struct EtapaCombustible {
                  const std::string& S) {
         Elegir(std::string(kOtrosCombustibles));
         optFOR_Click(c);
-        p.txtMolC.SetText(C), p.txtMolH.SetText(H), p.txtMolN.SetText(N), p.txtMolO.SetText(O), p.txtMolS.SetText(S);
+        p.txtMolC.SetText(C), p.txtMolH.SetText(H), p.txtMolN.SetText(N), p.txtMolO.SetText(O),
+            p.txtMolS.SetText(S);
         cmdCal_Click(e, dlg, c);
     }
     // "Otros combustibles" with mass percentages and a molar mass, then CALCULAR.

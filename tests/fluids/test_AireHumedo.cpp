@@ -33,7 +33,8 @@ TEST(CalcularAireTest, DryAirHasTheTableFractionsAndMolarMass) {
     EXPECT_EQ(p.e.xO2Aire, 0.20946);
     EXPECT_EQ(p.e.xArAire, 0.00934);
     EXPECT_EQ(p.e.xCO2Aire, 0.00033);
-    EXPECT_EQ(p.e.MasaMolecularAire, 0.20946 * 0.032 + 0.78087 * 0.028018 + 0.00033 * 0.044011 + 0.00934 * 0.039948);
+    EXPECT_EQ(p.e.MasaMolecularAire,
+              0.20946 * 0.032 + 0.78087 * 0.028018 + 0.00033 * 0.044011 + 0.00934 * 0.039948);
     EXPECT_NEAR(p.e.MasaMolecularAire, 0.0289688, 1e-7);
     EXPECT_EQ(p.e.Psaturacion, std::exp(19.1 - 0.008 * 300 - 6012.0 / 300) * 100000.0);
     EXPECT_GT(p.e.Psaturacion, 3500);

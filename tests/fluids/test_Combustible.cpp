@@ -85,7 +85,8 @@ TEST_F(CombustibleTest, TypedFormulaAndMassCompositionGiveTheLibrarysMethanol) {
 TEST_F(CombustibleTest, PercentagesAbove100AreRefusedAfterTheHeatingValues) {
     f.Masa("85", "0", "20", "0", "0.1");
     EXPECT_EQ(f.p.txtH.Text(), "-5");
-    EXPECT_EQ(dlg.mensajes, Mensajes{"Las proporciones en masa de combustible superan el 100%, revise los valores"});
+    EXPECT_EQ(dlg.mensajes,
+              Mensajes{"Las proporciones en masa de combustible superan el 100%, revise los valores"});
     EXPECT_EQ(e.ErrorCalculo, Verdadero);
     EXPECT_EQ(f.p.txtC.focos, 1);
     EXPECT_LT(e.AtomosH, 0);  // what the steps before wrote stays
@@ -100,8 +101,9 @@ TEST_F(CombustibleTest, ExactlyHundredPassesUnlessThereIsNoCarbonNorHydrogen) {
     EXPECT_TRUE(dlg.mensajes.empty());
 
     f.Masa("0", "50", "50", "0", "0.1");
-    EXPECT_EQ(dlg.mensajes, Mensajes{"La suma de las proporciones en masa de carbono e Hidrógeno debe ser > 0, "
-                                     "revise los valores"});
+    EXPECT_EQ(dlg.mensajes,
+              Mensajes{"La suma de las proporciones en masa de carbono e Hidrógeno debe ser > 0, "
+                       "revise los valores"});
     EXPECT_EQ(e.ErrorCalculo, Verdadero);
 }
 
@@ -136,7 +138,8 @@ TEST_F(CombustibleTest, BadMolarMassIsRefusedAndTheLastOneStays) {
         dlg.mensajes.clear();
         f.Masa("85", "0", "0", "0", mala);
         ASSERT_EQ(dlg.mensajes.size(), 1u);
-        EXPECT_NE(dlg.mensajes[0].find("la masa molecular del combustible ha de ser mayor que cero"), std::string::npos);
+        EXPECT_NE(dlg.mensajes[0].find("la masa molecular del combustible ha de ser mayor que cero"),
+                  std::string::npos);
         EXPECT_EQ(e.ErrorCalculo, Verdadero);
         EXPECT_EQ(e.MasaMolecularCombustible, masa);
         EXPECT_EQ(e.AtomosC, 8);

@@ -19,7 +19,9 @@ struct CombustionTest : ::testing::Test {
     VariablesCombustion& v = gases.p.variables;
 
     // A formula loaded as the list loads one, with none of the button's checks.
-    void Formula(double C, double H, double N, double O, double S) { CombustibleTipo(e, dlg, fuel.c, C, H, N, O, S); }
+    void Formula(double C, double H, double N, double O, double S) {
+        CombustibleTipo(e, dlg, fuel.c, C, H, N, O, S);
+    }
     double SumaFracciones() const {
         return e.xArHumos + e.xCOHumos + e.xCO2Humos + e.xH2OHumos + e.xN2Humos + e.xO2Humos + e.xSHumos +
                e.xSO2Humos;

@@ -17,7 +17,8 @@ TEST(GraficaAireTest, BarsValuesAndFiguresStandWhereTold) {
     FijarSeparadorDecimal('.');
     Estado e;
     e.xN2Aire = 0.78087, e.xO2Aire = 0.20946, e.xArAire = 0.00934, e.xCO2Aire = 0.00033;
-    e.Humedad = 0, e.MasaMolecularAire = 0.0289652, e.Tambiente = 300, e.Pambiente = 100000, e.Psaturacion = 3543.6;
+    e.Humedad = 0, e.MasaMolecularAire = 0.0289652, e.Tambiente = 300, e.Pambiente = 100000,
+    e.Psaturacion = 3543.6;
     SuperficieGrabada s;  // text 1 unit high, 0.1 a character
     GraficaAire(e, s);
     const auto& l = s.llamadas;

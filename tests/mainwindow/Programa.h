@@ -6,8 +6,8 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QDialog>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -15,13 +15,13 @@
 #include <QTest>
 #include <string>
 
+#include "core/services/Puertos.h"
+#include "core/state/Estado.h"
 #include "gui/cycle/frmOtto_Diesel.h"
 #include "gui/fluids/frmAireHumedad.h"
 #include "gui/fluids/frmCombustible.h"
 #include "gui/fluids/frmGasesCombustion.h"
 #include "gui/mainwindow/frmFase1.h"
-#include "core/services/Puertos.h"
-#include "core/state/Estado.h"
 
 namespace vanta::pruebas {
 
@@ -96,7 +96,8 @@ struct Programa {
 
     bool Etapa3() {
         if (!Pulsar("cmdCarCombustion") || !Abierta(f.GasesCombustion())) return false;
-        return Pulsar(Hijo<QPushButton>(f.GasesCombustion(), "cmdCalcular")) && !f.GasesCombustion()->isVisible();
+        return Pulsar(Hijo<QPushButton>(f.GasesCombustion(), "cmdCalcular")) &&
+               !f.GasesCombustion()->isVisible();
     }
 
     // Opens the cycle window, picks the cycle by its picture and leaves the
@@ -127,6 +128,8 @@ inline bool Dibujada(SuperficieQt* s, double desdeFraccion = 0) {
     return false;
 }
 
-inline QString Q(const std::string& s) { return QString::fromStdString(s); }
+inline QString Q(const std::string& s) {
+    return QString::fromStdString(s);
+}
 
 }  // namespace vanta::pruebas

@@ -26,7 +26,9 @@ inline int Cuenta(const QImage& imagen, const QColor& color) {
 // Registers a test class: `static Registrar<MiPrueba> r;` in its file.
 template <class T>
 struct Registrar {
-    Registrar() { Registro().push_back([] { return new T; }); }
+    Registrar() {
+        Registro().push_back([] { return new T; });
+    }
 };
 
 }  // namespace vanta::pruebas

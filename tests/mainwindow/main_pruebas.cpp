@@ -7,8 +7,8 @@
 #include <memory>
 
 #include "Pruebas.h"
-#include "gui/resources/Programa.h"
 #include "core/services/Numeros.h"
+#include "gui/resources/Programa.h"
 
 namespace vanta::pruebas {
 std::vector<Fabrica>& Registro() {

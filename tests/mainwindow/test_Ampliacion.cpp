@@ -19,7 +19,8 @@ constexpr double kDosTwips = 2.0 / 15;  // at 96 dots per inch
 }  // namespace
 
 TEST(AmpliacionTest, FromTheOverviewEveryDiagramEnlarges) {
-    for (auto d : {DiagramaAmpliable::PV, DiagramaAmpliable::TV, DiagramaAmpliable::TS, DiagramaAmpliable::HS})
+    for (auto d :
+         {DiagramaAmpliable::PV, DiagramaAmpliable::TV, DiagramaAmpliable::TS, DiagramaAmpliable::HS})
         EXPECT_TRUE(DebeAmpliar(d, Resumen(), kDosTwips));
 }
 

@@ -14,7 +14,9 @@ namespace {
 bool Bloqueada(QLineEdit* c) {
     return c->isReadOnly() && c->palette().color(QPalette::Base) == QColor(0xC0, 0xFF, 0xC0);
 }
-bool Abierta(QLineEdit* c) { return !c->isReadOnly() && c->palette().color(QPalette::Base) != QColor(0xC0, 0xFF, 0xC0); }
+bool Abierta(QLineEdit* c) {
+    return !c->isReadOnly() && c->palette().color(QPalette::Base) != QColor(0xC0, 0xFF, 0xC0);
+}
 }  // namespace
 
 class PruebaEtapas : public QObject {
@@ -65,13 +67,15 @@ private slots:
         QVERIFY(v->isVisible());
         QVERIFY(optMasa->isChecked());
         QCOMPARE(Hijo<QGroupBox>(v, "fraOtrosCombustibles")->title(), QStringLiteral("Otros combustibles"));
-        for (const char* c : {"txtC", "txtN", "txtO", "txtS", "txtmmComb"}) QVERIFY2(Abierta(Hijo<QLineEdit>(v, c)), c);
+        for (const char* c : {"txtC", "txtN", "txtO", "txtS", "txtmmComb"})
+            QVERIFY2(Abierta(Hijo<QLineEdit>(v, c)), c);
         for (const char* c : {"txtMolC", "txtMolH", "txtMolN", "txtMolO", "txtMolS"})
             QVERIFY2(Bloqueada(Hijo<QLineEdit>(v, c)), c);
 
         Programa::Elegir(optFOR);
         QVERIFY(optFOR->isChecked() && !optMasa->isChecked());
-        for (const char* c : {"txtC", "txtN", "txtO", "txtS", "txtmmComb"}) QVERIFY2(Bloqueada(Hijo<QLineEdit>(v, c)), c);
+        for (const char* c : {"txtC", "txtN", "txtO", "txtS", "txtmmComb"})
+            QVERIFY2(Bloqueada(Hijo<QLineEdit>(v, c)), c);
         for (const char* c : {"txtMolC", "txtMolH", "txtMolN", "txtMolO", "txtMolS"})
             QVERIFY2(Abierta(Hijo<QLineEdit>(v, c)), c);
 
@@ -129,7 +133,8 @@ private slots:
         QVERIFY(p.Etapa1() && p.Etapa2() && p.Etapa3());
         QVERIFY(p.Pulsar("cmdCarCiclo"));
         frmOtto_Diesel* v = p.f.Otto_Diesel();
-        const char* marcos[] = {"fraDTecnicos", "fraAire", "fraOpcion", "fraCompresion", "fraExpansion", "cmdCal"};
+        const char* marcos[] = {"fraDTecnicos",  "fraAire",      "fraOpcion",
+                                "fraCompresion", "fraExpansion", "cmdCal"};
         for (const char* m : marcos) QVERIFY2(!Hijo<QWidget>(v, m)->isVisible(), m);
         QVERIFY(Hijo<QWidget>(v, "imgSeleccinar")->isVisible());
         // The state at the end of admission starts as the ambient.
@@ -173,7 +178,8 @@ private slots:
 
         QVERIFY(visible("txtPMax") && !visible("txtPropVcte"));
         Programa::Elegir(Hijo<QRadioButton>(v, "optProporcion"));
-        QVERIFY(!visible("txtPMax") && !visible("lblPmax") && visible("txtPropVcte") && visible("txtPropPcte"));
+        QVERIFY(!visible("txtPMax") && !visible("lblPmax") && visible("txtPropVcte") &&
+                visible("txtPropPcte"));
         QVERIFY(p.e.OpcionProporcion);
 
         // Above 100 % is told once, and the box falls back to 100.

@@ -116,7 +116,8 @@ TEST_F(Lectura, CrossesOnAllFourSurfacesOnTheTransientLayer) {
     // The vertical line of p-V stands at the volume shown, edge to edge.
     char vertical[120];
     std::snprintf(vertical, sizeof vertical, "T Line %g %g %g %g", double(float(c.e.V1 * 0.6)),
-                  double(c.pv.ScaleTop()), double(float(c.e.V1 * 0.6)), double(c.pv.ScaleTop() + c.pv.ScaleHeight()));
+                  double(c.pv.ScaleTop()), double(float(c.e.V1 * 0.6)),
+                  double(c.pv.ScaleTop() + c.pv.ScaleHeight()));
     EXPECT_EQ(c.pv.llamadas[1].substr(0, std::string(vertical).size()), vertical);
 }
 

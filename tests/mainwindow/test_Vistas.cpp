@@ -28,7 +28,9 @@ QString Texto(const QRect& r) {
 
 // Whether the picture has anything but its ground in its right fifth: a
 // picture drawn at its own size does, a smaller one carried over does not.
-bool DibujadaHastaLaDerecha(SuperficieQt* s) { return Dibujada(s, 0.8); }
+bool DibujadaHastaLaDerecha(SuperficieQt* s) {
+    return Dibujada(s, 0.8);
+}
 
 // The pixels of the cross on the transient layer: the surface as shown less
 // its persistent picture, counted in the colour of the cross.
@@ -60,8 +62,8 @@ class PruebaVistas : public QObject {
         QVERIFY2(Cerca(p.f.pctPV()->geometry(), 0.001 * W, 0.529 * H, 0.345 * W, 0.32 * H),
                  qPrintable(Texto(p.f.pctPV()->geometry())));
         QVERIFY(Cerca(p.f.pctTV()->geometry(), 0.65 * W, 0.529 * H, 0.35 * W, 0.32 * H));
-        for (const char* visible : {"pct1", "pct2", "pct3", "pctPV", "pctTV", "pctTS", "fraBotonera", "fraPuntos",
-                                    "fraPotencia", "fraEstadoActual", "cmdInforme"})
+        for (const char* visible : {"pct1", "pct2", "pct3", "pctPV", "pctTV", "pctTS", "fraBotonera",
+                                    "fraPuntos", "fraPotencia", "fraEstadoActual", "cmdInforme"})
             QVERIFY2(p.Control(visible)->isVisible(), visible);
         QVERIFY(!p.f.pctHS()->isVisible());
         QVERIFY(!p.Control("chkVerHs")->isVisible());
@@ -77,10 +79,22 @@ private slots:
         QTest::addColumn<double>("recuadroIzquierda");
         QTest::addColumn<double>("recuadroAlto");
         QTest::addColumn<double>("recuadroAncho");
-        QTest::newRow("p-V") << 0 << "pctPV" << "pctTS" << "pctTV" << "pctHS" << 0.8 << 0.2 << 0.2;
-        QTest::newRow("T-V") << 1 << "pctTV" << "pctTS" << "pctPV" << "pctHS" << 0.8 << 0.2 << 0.2;
-        QTest::newRow("T-s") << 2 << "pctTS" << "pctPV" << "pctTV" << "pctHS" << 0.4 << 0.4 << 0.55;
-        QTest::newRow("h-s") << 3 << "pctHS" << "pctPV" << "pctTV" << "pctTS" << 0.6 << 0.2 << 0.3;
+        QTest::newRow("p-V") << 0 << "pctPV"
+                             << "pctTS"
+                             << "pctTV"
+                             << "pctHS" << 0.8 << 0.2 << 0.2;
+        QTest::newRow("T-V") << 1 << "pctTV"
+                             << "pctTS"
+                             << "pctPV"
+                             << "pctHS" << 0.8 << 0.2 << 0.2;
+        QTest::newRow("T-s") << 2 << "pctTS"
+                             << "pctPV"
+                             << "pctTV"
+                             << "pctHS" << 0.4 << 0.4 << 0.55;
+        QTest::newRow("h-s") << 3 << "pctHS"
+                             << "pctPV"
+                             << "pctTV"
+                             << "pctTS" << 0.6 << 0.2 << 0.3;
     }
     void cadaDiagramaSeAmpliaYVuelve() {
         QFETCH(int, diagrama);
@@ -108,8 +122,8 @@ private slots:
         // The switch solved the cycle again: every diagram is drawn at its new size.
         for (SuperficieQt* s : {p.f.pctPV(), p.f.pctTV(), p.f.pctTS(), p.f.pctHS()})
             QVERIFY2(DibujadaHastaLaDerecha(s), qPrintable(s->objectName()));
-        for (const char* oculto : {"pct1", "pct2", "pct3", "fraBotonera", "fraPotencia", "fraPuntos",
-                                   "fraTransformaciones"})
+        for (const char* oculto :
+             {"pct1", "pct2", "pct3", "fraBotonera", "fraPotencia", "fraPuntos", "fraTransformaciones"})
             QVERIFY2(!p.Control(oculto)->isVisible(), oculto);
         for (const char* visible : {"pctTS", "fraEstadoActual", "cmdInforme", "cmdEnvBaseDatos", "chkVerHs"})
             QVERIFY2(p.Control(visible)->isVisible(), visible);
@@ -118,7 +132,7 @@ private slots:
         // The inset, when shown, stands in front of the main surface.
         if (Superficie(p, recuadro)->isVisible())
             QCOMPARE(p.f.centralWidget()->childAt(Superficie(p, recuadro)->geometry().center()),
-                 static_cast<QWidget*>(Superficie(p, recuadro)));
+                     static_cast<QWidget*>(Superficie(p, recuadro)));
 
         // The same entry again returns to the overview and solves the cycle at
         // its sizes: the pictures are those of the first calculation.

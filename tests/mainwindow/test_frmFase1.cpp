@@ -26,15 +26,15 @@ private slots:
         QCOMPARE(p.f.windowTitle(), QStringLiteral("Vanta"));
         QCOMPARE(p.Etapas(), QStringLiteral("1000"));
         QVERIFY(p.Control("imgPresentacion")->isVisible());
-        for (const char* oculto : {"fraPuntos", "fraTransformaciones", "fraPotencia", "fraEstadoActual", "pct1",
-                                   "pct2", "pct3", "pctPV", "pctTV", "pctTS", "pctHS", "cmdInforme",
-                                   "cmdEnvBaseDatos", "chkVerHs"})
+        for (const char* oculto :
+             {"fraPuntos", "fraTransformaciones", "fraPotencia", "fraEstadoActual", "pct1", "pct2", "pct3",
+              "pctPV", "pctTV", "pctTS", "pctHS", "cmdInforme", "cmdEnvBaseDatos", "chkVerHs"})
             QVERIFY2(!p.Control(oculto)->isVisible(), oculto);
         for (const char* apagado : {"mnuInforme", "mnuBDatos", "mnuGuardar", "mnuTablasActual", "mnuVerTodo",
                                     "mnuVerCiclo", "mnuCalcular"})
             QVERIFY2(!p.Menu(apagado)->isEnabled(), apagado);
-        for (const char* encendido : {"mnuNuevo", "mnuAbrirBD", "mnuAbrirInforme", "mnuTablas", "mnuAyuda2",
-                                      "mnuAcercaDe"})
+        for (const char* encendido :
+             {"mnuNuevo", "mnuAbrirBD", "mnuAbrirInforme", "mnuTablas", "mnuAyuda2", "mnuAcercaDe"})
             QVERIFY2(p.Menu(encendido)->isEnabled(), encendido);
     }
 
@@ -72,8 +72,8 @@ private slots:
         // The start of a calculation disables the fuel button, and nothing
         // enables it again until an error or a stage button.
         QCOMPARE(p.Etapas(), QStringLiteral("1011"));
-        for (const char* visible : {"fraPuntos", "fraTransformaciones", "fraPotencia", "fraEstadoActual", "pctPV",
-                                    "pctTV", "pctTS", "cmdInforme", "cmdEnvBaseDatos"})
+        for (const char* visible : {"fraPuntos", "fraTransformaciones", "fraPotencia", "fraEstadoActual",
+                                    "pctPV", "pctTV", "pctTS", "cmdInforme", "cmdEnvBaseDatos"})
             QVERIFY2(p.Control(visible)->isVisible(), visible);
         QVERIFY(!p.f.pctHS()->isVisible());
         for (const char* encendido : {"mnuInforme", "mnuBDatos", "mnuGuardar", "mnuVerTodo", "mnuVerCiclo"})
@@ -97,10 +97,10 @@ private slots:
             }
         }
         const std::pair<const char*, const std::string*> procesos[] = {
-            {"lblW12", &t.lblW12}, {"lblW34", &t.lblW34}, {"lblW45", &t.lblW45}, {"lblQ23", &t.lblQ23},
-            {"lblQ34", &t.lblQ34}, {"lblWciclo", &t.lblWciclo}, {"lblQciclo", &t.lblQciclo},
-            {"lblRen", &t.lblRen}, {"lblG12", &t.lblG12}, {"lblG2", &t.lblG2}, {"lblG45", &t.lblG45},
-            {"lblG5", &t.lblG5}};
+            {"lblW12", &t.lblW12},       {"lblW34", &t.lblW34}, {"lblW45", &t.lblW45},
+            {"lblQ23", &t.lblQ23},       {"lblQ34", &t.lblQ34}, {"lblWciclo", &t.lblWciclo},
+            {"lblQciclo", &t.lblQciclo}, {"lblRen", &t.lblRen}, {"lblG12", &t.lblG12},
+            {"lblG2", &t.lblG2},         {"lblG45", &t.lblG45}, {"lblG5", &t.lblG5}};
         for (const auto& [nombre, texto] : procesos) QCOMPARE(p.Etiqueta(nombre), Q(*texto));
         QCOMPARE(Hijo<QLineEdit>(&p.f, "txtCilindrada")->text(), QStringLiteral("100"));
         QCOMPARE(Hijo<QLineEdit>(&p.f, "txtConsumoMJ")->text(), Q(t.txtConsumoMJ));
@@ -157,11 +157,11 @@ private slots:
         // The window stays in front to be corrected.
         QVERIFY(p.f.Otto_Diesel()->isVisible());
         QCOMPARE(p.Etapas(), QStringLiteral("1111"));
-        for (const char* oculto : {"fraPuntos", "fraTransformaciones", "fraPotencia", "pctPV", "pctTV", "pctTS",
-                                   "cmdInforme", "cmdEnvBaseDatos"})
+        for (const char* oculto : {"fraPuntos", "fraTransformaciones", "fraPotencia", "pctPV", "pctTV",
+                                   "pctTS", "cmdInforme", "cmdEnvBaseDatos"})
             QVERIFY2(!p.Control(oculto)->isVisible(), oculto);
         QVERIFY(!Dibujada(p.f.pctPV()) && !Dibujada(p.f.pctTV()) && !Dibujada(p.f.pctTS()));
-        QVERIFY(Dibujada(p.f.pctHS()));  // h-s keeps its old picture
+        QVERIFY(Dibujada(p.f.pctHS()));          // h-s keeps its old picture
         QCOMPARE(p.Etiqueta("lblP2"), p2Antes);  // the labels keep the former figures
         QVERIFY(!p.Menu("mnuInforme")->isEnabled());
         QVERIFY(p.Menu("mnuCalcular")->isEnabled());
@@ -197,8 +197,9 @@ private slots:
         p.Menu(menu.toLatin1().constData())->trigger();
         QCOMPARE(p.Etapas(), etapas);
         QCOMPARE(p.f.AireHumedad()->isVisible(), abreAire);
-        for (const char* oculto : {"fraPuntos", "fraTransformaciones", "fraPotencia", "fraEstadoActual", "pct2",
-                                   "pct3", "pctPV", "pctTV", "pctTS", "cmdInforme", "cmdEnvBaseDatos"})
+        for (const char* oculto :
+             {"fraPuntos", "fraTransformaciones", "fraPotencia", "fraEstadoActual", "pct2", "pct3", "pctPV",
+              "pctTV", "pctTS", "cmdInforme", "cmdEnvBaseDatos"})
             QVERIFY2(!p.Control(oculto)->isVisible(), oculto);
         QVERIFY(!p.Menu("mnuInforme")->isEnabled());
         QVERIFY(!p.Menu("mnuCalcular")->isEnabled());

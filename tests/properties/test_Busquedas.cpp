@@ -103,8 +103,10 @@ TEST_F(Busquedas, UnknownFluidIsToldAtStartAndEnd) {
     PonerEstadoInicial(e, dlg, 1e5, 0.001, 300, 0, 0);
     PonerEstadoFinal(e, dlg, 0, 0, 1e5, 0.001, 300);
     ASSERT_EQ(dlg.mensajes.size(), 2u);
-    EXPECT_EQ(dlg.mensajes[0], " Debe especificar si al comienzo de la transformación es aire, humo o aire con humos");
-    EXPECT_EQ(dlg.mensajes[1], " Debe especificar si al final de la transformación es aire, humo o aire con humos");
+    EXPECT_EQ(dlg.mensajes[0],
+              " Debe especificar si al comienzo de la transformación es aire, humo o aire con humos");
+    EXPECT_EQ(dlg.mensajes[1],
+              " Debe especificar si al final de la transformación es aire, humo o aire con humos");
     EXPECT_EQ(e.ErrorCalculo, 0);
 }
 

@@ -41,7 +41,8 @@ TEST(CalcularEspeciesTest, EnthalpiesAreSensibleFrom298K) {
     Estado e = A(298.15);
     DialogosGrabados dlg;
     CalcularEspecies(e, dlg);
-    for (double h : {e.hArBaja, e.hCOBaja, e.hCO2Baja, e.hH2OBaja, e.hN2Baja, e.hO2Baja}) EXPECT_LT(std::fabs(h), 0.00023);
+    for (double h : {e.hArBaja, e.hCOBaja, e.hCO2Baja, e.hH2OBaja, e.hN2Baja, e.hO2Baja})
+        EXPECT_LT(std::fabs(h), 0.00023);
     EXPECT_DOUBLE_EQ(e.CpArBaja, 20.78575);
     Estado alta = A(3000);
     CalcularEspecies(alta, dlg);
@@ -59,9 +60,10 @@ TEST(CalcularEspeciesTest, LimitOf7500KTestsTheTemperatureBeforeTheFlag) {
     Estado e = A(7500.01);
     CalcularEspecies(e, dlg);
     ASSERT_EQ(dlg.mensajes.size(), 1u);
-    EXPECT_EQ(dlg.mensajes[0],
-              "Se ha superado la temperatura máxima que admite el programa 5000 K, Temperatura que provocó el "
-              "error =     7 500 K");
+    EXPECT_EQ(
+        dlg.mensajes[0],
+        "Se ha superado la temperatura máxima que admite el programa 5000 K, Temperatura que provocó el "
+        "error =     7 500 K");
     EXPECT_EQ(e.ErrorCalculo, Verdadero);
     EXPECT_EQ(e.CpN2Alta, 0);  // nothing evaluated
     CalcularEspecies(e, dlg);  // a direct second call tells it again

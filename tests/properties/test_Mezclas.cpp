@@ -24,10 +24,9 @@ struct Mezclas : ::testing::Test {
 TEST_F(Mezclas, DryAirSumsFourEntropyTermsAndMatchesAtReferencePressure) {
     En(300, 100000);
     PropiedadesAire(e, dlg);
-    const double esperado = 0.20946 * (e.S0O2Baja - kR * std::log(0.20946)) +
-                            0.00934 * (e.S0ArBaja - kR * std::log(0.00934)) +
-                            0.00033 * (e.S0CO2Baja - kR * std::log(0.00033)) +
-                            0.78087 * (e.S0N2Baja - kR * std::log(0.78087));
+    const double esperado =
+        0.20946 * (e.S0O2Baja - kR * std::log(0.20946)) + 0.00934 * (e.S0ArBaja - kR * std::log(0.00934)) +
+        0.00033 * (e.S0CO2Baja - kR * std::log(0.00033)) + 0.78087 * (e.S0N2Baja - kR * std::log(0.78087));
     EXPECT_EQ(e.S0Aire, esperado);
     EXPECT_NEAR(e.SAire, e.S0Aire, 1e-12);
     EXPECT_EQ(e.CvAire, e.CpAire - 8.3143);

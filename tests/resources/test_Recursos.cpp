@@ -274,7 +274,6 @@ private slots:
         QVERIFY(!IsbnValido(QStringLiteral("0-07-028637")));
         QVERIFY(!IsbnValido(QString()));
     }
-
 };
 
 namespace {

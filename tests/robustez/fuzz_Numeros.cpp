@@ -24,17 +24,42 @@ using namespace vanta;
 
 // The masks of the program, and some of every shape.
 constexpr std::string_view kMascaras[] = {
-    "### ### ### ### ###", "### ### ### ### ##0.00", "##0.00", "# ##0.0## ###", "# ##0.0## ### ###",
-    "0.0##", "### ##0.0## ###", "### ### ### ##0.00", "### ### ### ##0.000", "### ### ##0.0## ### ###",
-    "### ### ##0.0## ###", "### ### ##0.0##", "### ### ##0.0", "### ### ##00", "##0.0##",
-    "### ### ##0.00", "### ##0.00", "### ### ### ##0.0", "### ### ### ### ##0.0", "### ### ### ### ### ###",
-    "", "#", "0", ".", "#.#", "0.0", " ", "00.00 0", "#.", ".0",
+    "### ### ### ### ###",
+    "### ### ### ### ##0.00",
+    "##0.00",
+    "# ##0.0## ###",
+    "# ##0.0## ### ###",
+    "0.0##",
+    "### ##0.0## ###",
+    "### ### ### ##0.00",
+    "### ### ### ##0.000",
+    "### ### ##0.0## ### ###",
+    "### ### ##0.0## ###",
+    "### ### ##0.0##",
+    "### ### ##0.0",
+    "### ### ##00",
+    "##0.0##",
+    "### ### ##0.00",
+    "### ##0.00",
+    "### ### ### ##0.0",
+    "### ### ### ### ##0.0",
+    "### ### ### ### ### ###",
+    "",
+    "#",
+    "0",
+    ".",
+    "#.#",
+    "0.0",
+    " ",
+    "00.00 0",
+    "#.",
+    ".0",
 };
 constexpr size_t kNumMascaras = sizeof kMascaras / sizeof kMascaras[0];
 
 [[noreturn]] void Fallo(const char* que, std::string_view texto, const std::string& detalle) {
-    std::fprintf(stderr, "\n*** %s\n    texto: \"%.*s\"\n    %s\n", que, static_cast<int>(texto.size()), texto.data(),
-                 detalle.c_str());
+    std::fprintf(stderr, "\n*** %s\n    texto: \"%.*s\"\n    %s\n", que, static_cast<int>(texto.size()),
+                 texto.data(), detalle.c_str());
     std::abort();
 }
 
@@ -47,8 +72,7 @@ bool TienePalabraNoFinita(const std::string& s) {
 void ComprobarTexto(const char* de, double x, std::string_view entrada, const std::string& salida) {
     if (TienePalabraNoFinita(salida)) Fallo(de, entrada, "escribe \"" + salida + "\"");
     const bool nd = salida.find("N.D.") != std::string::npos;
-    if (nd != !std::isfinite(x))
-        Fallo(de, entrada, "escribe \"" + salida + "\" para " + std::to_string(x));
+    if (nd != !std::isfinite(x)) Fallo(de, entrada, "escribe \"" + salida + "\" para " + std::to_string(x));
 }
 
 void ComprobarNumero(double x, std::string_view entrada, std::string_view mascara) {
@@ -84,7 +108,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, size_t n) {
         const auto w = LeerNumero(general);
         if (!w) Fallo("TextoGeneral", texto, "\"" + general + "\" no se lee como número");
         if (TextoGeneral(*w) != general)
-            Fallo("TextoGeneral", texto, "\"" + general + "\" se lee y se escribe \"" + TextoGeneral(*w) + "\"");
+            Fallo("TextoGeneral", texto,
+                  "\"" + general + "\" se lee y se escribe \"" + TextoGeneral(*w) + "\"");
         if (std::fabs(*w - *v) > 1e-14 * std::fabs(*v))
             Fallo("TextoGeneral", texto, "\"" + general + "\" se aleja del número leído");
     }

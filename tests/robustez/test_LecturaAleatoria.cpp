@@ -19,8 +19,8 @@
 #include "Aleatorios.h"
 #include "Ejecucion.h"
 #include "Vigilancia.h"
-#include "core/fluids/Combustible.h"
 #include "core/diagrams/LecturaRaton.h"
+#include "core/fluids/Combustible.h"
 #include "core/services/Numeros.h"
 
 namespace vanta::prueba {

@@ -37,7 +37,7 @@ TEST_F(FormatTest, DigitPlacesAndTrailingHashes) {
 }
 
 TEST_F(FormatTest, RoundsHalfAwayFromZeroAndOverflowsToTheLeft) {
-    EXPECT_EQ(Format(0.125, "0.00"), "0.13");   // an exact tie goes up
+    EXPECT_EQ(Format(0.125, "0.00"), "0.13");  // an exact tie goes up
     EXPECT_EQ(Format(-0.125, "0.00"), "-0.13");
     EXPECT_EQ(Format(2.5, "##0"), "3");
     EXPECT_EQ(Format(9.9996, "##0.000"), "10.000");
@@ -118,8 +118,8 @@ TEST(LeerNumeroTest, PointRuleAndCommaRule) {
 }
 
 TEST(LeerNumeroTest, RejectsWhatIsNotANumber) {
-    for (const char* t : {"", "   ", "-", "abc", "1a", "nan", "inf", "1,2,3", "1..2", "1.2.3,4,5", "1e", "1e400",
-                          "1,234.5", "12.34.56", "--1", "1 2", "0x10"})
+    for (const char* t : {"", "   ", "-", "abc", "1a", "nan", "inf", "1,2,3", "1..2", "1.2.3,4,5", "1e",
+                          "1e400", "1,234.5", "12.34.56", "--1", "1 2", "0x10"})
         EXPECT_FALSE(LeerNumero(t).has_value()) << '"' << t << '"';
 }
 

@@ -18,8 +18,8 @@
 #include "../mainwindow/Programa.h"
 #include "../mainwindow/Pruebas.h"
 #include "app/LineaComandos.h"
-#include "gui/reports/DialogosInforme.h"
 #include "core/services/Numeros.h"
+#include "gui/reports/DialogosInforme.h"
 #include "gui/tables/frmHerramientas.h"
 #include "gui/tables/frmTablas.h"
 

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <string_view>
 
-#include "core/cycle/Transformaciones.h"
 #include "core/cycle/DibujoDiagramas.h"
+#include "core/cycle/Transformaciones.h"
 #include "core/properties/Busquedas.h"
 #include "core/properties/Especies.h"
 #include "core/properties/Mezclas.h"
@@ -31,15 +31,20 @@ constexpr std::string_view kMensajeP1 = "La presión al final de la admisión de
 constexpr std::string_view kMensajeT1 = "La temperatura al final de la admisión debe ser mayor que cero";
 constexpr std::string_view kMensajeExponente = "El exponente politrópico n debe ser mayor que 1";
 constexpr std::string_view kMensajePropNegativa = "El % de calor a volumen constante no puede ser negativo";
-constexpr std::string_view kCausaMasas = "las masas o el calor del ciclo salen del intervalo de los números del programa";
+constexpr std::string_view kCausaMasas =
+    "las masas o el calor del ciclo salen del intervalo de los números del programa";
 constexpr std::string_view kCausaVolumenNulo =
-    "el volumen al final de la compresión es tan pequeño que no se distingue de cero; revise la cilindrada y la "
+    "el volumen al final de la compresión es tan pequeño que no se distingue de cero; revise la cilindrada y "
+    "la "
     "relación de compresión";
 constexpr std::string_view kCausaDiagramas =
-    "los valores del ciclo no caben en las escalas de los diagramas, o el ciclo no tiene extensión en alguno de "
+    "los valores del ciclo no caben en las escalas de los diagramas, o el ciclo no tiene extensión en alguno "
+    "de "
     "ellos";
-constexpr std::string_view kCausaPotencia = "la potencia a ese régimen sale del intervalo de los números del programa";
-constexpr std::string_view kCausaCierre = "el trabajo o el combustible del ciclo son cero y el consumo no se puede calcular";
+constexpr std::string_view kCausaPotencia =
+    "la potencia a ese régimen sale del intervalo de los números del programa";
+constexpr std::string_view kCausaCierre =
+    "el trabajo o el combustible del ciclo son cero y el consumo no se puede calcular";
 
 // With Rc above this the focus goes to the compression ratio instead of Pmax.
 constexpr double kRcFocoPmax = 30;
@@ -150,18 +155,29 @@ void EstadoUno(Estado& e, Dialogos& dlg) {
     LeerEstadoFinal(e, e.p1, e.V1, e.T1, e.h1, e.S1);
 }
 
-void LeerEstado2(Estado& e) { LeerEstadoFinal(e, e.p2, e.V2, e.T2, e.h2, e.S2); }
-void LeerEstado3(Estado& e) { LeerEstadoFinal(e, e.p3, e.V3, e.T3, e.h3, e.S3); }
-void LeerEstado4(Estado& e) { LeerEstadoFinal(e, e.p4, e.V4, e.T4, e.h4, e.S4); }
-void LeerEstado5(Estado& e) { LeerEstadoFinal(e, e.p5, e.V5, e.T5, e.h5, e.S5); }
+void LeerEstado2(Estado& e) {
+    LeerEstadoFinal(e, e.p2, e.V2, e.T2, e.h2, e.S2);
+}
+void LeerEstado3(Estado& e) {
+    LeerEstadoFinal(e, e.p3, e.V3, e.T3, e.h3, e.S3);
+}
+void LeerEstado4(Estado& e) {
+    LeerEstadoFinal(e, e.p4, e.V4, e.T4, e.h4, e.S4);
+}
+void LeerEstado5(Estado& e) {
+    LeerEstadoFinal(e, e.p5, e.V5, e.T5, e.h5, e.S5);
+}
 
 // The share of the heat released at constant volume, taken first, so that
 // 100 % gives Qciclo itself.
-double CalorVolumenConstanteMixto(const Estado& e) { return e.PropVcte / 100 * e.Qciclo; }
+double CalorVolumenConstanteMixto(const Estado& e) {
+    return e.PropVcte / 100 * e.Qciclo;
+}
 
 // Step 13: the silent compression, by the option selected.
 void CompresionSilenciosa(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
-    if (c.optGvariable.Value()) Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, kSinDibujar);
+    if (c.optGvariable.Value())
+        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, kSinDibujar);
     if (c.optGmedioCom.Value()) {
         c.txtGammaMedioComp.SetText(TextoGeneral(e.GammaMedio));
         Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(), kSinDibujar);
@@ -310,7 +326,9 @@ void FormCiclo_Load(Estado& e, ControlesCiclo& c) {
     c.txtT1.SetText(TextoGeneral(e.Tambiente));
 }
 
-void FormCiclo_Activate(Estado& e) { e.ErrorCalculo = Falso; }
+void FormCiclo_Activate(Estado& e) {
+    e.ErrorCalculo = Falso;
+}
 
 void imgOtto_Click(Estado& e, FormularioCiclo& f) {
     e.TipoCiclo = kCicloOtto;
@@ -333,10 +351,18 @@ void imgMixto_Click(Estado& e, FormularioCiclo& f) {
     f.ResaltarCiclo(false, false, true);
 }
 
-void ElegirModeloCompresion(Estado& e, double modelo) { e.ModeloCompresion = modelo; }
-void ElegirModeloExpansion(Estado& e, double modelo) { e.ModeloExpansion = modelo; }
-void optProporcion_Click(Estado& e) { e.OpcionProporcion = Verdadero; }
-void optPmax_Click(Estado& e) { e.OpcionProporcion = Falso; }
+void ElegirModeloCompresion(Estado& e, double modelo) {
+    e.ModeloCompresion = modelo;
+}
+void ElegirModeloExpansion(Estado& e, double modelo) {
+    e.ModeloExpansion = modelo;
+}
+void optProporcion_Click(Estado& e) {
+    e.OpcionProporcion = Verdadero;
+}
+void optPmax_Click(Estado& e) {
+    e.OpcionProporcion = Falso;
+}
 
 void txtPropVcte_Change(Estado& e, Dialogos& dlg, ControlesCiclo& c) {
     ValidarNumero(e, dlg, c.txtPropVcte, e.PropVcte, "%");
@@ -441,7 +467,8 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     if (c.chkOcultar.Value()) c.ventana.Hide();
 }
 
-void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPotencia, CajaTexto& txtPotenciaCV) {
+void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPotencia,
+                   CajaTexto& txtPotenciaCV) {
     if (txtRpm.Text().empty()) return;
     double rpm = 0;
     ValidarNumero(e, dlg, txtRpm, rpm, " rpm ");

@@ -10,7 +10,9 @@ namespace {
 constexpr double kMargen = 0.08;
 constexpr int32_t kNegro = 0;
 
-float F(double v) { return static_cast<float>(v); }
+float F(double v) {
+    return static_cast<float>(v);
+}
 
 // Text with its top-left corner at (x, y).
 void ImprimirEn(Superficie& s, double x, double y, std::string_view texto) {
@@ -60,10 +62,12 @@ bool EscalarDiagramas(const Estado& e, Diagramas& g) {
         return false;
 
     tv.Aplicar(g.pctTV);
-    ImprimirEn(g.pctTV, V2 - 0.05 * dV, -e.T1 - 0.05 * dT + 0.6 * g.pctTV.TextHeight("DIAGRAMA TV"), "  DIAGRAMA TV");
+    ImprimirEn(g.pctTV, V2 - 0.05 * dV, -e.T1 - 0.05 * dT + 0.6 * g.pctTV.TextHeight("DIAGRAMA TV"),
+               "  DIAGRAMA TV");
 
     pv.Aplicar(g.pctPV);
-    ImprimirEn(g.pctPV, V2 - 0.05 * dV, -e.p1 - 0.05 * dP + 0.6 * g.pctPV.TextHeight("DIAGRAMA PV"), "DIAGRAMA PV");
+    ImprimirEn(g.pctPV, V2 - 0.05 * dV, -e.p1 - 0.05 * dP + 0.6 * g.pctPV.TextHeight("DIAGRAMA PV"),
+               "DIAGRAMA PV");
 
     hs.Aplicar(g.pctHS);
     ImprimirEn(g.pctHS, e.S1 - kMargen * dS, -HM - kMargen * dH, "DIAGRAMA h-s");

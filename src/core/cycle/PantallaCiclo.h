@@ -28,8 +28,9 @@ public:
 
 struct PantallaCicloSimple {
     CajaTextoSimple txtCilindrada{kTextoCilindrada}, txtRc{kTextoRc}, txtP1{kTextoP1}, txtT1{kTextoT1},
-        txtPropVcte{kTextoPropVcte}, txtPMax{kTextoPMax}, txtPropPcte{kTextoPropPcte}, txt_nExp{kTextoNExpansion},
-        txt_nCom{kTextoNCompresion}, txtGammaMedioComp{kTextoGammaMedioComp}, txtGMedioExp{kTextoGammaMedioExp};
+        txtPropVcte{kTextoPropVcte}, txtPMax{kTextoPMax}, txtPropPcte{kTextoPropPcte},
+        txt_nExp{kTextoNExpansion}, txt_nCom{kTextoNCompresion}, txtGammaMedioComp{kTextoGammaMedioComp},
+        txtGMedioExp{kTextoGammaMedioExp};
     // As the window opens: mean exponents, maximum pressure, hide after a success.
     InterruptorSimple optProporcion, optPmax{true}, optGvariable, optGmedioCom{true}, optPolitropicaCom,
         optGvariableExp, optGmedioExp{true}, optPolitropica, chkOcultar{true};
@@ -37,10 +38,16 @@ struct PantallaCicloSimple {
     FormularioCicloNulo formulario;
 
     ControlesCiclo Controles() {
-        return {txtCilindrada, txtRc,        txtP1,         txtT1,          txtPropVcte,
-                txtPMax,       txtPropPcte,  txt_nExp,      txt_nCom,       txtGammaMedioComp,
-                txtGMedioExp,  optProporcion, optPmax,      optGvariable,   optGmedioCom,
-                optPolitropicaCom, optGvariableExp, optGmedioExp, optPolitropica, chkOcultar,
+        return {txtCilindrada,   txtRc,
+                txtP1,           txtT1,
+                txtPropVcte,     txtPMax,
+                txtPropPcte,     txt_nExp,
+                txt_nCom,        txtGammaMedioComp,
+                txtGMedioExp,    optProporcion,
+                optPmax,         optGvariable,
+                optGmedioCom,    optPolitropicaCom,
+                optGvariableExp, optGmedioExp,
+                optPolitropica,  chkOcultar,
                 ventana};
     }
 };

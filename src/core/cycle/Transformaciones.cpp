@@ -14,7 +14,8 @@ namespace vanta {
 namespace {
 
 constexpr std::string_view kMensajeModelo = "Error interno Vanta:  Gmedio_1_Poli_2_Gvariable_3";
-constexpr std::string_view kMensajeTemperaturaIsobara = " Ha superado la temperatura máxima admitida por el programa ";
+constexpr std::string_view kMensajeTemperaturaIsobara =
+    " Ha superado la temperatura máxima admitida por el programa ";
 constexpr std::string_view kMensajeVolumenExcesivo =
     "No es posible este ciclo, el volumen final, sin sobrepasar la presión máxima, es excesivamente grande";
 constexpr std::string_view kMensajeIsocoraNoConverge =
@@ -36,7 +37,8 @@ constexpr std::string_view kCausaFraccionQuemada =
     "la presión del gas quemado es igual a la del gas fresco y el grado de combustión no se puede hallar";
 constexpr std::string_view kCausaEstadoInicial = "el estado del comienzo de la combustión no es válido";
 constexpr std::string_view kCausaCombustionFueraDeRango =
-    "las presiones o el calor por mol de la combustión salen del intervalo de los números del programa; revise "
+    "las presiones o el calor por mol de la combustión salen del intervalo de los números del programa; "
+    "revise "
     "la cilindrada y el combustible";
 constexpr std::string_view kCausaPasoNulo =
     "el paso de volumen es tan pequeño frente al volumen que la carrera no avanza; revise la cilindrada y la "
@@ -48,7 +50,9 @@ constexpr int kPasosMaximosPmax = 2000;
 constexpr int kProfundidadMaximaIsobara = 200;
 constexpr double kTemperaturaSuperiorIsobara = 5000;
 
-float F(double v) { return static_cast<float>(v); }
+float F(double v) {
+    return static_cast<float>(v);
+}
 
 void PuntoEnDiagramas(Diagramas& g, double V, double T, double p, double s, double h) {
     g.pctTV.PSet(F(V), F(-T));
@@ -83,9 +87,11 @@ void ExponentePaso(Estado& e, double modelo, double exponente) {
 }
 
 // The exponent at the start of a stroke; Fluido 1 air, 2 gases.
-void ExponenteInicial(Estado& e, Dialogos& dlg, double modelo, double volumenFinal, double exponente, int fluido) {
+void ExponenteInicial(Estado& e, Dialogos& dlg, double modelo, double volumenFinal, double exponente,
+                      int fluido) {
     if (modelo == kModeloGammaMedio) {
-        BuscarGammaMedio(e, dlg, e.PresionInicial, e.VolumenInicial, volumenFinal, e.TemperaturaInicial, fluido);
+        BuscarGammaMedio(e, dlg, e.PresionInicial, e.VolumenInicial, volumenFinal, e.TemperaturaInicial,
+                         fluido);
         e.Gamma = e.GammaMedio.Numero();
     } else if (modelo == kModeloPolitropico) {
         e.GammaInicial = " N.D.";
@@ -96,7 +102,8 @@ void ExponenteInicial(Estado& e, Dialogos& dlg, double modelo, double volumenFin
 }
 
 void PonerInicioDesdeFinal(Estado& e, Dialogos& dlg) {
-    PonerEstadoInicial(e, dlg, e.PresionFinal, e.VolumenFinal, e.TemperaturaFinal, e.EntalpiaFinal, e.EntropiaFinal);
+    PonerEstadoInicial(e, dlg, e.PresionFinal, e.VolumenFinal, e.TemperaturaFinal, e.EntalpiaFinal,
+                       e.EntropiaFinal);
 }
 
 // A step below half the spacing of the doubles at the volume (a compression
@@ -159,7 +166,8 @@ void BuscarGradoCombustionPmax(Estado& e, Dialogos& dlg) {
             return;
         }
         e.MolesQuemados = (e.MolesInferior + e.MolesSuperior) / 2;
-        e.Presion = (e.MolesHumos - e.MolesQuemados) * e.PresionMolFresco + e.PresionMolQuemado * e.MolesQuemados;
+        e.Presion =
+            (e.MolesHumos - e.MolesQuemados) * e.PresionMolFresco + e.PresionMolQuemado * e.MolesQuemados;
         if (std::fabs(e.Presion - e.Pmax) < 0.001) {
             e.Presion = e.Pmax;
             e.TipoFluido = kFluidoAireHumos;
@@ -286,7 +294,8 @@ void ColaIsobara(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, d
 // call returns, and every call ends with the tail. Here the descent is a loop
 // that remembers which levels raised the lower bound, and the unwinding
 // replays the second calls and the tails in the same order.
-void CalorPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor, int dibujar) {
+void CalorPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor,
+                           int dibujar) {
     std::vector<bool> subioInferior;
     bool volumenAvisado = false;
     for (;;) {
@@ -329,7 +338,8 @@ void TrazarPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, int dibujar)
     e.Temperatura = e.TemperaturaInicial;
     // The share of gases goes linearly in T from the share at state 3 to 1.
     auto fraccion = [&] {
-        return e.FraccionQuemada + (1 - e.FraccionQuemada) * (e.Temperatura - e.T3) / (e.TemperaturaFinal - e.T3);
+        return e.FraccionQuemada +
+               (1 - e.FraccionQuemada) * (e.Temperatura - e.T3) / (e.TemperaturaFinal - e.T3);
     };
     while (e.TemperaturaFinal - 1 > e.Temperatura && !e.ErrorCalculo) {
         e.Temperatura += 1;
@@ -389,8 +399,8 @@ void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vo
         PropiedadesAire(e, dlg);
         ExponentePaso(e, modelo, exponente);
         if (dibujar == kDibujar)
-            LineaEnDiagramas(g, e.VolumenProporcional, e.TemperaturaPolitropica, e.PresionPolitropica, e.SAire,
-                             e.hAire);
+            LineaEnDiagramas(g, e.VolumenProporcional, e.TemperaturaPolitropica, e.PresionPolitropica,
+                             e.SAire, e.hAire);
         e.Volumen = e.VolumenProporcional;
         e.Temperatura = e.TemperaturaPolitropica;
         e.Presion = e.PresionPolitropica;

@@ -7,7 +7,9 @@ namespace vanta::bd {
 namespace {
 
 // [x, d]: rounded, then the general conversion.
-std::string R(double x, int d) { return TextoGeneral(Round(x, d)); }
+std::string R(double x, int d) {
+    return TextoGeneral(Round(x, d));
+}
 
 std::string Unir(std::initializer_list<std::string_view> piezas) {
     std::string s;
@@ -18,8 +20,8 @@ std::string Unir(std::initializer_list<std::string_view> piezas) {
 }  // namespace
 
 std::string NombrePorDefecto(const Estado& e, std::string_view tipoCombustible) {
-    return Unir({"Aire ", TextoGeneral(e.Humedad), " % de humedad    ", tipoCombustible, "  Fr = ", TextoGeneral(e.Fr),
-                 "   ", e.TipoCiclo});
+    return Unir({"Aire ", TextoGeneral(e.Humedad), " % de humedad    ", tipoCombustible,
+                 "  Fr = ", TextoGeneral(e.Fr), "   ", e.TipoCiclo});
 }
 
 TextosRegistro ValoresRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
@@ -135,8 +137,12 @@ std::string SQLLeer(const Columnas& columnas) {
 
 }  // namespace
 
-std::string SQLLeerTextos() { return SQLLeer(kColumnasTexto); }
-std::string SQLLeerImagenes() { return SQLLeer(kColumnasImagen); }
+std::string SQLLeerTextos() {
+    return SQLLeer(kColumnasTexto);
+}
+std::string SQLLeerImagenes() {
+    return SQLLeer(kColumnasImagen);
+}
 
 // ---- Texts -------------------------------------------------------------------------
 
@@ -147,7 +153,8 @@ std::string CausaSQLite(int codigo, std::string_view descripcion) {
             return "el archivo es de solo lectura";
         case 5:  // SQLITE_BUSY
         case 6:  // SQLITE_LOCKED
-            return "otro programa (quizá otra Vanta) está usando la base de datos; inténtelo de nuevo más tarde";
+            return "otro programa (quizá otra Vanta) está usando la base de datos; inténtelo de nuevo más "
+                   "tarde";
         case 10:  // SQLITE_IOERR
             return "error de lectura o escritura en el disco";
         case 11:  // SQLITE_CORRUPT

@@ -161,7 +161,8 @@ std::string SQLLeerImagenes();
 
 inline constexpr std::string_view kPromptGuardar = "Guardar en un registro de la base de datos como: ";
 inline constexpr std::string_view kMsgSinRegistros = "La base de datos no contiene registros";
-inline constexpr std::string_view kMsgRegistroBorrado = "Se ha borrado el registro seleccionado permanentemente";
+inline constexpr std::string_view kMsgRegistroBorrado =
+    "Se ha borrado el registro seleccionado permanentemente";
 
 // What went wrong with the file, in Spanish, from an SQLite result code
 // (primary or extended); descripcion is the engine's own text, for the codes

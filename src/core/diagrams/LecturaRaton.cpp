@@ -30,7 +30,9 @@ std::string_view TextoModelo(double modelo, std::string_view medio, std::string_
 }
 
 // A state value as the comparisons with the pointer take it: single precision.
-float S(double v) { return static_cast<float>(v); }
+float S(double v) {
+    return static_cast<float>(v);
+}
 
 // The state the pointer means.
 struct Punto {
@@ -106,13 +108,13 @@ void PuntoEn(Diagramas& g, double V, double T, double p, double s, double h) {
 void Recorrer(Estado& e, Dialogos& dlg, Diagramas& g, bool compresion, double X) {
     if (compresion) {
         PuntoEn(g, e.V1, e.T1, e.p1, e.S1, e.h1);
-        CopiarCincoValores(e.PresionFinal, e.p1, e.VolumenFinal, e.V1, e.TemperaturaFinal, e.T1, e.EntalpiaFinal,
-                           e.h1, e.EntropiaFinal, e.S1);
+        CopiarCincoValores(e.PresionFinal, e.p1, e.VolumenFinal, e.V1, e.TemperaturaFinal, e.T1,
+                           e.EntalpiaFinal, e.h1, e.EntropiaFinal, e.S1);
         Compresion(e, dlg, g, e.ModeloCompresion, X, e.PasoVolumen, 1, kDibujar);
     } else {
         PuntoEn(g, e.V4, e.T4, e.p4, e.S4, e.h4);
-        CopiarCincoValores(e.PresionFinal, e.p4, e.VolumenFinal, e.V4, e.TemperaturaFinal, e.T4, e.EntalpiaFinal,
-                           e.h4, e.EntropiaFinal, e.S4);
+        CopiarCincoValores(e.PresionFinal, e.p4, e.VolumenFinal, e.V4, e.TemperaturaFinal, e.T4,
+                           e.EntalpiaFinal, e.h4, e.EntropiaFinal, e.S4);
         Expansion(e, dlg, g, e.ModeloExpansion, X, e.PasoVolumen, 1);
     }
 }
@@ -148,8 +150,7 @@ Punto RamaCarreras(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, float X, 
         x2.texto = kCombustionP;
         x2.fluido = kFluidoAireHumos;
         x2.T = x * e.T3 / e.V3, x2.p = e.p3;
-        x2.x = e.T4 == e.T3 ? 1
-                            : (x2.T - e.T3) * (1 - e.FraccionQuemada) / (e.T4 - e.T3) + e.FraccionQuemada;
+        x2.x = e.T4 == e.T3 ? 1 : (x2.T - e.T3) * (1 - e.FraccionQuemada) / (e.T4 - e.T3) + e.FraccionQuemada;
     }
     const double d2 = std::fabs(Y + d.Q(x2.p, x2.T));
     return d1 <= d2 ? c : x2;

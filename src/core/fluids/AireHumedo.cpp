@@ -14,9 +14,12 @@ constexpr double kTemperaturaMinima = 250.0;
 constexpr double kTemperaturaMaxima = 5000.0;
 constexpr std::string_view kMensajeTemperaturaBaja = " La temperatura ha de ser mayor a 300 K ";
 constexpr std::string_view kMensajeTemperaturaAlta = " La temperatura ha de ser menor a 5 000 K ";
-constexpr std::string_view kMensajeSuma = "Se ha producido el siguiente error: La suma de las fracciones molares del aire = ";
-constexpr std::string_view kCausaPresionNula = "la presión ambiente es cero y la fracción de vapor de agua no se puede calcular";
-constexpr std::string_view kCausaFueraDeRango = "la composición del aire sale del intervalo de los números del programa";
+constexpr std::string_view kMensajeSuma =
+    "Se ha producido el siguiente error: La suma de las fracciones molares del aire = ";
+constexpr std::string_view kCausaPresionNula =
+    "la presión ambiente es cero y la fracción de vapor de agua no se puede calcular";
+constexpr std::string_view kCausaFueraDeRango =
+    "la composición del aire sale del intervalo de los números del programa";
 }  // namespace
 
 bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
@@ -48,7 +51,8 @@ bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
     const double xO2 = kAireSecoO2 - xH2O * kAireSecoO2;
     const double xAr = kAireSecoAr - xH2O * kAireSecoAr;
     const double xCO2 = kAireSecoCO2 - xH2O * kAireSecoCO2;
-    const double masaMolecular = xO2 * 0.032 + xN2 * 0.028018 + xCO2 * 0.044011 + xAr * 0.039948 + xH2O * 0.018016;
+    const double masaMolecular =
+        xO2 * 0.032 + xN2 * 0.028018 + xCO2 * 0.044011 + xAr * 0.039948 + xH2O * 0.018016;
     if (!std::isfinite(masaMolecular) || !std::isfinite(xH2O * 100)) {
         FalloAritmetico(e, dlg, kCausaFueraDeRango);
         return false;

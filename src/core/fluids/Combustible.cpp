@@ -21,7 +21,8 @@ constexpr std::string_view kMensajeSinCarbonoNiHidrogeno =
 constexpr std::string_view kCausaMasaFormula =
     "la masa molecular que resulta de la fórmula es nula o negativa; revise el número de átomos";
 constexpr std::string_view kCausaMasaMolecular = "la masa molecular del combustible ha de ser mayor que cero";
-constexpr std::string_view kCausaFueraDeRango = "los valores del combustible salen del intervalo de los números del programa";
+constexpr std::string_view kCausaFueraDeRango =
+    "los valores del combustible salen del intervalo de los números del programa";
 
 // A box left empty reads as "0".
 void CeroSiVacia(std::initializer_list<CajaTexto*> cajas) {
@@ -29,7 +30,9 @@ void CeroSiVacia(std::initializer_list<CajaTexto*> cajas) {
         if (caja->Text().empty()) caja->SetText("0");
 }
 
-void Mostrar(CajaTexto& caja, double x, int decimales) { caja.SetText(TextoGeneral(Round(x, decimales))); }
+void Mostrar(CajaTexto& caja, double x, int decimales) {
+    caja.SetText(TextoGeneral(Round(x, decimales)));
+}
 
 void GraficaYOcultar(Estado& e, ControlesCombustible& c) {
     GraficaCombustible(e, c.pct2, c.cboTipCom.Text());
@@ -73,12 +76,13 @@ void cboTipCom_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
         return;
     }
     c.txtEntPro.SetText(TextoGeneral(combustible->EntalpiaFormacion));
-    CombustibleTipo(e, dlg, c, combustible->C, combustible->H, combustible->N, combustible->O, combustible->S);
+    CombustibleTipo(e, dlg, c, combustible->C, combustible->H, combustible->N, combustible->O,
+                    combustible->S);
     GraficaYOcultar(e, c);
 }
 
-void CombustibleTipo(Estado& e, Dialogos& dlg, ControlesCombustible& c, double C, double H, double N, double O,
-                     double S) {
+void CombustibleTipo(Estado& e, Dialogos& dlg, ControlesCombustible& c, double C, double H, double N,
+                     double O, double S) {
     optFOR_Click(c);
     c.txtMolC.SetText(TextoGeneral(C));
     c.txtMolH.SetText(TextoGeneral(H));
@@ -102,8 +106,9 @@ void CalCien(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
         e.ErrorCalculo = Verdadero;
     }
     if (!e.ErrorCalculo) {
-        const double mC = e.AtomosC * kMasaAtomicaC, mH = e.AtomosH * kMasaAtomicaH, mN = e.AtomosN * kMasaAtomicaN,
-                     mO = e.AtomosO * kMasaAtomicaO, mS = e.AtomosS * kMasaAtomicaS;
+        const double mC = e.AtomosC * kMasaAtomicaC, mH = e.AtomosH * kMasaAtomicaH,
+                     mN = e.AtomosN * kMasaAtomicaN, mO = e.AtomosO * kMasaAtomicaO,
+                     mS = e.AtomosS * kMasaAtomicaS;
         const double masa = mC + mH + mN + mO + mS;
         // Only negative counts can bring the molar mass to zero or below.
         if (!(masa > 0)) {

@@ -100,27 +100,27 @@ public:
 
 // What the fuel screen gives the logic.
 struct ControlesCombustible {
-    CajaTexto& cboTipCom;   // the list: its current text; SetFocus gives it the focus
-    CajaTexto& txtC;        // % by mass of C
-    CajaTexto& txtN;        // % by mass of N
-    CajaTexto& txtO;        // % by mass of O
-    CajaTexto& txtS;        // % by mass of S
-    CajaTexto& txtH;        // % by mass of H, always computed
-    CajaTexto& txtMolC;     // atoms of C in the formula
-    CajaTexto& txtMolH;     // atoms of H
-    CajaTexto& txtMolN;     // atoms of N
-    CajaTexto& txtMolO;     // atoms of O
-    CajaTexto& txtMolS;     // atoms of S
-    CajaTexto& txtmmComb;   // molar mass, kg/mol (starts "0.1")
-    CajaTexto& txtEntPro;   // enthalpy of formation of the fuel, J/mol (starts "0")
-    CajaTexto& txtHcs;      // higher heating value shown, J/kg
-    CajaTexto& txtHci;      // lower heating value shown, J/kg
-    CajaTexto& txtQvap;     // heat of vaporisation of the water formed, J/kg
-    Interruptor& optMasa;   // input as mass percentages
-    Interruptor& optFOR;    // input as a formula
-    Interruptor& chkOcultar;  // hide the screen after a calculation
-    Ventana& ventana;       // the screen, to hide
-    Superficie& pct2;       // the fuel chart of the main window
+    CajaTexto& cboTipCom;               // the list: its current text; SetFocus gives it the focus
+    CajaTexto& txtC;                    // % by mass of C
+    CajaTexto& txtN;                    // % by mass of N
+    CajaTexto& txtO;                    // % by mass of O
+    CajaTexto& txtS;                    // % by mass of S
+    CajaTexto& txtH;                    // % by mass of H, always computed
+    CajaTexto& txtMolC;                 // atoms of C in the formula
+    CajaTexto& txtMolH;                 // atoms of H
+    CajaTexto& txtMolN;                 // atoms of N
+    CajaTexto& txtMolO;                 // atoms of O
+    CajaTexto& txtMolS;                 // atoms of S
+    CajaTexto& txtmmComb;               // molar mass, kg/mol (starts "0.1")
+    CajaTexto& txtEntPro;               // enthalpy of formation of the fuel, J/mol (starts "0")
+    CajaTexto& txtHcs;                  // higher heating value shown, J/kg
+    CajaTexto& txtHci;                  // lower heating value shown, J/kg
+    CajaTexto& txtQvap;                 // heat of vaporisation of the water formed, J/kg
+    Interruptor& optMasa;               // input as mass percentages
+    Interruptor& optFOR;                // input as a formula
+    Interruptor& chkOcultar;            // hide the screen after a calculation
+    Ventana& ventana;                   // the screen, to hide
+    Superficie& pct2;                   // the fuel chart of the main window
     FormularioCombustible& formulario;  // enabling, captions and locks of the screen
 };
 
@@ -142,9 +142,9 @@ struct PantallaCombustibleSimple {
     FormularioCombustibleSimple formulario;
 
     ControlesCombustible Controles(Superficie& pct2) {
-        return {cboTipCom, txtC,    txtN,    txtO,      txtS,      txtH,    txtMolC, txtMolH,
-                txtMolN,   txtMolO, txtMolS, txtmmComb, txtEntPro, txtHcs,  txtHci,  txtQvap,
-                optMasa,   optFOR,  chkOcultar, ventana, pct2,     formulario};
+        return {cboTipCom, txtC,    txtN,       txtO,      txtS,      txtH,      txtMolC, txtMolH,
+                txtMolN,   txtMolO, txtMolS,    txtmmComb, txtEntPro, txtHcs,    txtHci,  txtQvap,
+                optMasa,   optFOR,  chkOcultar, ventana,   pct2,      formulario};
     }
 };
 
@@ -165,8 +165,8 @@ void optMasa_Click(ControlesCombustible& c);
 // ---- Operations of the screen ---------------------------------------------------
 
 // Loads a formula into the boxes (formula mode) and runs CalCien and Calcular.
-void CombustibleTipo(Estado& e, Dialogos& dlg, ControlesCombustible& c, double C, double H, double N, double O,
-                     double S);
+void CombustibleTipo(Estado& e, Dialogos& dlg, ControlesCombustible& c, double C, double H, double N,
+                     double O, double S);
 // Mass composition and molar mass from the formula boxes.
 void CalCien(Estado& e, Dialogos& dlg, ControlesCombustible& c);
 // Formula from the mass boxes and the molar mass; hydrogen is the remainder.

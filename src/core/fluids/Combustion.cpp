@@ -62,8 +62,12 @@ void FormGases_Load(Estado& e, ControlesCombustion& c) {
     }
 }
 
-void txtFr_Click(ControlesCombustion& c) { Liderar(c.optFr, c.optLambda); }
-void txtLambda_Click(ControlesCombustion& c) { Liderar(c.optLambda, c.optFr); }
+void txtFr_Click(ControlesCombustion& c) {
+    Liderar(c.optFr, c.optLambda);
+}
+void txtLambda_Click(ControlesCombustion& c) {
+    Liderar(c.optLambda, c.optFr);
+}
 
 void txtFr_Change(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
     if (!c.optFr.Value()) return;
@@ -98,11 +102,12 @@ bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
         const double A = e.OxigenoEstequiometrico / (2 * e.xO2Aire);
         const double n2 = A * e.xN2Aire, o2 = e.xO2Aire * A, ar = e.xArAire * A, co2 = e.xCO2Aire * A,
                      h2o = e.xH2OAire * A;
-        const double fe = e.MasaMolecularCombustible / (o2 * kMasaMolecularO2 + n2 * kMasaMolecularN2 +
-                                                        ar * kMasaMolecularAr + co2 * kMasaMolecularCO2 +
-                                                        h2o * kMasaMolecularH2O);
+        const double fe = e.MasaMolecularCombustible /
+                          (o2 * kMasaMolecularO2 + n2 * kMasaMolecularN2 + ar * kMasaMolecularAr +
+                           co2 * kMasaMolecularCO2 + h2o * kMasaMolecularH2O);
         if (SonFinitos({n2, o2, ar, co2, h2o, fe})) {
-            e.MolesN2Aire = n2, e.MolesO2Aire = o2, e.MolesArAire = ar, e.MolesCO2Aire = co2, e.MolesH2OAire = h2o;
+            e.MolesN2Aire = n2, e.MolesO2Aire = o2, e.MolesArAire = ar, e.MolesCO2Aire = co2,
+            e.MolesH2OAire = h2o;
             e.Fe = fe;
         } else {
             causa = kCausaFueraDeRango;
@@ -162,15 +167,15 @@ bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
     }
 
     // The gases, per mole of fuel.
-    const double N2 = nN / 2 + e.MolesN2Aire, H2O = e.MolesH2OAire + w, CO2 = e.MolesCO2Aire + d.nCO2, CO = d.nCO,
-                 SO2 = d.nSO2, S = d.nS, Ar = e.MolesArAire, O2 = d.OxigenoSobrante / 2;
+    const double N2 = nN / 2 + e.MolesN2Aire, H2O = e.MolesH2OAire + w, CO2 = e.MolesCO2Aire + d.nCO2,
+                 CO = d.nCO, SO2 = d.nSO2, S = d.nS, Ar = e.MolesArAire, O2 = d.OxigenoSobrante / 2;
     const double total = CO + H2O + CO2 + SO2 + S + N2 + Ar + O2;
     const double xH2O = H2O / total, xCO = CO / total, xCO2 = CO2 / total, xSO2 = SO2 / total, xS = S / total,
                  xN2 = N2 / total, xAr = Ar / total, xO2 = O2 / total;
-    const double masaHumos = (H2O * kMasaMolecularH2O + CO * kMasaMolecularCO + CO2 * kMasaMolecularCO2 +
-                              SO2 * kMasaMolecularSO2 + S * kMasaMolecularS + N2 * kMasaMolecularN2 +
-                              Ar * kMasaMolecularAr + O2 * kMasaMolecularO2) /
-                             total;
+    const double masaHumos =
+        (H2O * kMasaMolecularH2O + CO * kMasaMolecularCO + CO2 * kMasaMolecularCO2 + SO2 * kMasaMolecularSO2 +
+         S * kMasaMolecularS + N2 * kMasaMolecularN2 + Ar * kMasaMolecularAr + O2 * kMasaMolecularO2) /
+        total;
     // The CO2 of the air is no product of the fuel.
     const double entalpiaProductos =
         (d.nCO2 * kEntalpiaFormacionCO2 + d.nCO * kEntalpiaFormacionCO + w * kEntalpiaFormacionH2O) / Fr;
@@ -178,7 +183,7 @@ bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
     const double hcs = -entalpiaReaccion / e.MasaMolecularCombustible;
     const double hci = (w * (-kCalorVaporizacionH2O)) / (Fr * e.MasaMolecularCombustible) + hcs;
     if (!SonFinitos({d.nCO, d.nCO2, d.nS, d.nSO2, d.OxigenoSobrante, xH2O, xCO, xCO2, xSO2, xS, xN2, xAr, xO2,
-                  masaHumos, entalpiaProductos, entalpiaReaccion, hcs, hci})) {
+                     masaHumos, entalpiaProductos, entalpiaReaccion, hcs, hci})) {
         FalloAritmetico(e, dlg, kCausaFueraDeRango);
         return false;
     }

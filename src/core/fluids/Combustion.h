@@ -40,13 +40,13 @@ struct VariablesCombustion {
 
 // What the combustion screen gives the logic.
 struct ControlesCombustion {
-    CajaTexto& txtFr;         // relative fuel/air ratio (starts "1")
-    CajaTexto& txtLambda;     // its inverse (starts "1")
-    Interruptor& optFr;       // txtFr leads
-    Interruptor& optLambda;   // txtLambda leads
-    Interruptor& chkOcultar;  // hide the screen after a calculation
-    Ventana& ventana;         // the screen, to hide
-    Superficie& pct3;         // the gases chart of the main window
+    CajaTexto& txtFr;                // relative fuel/air ratio (starts "1")
+    CajaTexto& txtLambda;            // its inverse (starts "1")
+    Interruptor& optFr;              // txtFr leads
+    Interruptor& optLambda;          // txtLambda leads
+    Interruptor& chkOcultar;         // hide the screen after a calculation
+    Ventana& ventana;                // the screen, to hide
+    Superficie& pct3;                // the gases chart of the main window
     VariablesCombustion& variables;  // the screen's own variables, owned by the caller
 };
 

@@ -34,16 +34,21 @@ void Imprimir(Superficie& sup, double x, double y, std::string_view texto) {
 }
 
 // The text position one line and a half lower, as the charts step it.
-void SiguienteLinea(Estado& e, Superficie& sup) { e.CursorGrafica += sup.TextHeight("C") * 1.5; }
+void SiguienteLinea(Estado& e, Superficie& sup) {
+    e.CursorGrafica += sup.TextHeight("C") * 1.5;
+}
 
-std::string Redondeado(double x, int d) { return TextoGeneral(Round(x, d)); }
+std::string Redondeado(double x, int d) {
+    return TextoGeneral(Round(x, d));
+}
 }  // namespace
 
 void DibujarBarra(Superficie& sup, double X, double Y, double Ancho, double Alto, double Valor, int Decimales,
                   std::string_view Sufijo, std::string_view Etiqueta, int32_t Color) {
     sup.SetFillColor(Color);
     sup.LineBox(F(X), F(Y), F(X + Ancho), F(Y - Alto), Color);
-    Imprimir(sup, X, Y - Alto - 1.2 * sup.TextHeight(Etiqueta), Redondeado(Valor, Decimales) + std::string(Sufijo));
+    Imprimir(sup, X, Y - Alto - 1.2 * sup.TextHeight(Etiqueta),
+             Redondeado(Valor, Decimales) + std::string(Sufijo));
     Imprimir(sup, X, Y + 0.5 * sup.TextHeight(Etiqueta), Etiqueta);
 }
 
@@ -51,22 +56,32 @@ void GraficaAire(Estado& e, Superficie& pct1) {
     pct1.Cls();
     pct1.Scale(0, 0, 7, 115);
     pct1.SetFillStyle(kRellenoSolido);
-    const struct { const char* etiqueta; double fraccion; double x; int32_t color; } barras[] = {
-        {"Ar", e.xArAire, 3.3, kColorAr},    {"CO2", e.xCO2Aire, 2.5, kColorCO2}, {"H2O", e.xH2OAire, 1.7, kColorH2O},
-        {"N2", e.xN2Aire, 0.9, kColorN2},    {"O2", e.xO2Aire, 0.1, kColorO2},
+    const struct {
+        const char* etiqueta;
+        double fraccion;
+        double x;
+        int32_t color;
+    } barras[] = {
+        {"Ar", e.xArAire, 3.3, kColorAr},    {"CO2", e.xCO2Aire, 2.5, kColorCO2},
+        {"H2O", e.xH2OAire, 1.7, kColorH2O}, {"N2", e.xN2Aire, 0.9, kColorN2},
+        {"O2", e.xO2Aire, 0.1, kColorO2},
     };
-    for (const auto& b : barras) DibujarBarra(pct1, b.x, 99, 0.78, b.fraccion * 100, b.fraccion * 100, 2, " %", b.etiqueta, b.color);
+    for (const auto& b : barras)
+        DibujarBarra(pct1, b.x, 99, 0.78, b.fraccion * 100, b.fraccion * 100, 2, " %", b.etiqueta, b.color);
 
     Imprimir(pct1, 0.08, 0.1,
-             " AIRE (ISA)   " + TextoGeneral(e.Humedad) + " % humedad relativa   (valores gráfica en fracción molar)");
+             " AIRE (ISA)   " + TextoGeneral(e.Humedad) +
+                 " % humedad relativa   (valores gráfica en fracción molar)");
     e.CursorGrafica = pct1.TextHeight("C") * 1.5 + 0.08;
-    Imprimir(pct1, 3.4, e.CursorGrafica, "Masa molecular = " + Redondeado(e.MasaMolecularAire, 5) + " kg/mol");
+    Imprimir(pct1, 3.4, e.CursorGrafica,
+             "Masa molecular = " + Redondeado(e.MasaMolecularAire, 5) + " kg/mol");
     SiguienteLinea(e, pct1);
     Imprimir(pct1, 3.4, e.CursorGrafica, "Temperatura ambiente = " + TextoGeneral(e.Tambiente) + "   K");
     SiguienteLinea(e, pct1);
     Imprimir(pct1, 3.4, e.CursorGrafica, "Presión ambiente " + TextoGeneral(e.Pambiente) + " Pa");
     SiguienteLinea(e, pct1);
-    Imprimir(pct1, 3.4, e.CursorGrafica, "Presión de saturación del H2O = " + Redondeado(e.Psaturacion, 0) + " Pa");
+    Imprimir(pct1, 3.4, e.CursorGrafica,
+             "Presión de saturación del H2O = " + Redondeado(e.Psaturacion, 0) + " Pa");
 }
 
 void GraficaCombustible(Estado& e, Superficie& pct2, std::string_view tipoCombustible) {
@@ -74,19 +89,27 @@ void GraficaCombustible(Estado& e, Superficie& pct2, std::string_view tipoCombus
     pct2.Scale(0, 0, 10, 140);
     pct2.SetFillStyle(kRellenoSolido);
     // The N bar alone shows its percentage times 100, in height and in value.
-    const struct { const char* etiqueta; double x; double valor; int32_t color; } barras[] = {
-        {"C", 0.5, e.CienC, kColorCO2},      {"H", 1.5, e.CienH, kColorH2O}, {"N", 2.5, e.CienN * 100, kColorN2},
-        {"O", 3.5, e.CienO, kColorO2},       {"S", 4.5, e.CienS, kColorS},
+    const struct {
+        const char* etiqueta;
+        double x;
+        double valor;
+        int32_t color;
+    } barras[] = {
+        {"C", 0.5, e.CienC, kColorCO2}, {"H", 1.5, e.CienH, kColorH2O}, {"N", 2.5, e.CienN * 100, kColorN2},
+        {"O", 3.5, e.CienO, kColorO2},  {"S", 4.5, e.CienS, kColorS},
     };
-    for (const auto& b : barras) DibujarBarra(pct2, b.x, 120, 1, b.valor, b.valor, 2, " %", b.etiqueta, b.color);
+    for (const auto& b : barras)
+        DibujarBarra(pct2, b.x, 120, 1, b.valor, b.valor, 2, " %", b.etiqueta, b.color);
 
-    Imprimir(pct2, 0.08, 0.1,
-             " COMBUSTIBLE  (valores gráfica en % masa)" + std::string(7, ' ') + std::string(tipoCombustible));
+    Imprimir(
+        pct2, 0.08, 0.1,
+        " COMBUSTIBLE  (valores gráfica en % masa)" + std::string(7, ' ') + std::string(tipoCombustible));
 
     // The formula: each count printed with only CurrentX set, one line lower,
     // as a subscript. The step after N adds the width of the H count.
-    const std::string vC = Redondeado(e.AtomosC, 2), vH = Redondeado(e.AtomosH, 2), vN = Redondeado(e.AtomosN, 2),
-                      vO = Redondeado(e.AtomosO, 2), vS = Redondeado(e.AtomosS, 2);
+    const std::string vC = Redondeado(e.AtomosC, 2), vH = Redondeado(e.AtomosH, 2),
+                      vN = Redondeado(e.AtomosN, 2), vO = Redondeado(e.AtomosO, 2),
+                      vS = Redondeado(e.AtomosS, 2);
     auto subindice = [&](double x, const std::string& v) {
         pct2.SetCurrentX(F(x));
         pct2.Print(v);
@@ -124,19 +147,27 @@ void GraficaHumos(Estado& e, Superficie& pct3) {
     pct3.SetScaleHeight(115);
     pct3.SetScaleWidth(12);
     pct3.SetFillStyle(kRellenoSolido);
-    const struct { const char* etiqueta; double fraccion; double x; int32_t color; } barras[] = {
-        {" Ar", e.xArHumos, 0.08, kColorAr},    {" CO", e.xCOHumos, 1.08, kColorCO}, {" CO2", e.xCO2Humos, 2.08, kColorCO2},
-        {" H2O", e.xH2OHumos, 3.08, kColorH2O}, {" N2", e.xN2Humos, 4.08, kColorN2}, {" O2", e.xO2Humos, 5.08, kColorO2},
+    const struct {
+        const char* etiqueta;
+        double fraccion;
+        double x;
+        int32_t color;
+    } barras[] = {
+        {" Ar", e.xArHumos, 0.08, kColorAr},    {" CO", e.xCOHumos, 1.08, kColorCO},
+        {" CO2", e.xCO2Humos, 2.08, kColorCO2}, {" H2O", e.xH2OHumos, 3.08, kColorH2O},
+        {" N2", e.xN2Humos, 4.08, kColorN2},    {" O2", e.xO2Humos, 5.08, kColorO2},
         {" S", e.xSHumos, 6.08, kColorS},       {" SO2", e.xSO2Humos, 7.08, kColorSO2},
     };
-    for (const auto& b : barras) DibujarBarra(pct3, b.x, 102, 1, b.fraccion * 100, b.fraccion * 100, 1, " %", b.etiqueta, b.color);
+    for (const auto& b : barras)
+        DibujarBarra(pct3, b.x, 102, 1, b.fraccion * 100, b.fraccion * 100, 1, " %", b.etiqueta, b.color);
 
     Imprimir(pct3, 0.08, 0.1, "  GASES DE COMBUSTIÓN  (valores gráfica en fracción molar)");
     e.CursorGrafica = pct3.TextHeight("C") * 1.5 + 0.08;
     Imprimir(pct3, 6.5, e.CursorGrafica,
              "Fr = " + Redondeado(e.Fr, 2) + "     Lambda = " + Redondeado(1 / e.Fr, 2));
     SiguienteLinea(e, pct3);
-    Imprimir(pct3, 6.5, e.CursorGrafica, "HCI (humos) = " + Format(e.HCIhumos, "### ### ### ### ###") + "   J / kg");
+    Imprimir(pct3, 6.5, e.CursorGrafica,
+             "HCI (humos) = " + Format(e.HCIhumos, "### ### ### ### ###") + "   J / kg");
     SiguienteLinea(e, pct3);
     Imprimir(pct3, 6.5, e.CursorGrafica, "M humos = " + Redondeado(e.MasaMolecularHumos, 5) + " kg / mol  ");
     SiguienteLinea(e, pct3);

@@ -18,9 +18,12 @@ constexpr int kPasosMaximosGammaMedio = 1000;
 constexpr double kToleranciaGammaMedio = 0.001;
 
 constexpr std::string_view kMensajeNoConverge =
-    "No se ha podido hallar el exponente adiabático medio: la búsqueda no converge. Revise los datos del ciclo.";
-constexpr std::string_view kCausaSinSalto = "el volumen final es igual al inicial y el exponente medio no se puede hallar";
-constexpr std::string_view kCausaExponente = "el exponente adiabático medio sale del intervalo de los números del programa";
+    "No se ha podido hallar el exponente adiabático medio: la búsqueda no converge. Revise los datos del "
+    "ciclo.";
+constexpr std::string_view kCausaSinSalto =
+    "el volumen final es igual al inicial y el exponente medio no se puede hallar";
+constexpr std::string_view kCausaExponente =
+    "el exponente adiabático medio sale del intervalo de los números del programa";
 
 // The fluid of TipoFluido, evaluated: cp, h, cv and s. False for a kind that
 // is none of the three.
@@ -66,9 +69,13 @@ bool CalcularPresionPolitropica(Estado& e, double p1, double V1, double V2, doub
     return true;
 }
 
-void TrabajoIsobarico(Estado& e, double p, double V1, double V2) { e.TrabajoTransformacion = p * (V2 - V1); }
+void TrabajoIsobarico(Estado& e, double p, double V1, double V2) {
+    e.TrabajoTransformacion = p * (V2 - V1);
+}
 
-void VolumenIsobarico(Estado& e, double V1, double T1, double T2) { e.VolumenProporcional = V1 * T2 / T1; }
+void VolumenIsobarico(Estado& e, double V1, double T1, double T2) {
+    e.VolumenProporcional = V1 * T2 / T1;
+}
 
 void PropiedadesInicio(Estado& e, Dialogos& dlg) {
     if (e.ErrorCalculo) return;
@@ -142,8 +149,8 @@ void LeerEstadoFinal(const Estado& e, double& p, double& V, double& T, double& h
     s = e.EntropiaFinal;
 }
 
-void CopiarCincoValores(double& d1, double s1, double& d2, double s2, double& d3, double s3, double& d4, double s4,
-                        double& d5, double s5) {
+void CopiarCincoValores(double& d1, double s1, double& d2, double s2, double& d3, double s3, double& d4,
+                        double s4, double& d5, double s5) {
     d1 = s1;
     d2 = s2;
     d3 = s3;

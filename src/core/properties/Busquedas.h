@@ -29,7 +29,8 @@ bool CalcularTemperaturaPolitropica(Estado& e, double T1, double V1, double V2, 
 bool CalcularPresionPolitropica(Estado& e, double p1, double V1, double V2, double n);
 // What the user is told when they are false.
 inline constexpr std::string_view kCausaPolitropicaFueraDeRango =
-    "la temperatura o la presión de la transformación salen del intervalo de los números del programa; revise la "
+    "la temperatura o la presión de la transformación salen del intervalo de los números del programa; "
+    "revise la "
     "relación de compresión y el exponente";
 // TrabajoTransformacion = p·(V2 − V1).
 void TrabajoIsobarico(Estado& e, double p, double V1, double V2);
@@ -44,8 +45,8 @@ void PonerEstadoInicial(Estado& e, Dialogos& dlg, double p, double V, double T, 
 void PonerEstadoFinal(Estado& e, Dialogos& dlg, double Calor, double Trabajo, double p, double V, double T);
 void FinalAInicial(Estado& e);
 void LeerEstadoFinal(const Estado& e, double& p, double& V, double& T, double& h, double& s);
-void CopiarCincoValores(double& d1, double s1, double& d2, double s2, double& d3, double s3, double& d4, double s4,
-                        double& d5, double s5);
+void CopiarCincoValores(double& d1, double s1, double& d2, double s2, double& d3, double s3, double& d4,
+                        double s4, double& d5, double s5);
 
 // The mean adiabatic exponent between the start of the record and V2, by
 // fixed-point iteration on the mean cp. Fluido 1 air, 2 gases.

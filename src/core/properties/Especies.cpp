@@ -33,19 +33,22 @@ constexpr std::string_view kMensajeLimite =
     "Se ha superado la temperatura máxima que admite el programa 5000 K, Temperatura que provocó el error = ";
 constexpr std::string_view kCausaTemperaturaNoPositiva = "la temperatura del gas no es positiva";
 constexpr std::string_view kCausaTemperaturaFueraDeRango =
-    "la temperatura del gas es tan próxima a cero que su entalpía sale del intervalo de los números del programa";
+    "la temperatura del gas es tan próxima a cero que su entalpía sale del intervalo de los números del "
+    "programa";
 
 // T and its powers, each power taken once by the general power function.
 struct Potencias {
     double T, T2, T3, T4, lnT;
-    explicit Potencias(double t) : T(t), T2(std::pow(t, 2.0)), T3(std::pow(t, 3.0)), T4(std::pow(t, 4.0)), lnT(std::log(t)) {}
+    explicit Potencias(double t)
+        : T(t), T2(std::pow(t, 2.0)), T3(std::pow(t, 3.0)), T4(std::pow(t, 4.0)), lnT(std::log(t)) {}
 };
 
 inline double Cp(const Potencias& p, const Coeficientes& c) {
     return kR * (c.a1 + c.a2 * p.T + c.a3 * p.T2 + c.a4 * p.T3 + c.a5 * p.T4);
 }
 inline double Entalpia(const Potencias& p, const Coeficientes& c) {
-    return (kR * p.T) * (c.a1 + c.a2 * p.T / 2 + c.a3 * p.T2 / 3 + c.a4 * p.T3 / 4 + c.a5 * p.T4 / 5 + c.a6 / p.T);
+    return (kR * p.T) *
+           (c.a1 + c.a2 * p.T / 2 + c.a3 * p.T2 / 3 + c.a4 * p.T3 / 4 + c.a5 * p.T4 / 5 + c.a6 / p.T);
 }
 inline double Entropia(const Potencias& p, const Coeficientes& c) {
     return kR * (c.a1 * p.lnT + c.a2 * p.T + c.a3 * p.T2 / 2 + c.a4 * p.T3 / 3 + c.a5 * p.T4 / 4 + c.a7);
@@ -58,14 +61,18 @@ struct CamposRango {
     double Estado::*s0[kNumeroEspecies];
 };
 const CamposRango kCamposBaja = {
-    {&Estado::CpArBaja, &Estado::CpCOBaja, &Estado::CpCO2Baja, &Estado::CpH2OBaja, &Estado::CpN2Baja, &Estado::CpO2Baja},
-    {&Estado::hArBaja, &Estado::hCOBaja, &Estado::hCO2Baja, &Estado::hH2OBaja, &Estado::hN2Baja, &Estado::hO2Baja},
+    {&Estado::CpArBaja, &Estado::CpCOBaja, &Estado::CpCO2Baja, &Estado::CpH2OBaja, &Estado::CpN2Baja,
+     &Estado::CpO2Baja},
+    {&Estado::hArBaja, &Estado::hCOBaja, &Estado::hCO2Baja, &Estado::hH2OBaja, &Estado::hN2Baja,
+     &Estado::hO2Baja},
     {&Estado::S0ArBaja, &Estado::S0COBaja, &Estado::S0CO2Baja, &Estado::S0H2OBaja, &Estado::S0N2Baja,
      &Estado::S0O2Baja},
 };
 const CamposRango kCamposAlta = {
-    {&Estado::CpArAlta, &Estado::CpCOAlta, &Estado::CpCO2Alta, &Estado::CpH2OAlta, &Estado::CpN2Alta, &Estado::CpO2Alta},
-    {&Estado::hArAlta, &Estado::hCOAlta, &Estado::hCO2Alta, &Estado::hH2OAlta, &Estado::hN2Alta, &Estado::hO2Alta},
+    {&Estado::CpArAlta, &Estado::CpCOAlta, &Estado::CpCO2Alta, &Estado::CpH2OAlta, &Estado::CpN2Alta,
+     &Estado::CpO2Alta},
+    {&Estado::hArAlta, &Estado::hCOAlta, &Estado::hCO2Alta, &Estado::hH2OAlta, &Estado::hN2Alta,
+     &Estado::hO2Alta},
     {&Estado::S0ArAlta, &Estado::S0COAlta, &Estado::S0CO2Alta, &Estado::S0H2OAlta, &Estado::S0N2Alta,
      &Estado::S0O2Alta},
 };

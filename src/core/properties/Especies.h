@@ -30,7 +30,9 @@ extern const Coeficientes kCoeficientesAlta[kNumeroEspecies];
 inline constexpr double kLimiteRangos = 1000.0;
 inline constexpr double kTemperaturaLimite = 7500.0;
 
-inline bool RangoBajo(double temperatura) { return temperatura <= kLimiteRangos; }
+inline bool RangoBajo(double temperatura) {
+    return temperatura <= kLimiteRangos;
+}
 inline const Coeficientes& CoeficientesDe(Especie s, double temperatura) {
     return RangoBajo(temperatura) ? kCoeficientesBaja[s] : kCoeficientesAlta[s];
 }

@@ -14,9 +14,12 @@ constexpr std::string_view kCausaFraccionAire =
 constexpr std::string_view kCausaFraccionHumos =
     "una fracción molar de los gases de combustión (CO2, Ar o N2) no es positiva";
 constexpr std::string_view kCausaPresionNegativa = "la presión del gas es negativa";
-constexpr std::string_view kCausaFueraDeRango = "las propiedades del gas salen del intervalo de los números del programa";
-constexpr std::string_view kCausaSinCalor = "el calor del ciclo es cero y no se puede repartir entre aire y gases";
-constexpr std::string_view kCausaLinealIgual = "los dos extremos del reparto lineal entre aire y gases coinciden";
+constexpr std::string_view kCausaFueraDeRango =
+    "las propiedades del gas salen del intervalo de los números del programa";
+constexpr std::string_view kCausaSinCalor =
+    "el calor del ciclo es cero y no se puede repartir entre aire y gases";
+constexpr std::string_view kCausaLinealIgual =
+    "los dos extremos del reparto lineal entre aire y gases coinciden";
 
 // ln x of a fraction, taken again only when the fraction changed.
 inline double Ln(LogaritmosFracciones::Entrada& memoria, double x) {
@@ -32,7 +35,9 @@ inline double TerminoS0(double x, double s0, LogaritmosFracciones::Entrada& memo
     return x * (s0 - kR * Ln(memoria, x));
 }
 // The same at the pressure p.
-inline double TerminoS(double x, double s0, double p) { return x * (s0 - kR * std::log(x * p / kPresionReferencia)); }
+inline double TerminoS(double x, double s0, double p) {
+    return x * (s0 - kR * std::log(x * p / kPresionReferencia));
+}
 
 bool Finitos(std::initializer_list<double> valores) {
     for (double v : valores)
@@ -41,7 +46,9 @@ bool Finitos(std::initializer_list<double> valores) {
 }
 
 // The species of the range of the record's temperature, after CalcularEspecies.
-ValoresEspecies Especies(const Estado& e) { return LeerEspecies(e, RangoBajo(e.Temperatura)); }
+ValoresEspecies Especies(const Estado& e) {
+    return LeerEspecies(e, RangoBajo(e.Temperatura));
+}
 
 // The blend as a linear weighting of molar properties by x.
 void Mezclar(Estado& e, Dialogos& dlg, double x) {
@@ -81,10 +88,10 @@ void PropiedadesAire(Estado& e, Dialogos& dlg) {
     }
     const ValoresEspecies v = Especies(e);
     const double P = e.Presion;
-    const double cp = v.cp[H2O] * e.xH2OAire + v.cp[Ar] * e.xArAire + v.cp[O2] * e.xO2Aire + v.cp[CO2] * e.xCO2Aire +
-                      v.cp[N2] * e.xN2Aire;
-    const double h = v.h[H2O] * e.xH2OAire + v.h[Ar] * e.xArAire + v.h[O2] * e.xO2Aire + v.h[CO2] * e.xCO2Aire +
-                     v.h[N2] * e.xN2Aire;
+    const double cp = v.cp[H2O] * e.xH2OAire + v.cp[Ar] * e.xArAire + v.cp[O2] * e.xO2Aire +
+                      v.cp[CO2] * e.xCO2Aire + v.cp[N2] * e.xN2Aire;
+    const double h = v.h[H2O] * e.xH2OAire + v.h[Ar] * e.xArAire + v.h[O2] * e.xO2Aire +
+                     v.h[CO2] * e.xCO2Aire + v.h[N2] * e.xN2Aire;
     auto* ln = e.logaritmos.aire;
     double s0 = TerminoS0(e.xO2Aire, v.s0[O2], ln[0]) + TerminoS0(e.xArAire, v.s0[Ar], ln[1]) +
                 TerminoS0(e.xCO2Aire, v.s0[CO2], ln[2]) + TerminoS0(e.xN2Aire, v.s0[N2], ln[3]);
@@ -92,8 +99,8 @@ void PropiedadesAire(Estado& e, Dialogos& dlg) {
     if (e.xH2OAire > 0) s0 += (v.s0[H2O] - kR * Ln(ln[4], e.xH2OAire)) * e.xH2OAire;
     double s = e.SAire;
     if (P != 0) {
-        s = TerminoS(e.xO2Aire, v.s0[O2], P) + TerminoS(e.xArAire, v.s0[Ar], P) + TerminoS(e.xCO2Aire, v.s0[CO2], P) +
-            TerminoS(e.xN2Aire, v.s0[N2], P);
+        s = TerminoS(e.xO2Aire, v.s0[O2], P) + TerminoS(e.xArAire, v.s0[Ar], P) +
+            TerminoS(e.xCO2Aire, v.s0[CO2], P) + TerminoS(e.xN2Aire, v.s0[N2], P);
         if (e.xH2OAire > 0) s += TerminoS(e.xH2OAire, v.s0[H2O], P);
     }
     if (!Finitos({cp, h, s0, s, cp / (cp - kR)})) {
@@ -139,7 +146,8 @@ void PropiedadesHumos(Estado& e, Dialogos& dlg) {
     if (e.xO2Humos > 0) s0 += TerminoS0(e.xO2Humos, v.s0[O2], ln[5]);
     double s = e.SHumos;
     if (P != 0) {
-        s = TerminoS(e.xCO2Humos, v.s0[CO2], P) + TerminoS(e.xArHumos, v.s0[Ar], P) + TerminoS(e.xN2Humos, v.s0[N2], P);
+        s = TerminoS(e.xCO2Humos, v.s0[CO2], P) + TerminoS(e.xArHumos, v.s0[Ar], P) +
+            TerminoS(e.xN2Humos, v.s0[N2], P);
         if (e.xH2OHumos > 0) s += TerminoS(e.xH2OHumos, v.s0[H2O], P);
         if (e.xCOHumos > 0) s += TerminoS(e.xCOHumos, v.s0[CO], P);
         if (e.xO2Humos > 0) s += TerminoS(e.xO2Humos, v.s0[O2], P);

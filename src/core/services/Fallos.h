@@ -16,7 +16,7 @@ namespace vanta {
 inline void FalloAritmetico(Estado& e, Dialogos& dlg, std::string_view causa) {
     if (!e.ErrorCalculo)
         dlg.MsgBox("Error de cálculo: " + std::string(causa) +
-               ". Revise los datos y pulse el botón \"CALCULAR\" otra vez.");
+                   ". Revise los datos y pulse el botón \"CALCULAR\" otra vez.");
     e.ErrorCalculo = Verdadero;
 }
 

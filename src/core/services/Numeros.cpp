@@ -15,7 +15,9 @@ inline constexpr std::string_view kNoEsNumero = "no es un número";
 // of the program ever shows NaN or infinity.
 const std::string kNoDefinido = "N.D.";
 
-bool EsDigito(char c) { return c >= '0' && c <= '9'; }
+bool EsDigito(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // Exact decimal digits of |x| with n decimals, rounded half away from zero.
 // Returns the integer digits (no leading zeros; empty for 0) and n decimals.
@@ -44,7 +46,9 @@ void DigitosRedondeados(double x, int n, std::string& enteros, std::string& deci
     enteros = primera == std::string::npos ? std::string() : enteros.substr(primera);
 }
 
-bool EsLugar(char c) { return c == '#' || c == '0'; }
+bool EsLugar(char c) {
+    return c == '#' || c == '0';
+}
 
 // The largest double as the general conversion writes it: its 15 digits are
 // rounded up, beyond the range of the doubles.
@@ -122,8 +126,12 @@ std::optional<double> LeerConPunto(std::string_view s) {
 
 }  // namespace
 
-char SeparadorDecimal() { return separadorDecimal; }
-void FijarSeparadorDecimal(char separador) { separadorDecimal = separador; }
+char SeparadorDecimal() {
+    return separadorDecimal;
+}
+void FijarSeparadorDecimal(char separador) {
+    separadorDecimal = separador;
+}
 
 double Round(double x, int d) {
     if (!std::isfinite(x)) return x;
@@ -145,13 +153,15 @@ std::string Format(double x, std::string_view mascara) {
     if (!std::isfinite(x)) return kNoDefinido;
     const auto punto = mascara.find('.');
     const std::string_view mEnt = mascara.substr(0, punto);
-    const std::string_view mDec = punto == std::string_view::npos ? std::string_view() : mascara.substr(punto + 1);
+    const std::string_view mDec =
+        punto == std::string_view::npos ? std::string_view() : mascara.substr(punto + 1);
     int lugaresDec = 0;
     for (char c : mDec) lugaresDec += EsLugar(c);
 
     std::string enteros, decimales;
     DigitosRedondeados(x, lugaresDec, enteros, decimales);
-    const bool negativo = x < 0 && (!enteros.empty() || decimales.find_first_not_of('0') != std::string::npos);
+    const bool negativo =
+        x < 0 && (!enteros.empty() || decimales.find_first_not_of('0') != std::string::npos);
 
     // Integer part, laid from the right.
     std::string parteEntera;

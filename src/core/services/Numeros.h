@@ -36,11 +36,9 @@ std::optional<double> LeerNumero(std::string_view texto);
 // Reads a box into destino. A text that is not a number shows nombre followed
 // by "no es un número", puts the focus back and sets ErrorCalculo; destino then
 // keeps its value. Never clears ErrorCalculo.
-void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, double& destino,
-                   std::string_view nombre);
+void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, double& destino, std::string_view nombre);
 
 // The same for the single-precision members of the tables tool.
-void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, float& destino,
-                   std::string_view nombre);
+void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, float& destino, std::string_view nombre);
 
 }  // namespace vanta

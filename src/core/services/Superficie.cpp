@@ -71,7 +71,9 @@ float SuperficieGrabada::TextWidth(std::string_view texto) const {
     return static_cast<float>(n) * anchoCaracter;
 }
 
-std::string SuperficieGrabada::Capa() const { return AutoRedraw() ? "" : "T "; }
+std::string SuperficieGrabada::Capa() const {
+    return AutoRedraw() ? "" : "T ";
+}
 
 void SuperficieGrabada::AlPunto(float x, float y) {
     llamadas.push_back(Capa() + "PSet " + Numero(x) + " " + Numero(y) + " " + Color(ForeColor()));
@@ -83,13 +85,12 @@ void SuperficieGrabada::AlLinea(float x1, float y1, float x2, float y2) {
 }
 
 void SuperficieGrabada::AlCaja(float x1, float y1, float x2, float y2, int32_t color) {
-    llamadas.push_back(Capa() + "Box " + Numero(x1) + " " + Numero(y1) + " " + Numero(x2) + " " +
-                       Numero(y2) + " " + Color(color));
+    llamadas.push_back(Capa() + "Box " + Numero(x1) + " " + Numero(y1) + " " + Numero(x2) + " " + Numero(y2) +
+                       " " + Color(color));
 }
 
 void SuperficieGrabada::AlTexto(float x, float y, std::string_view texto) {
-    llamadas.push_back(Capa() + "Print " + Numero(x) + " " + Numero(y) + " \"" + std::string(texto) +
-                       "\"");
+    llamadas.push_back(Capa() + "Print " + Numero(x) + " " + Numero(y) + " \"" + std::string(texto) + "\"");
 }
 
 void SuperficieGrabada::CambioEscala() {

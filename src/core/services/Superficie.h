@@ -22,8 +22,14 @@ public:
     float ScaleWidth() const { return escalaAncho_; }
     float ScaleHeight() const { return escalaAlto_; }
     // Setting height or width keeps the origin at the top left.
-    void SetScaleWidth(float ancho) { escalaAncho_ = ancho; CambioEscala(); }
-    void SetScaleHeight(float alto) { escalaAlto_ = alto; CambioEscala(); }
+    void SetScaleWidth(float ancho) {
+        escalaAncho_ = ancho;
+        CambioEscala();
+    }
+    void SetScaleHeight(float alto) {
+        escalaAlto_ = alto;
+        CambioEscala();
+    }
 
     int32_t ForeColor() const { return colorTrazo_; }
     void SetForeColor(int32_t color) { colorTrazo_ = color; }

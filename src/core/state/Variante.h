@@ -15,9 +15,18 @@ public:
     Variante(const char* t) : valor_(std::string(t)) {}
     Variante(std::string t) : valor_(std::move(t)) {}
 
-    Variante& operator=(double v) { valor_ = v; return *this; }
-    Variante& operator=(const char* t) { valor_ = std::string(t); return *this; }
-    Variante& operator=(std::string t) { valor_ = std::move(t); return *this; }
+    Variante& operator=(double v) {
+        valor_ = v;
+        return *this;
+    }
+    Variante& operator=(const char* t) {
+        valor_ = std::string(t);
+        return *this;
+    }
+    Variante& operator=(std::string t) {
+        valor_ = std::move(t);
+        return *this;
+    }
 
     bool EsNumero() const { return std::holds_alternative<double>(valor_); }
     bool EsTexto() const { return std::holds_alternative<std::string>(valor_); }

@@ -13,10 +13,14 @@ struct Papeles {
 Papeles PapelesDe(DiagramaAmpliable d) {
     using G = GeometriaDiagramas;
     switch (d) {
-        case DiagramaAmpliable::PV: return {&G::pctPV, &G::pctTS, &G::pctTV, &G::pctHS, 0.8, 0.2, 0.2};
-        case DiagramaAmpliable::TV: return {&G::pctTV, &G::pctTS, &G::pctPV, &G::pctHS, 0.8, 0.2, 0.2};
-        case DiagramaAmpliable::TS: return {&G::pctTS, &G::pctPV, &G::pctTV, &G::pctHS, 0.4, 0.4, 0.55};
-        case DiagramaAmpliable::HS: return {&G::pctHS, &G::pctPV, &G::pctTV, &G::pctTS, 0.6, 0.2, 0.3};
+        case DiagramaAmpliable::PV:
+            return {&G::pctPV, &G::pctTS, &G::pctTV, &G::pctHS, 0.8, 0.2, 0.2};
+        case DiagramaAmpliable::TV:
+            return {&G::pctTV, &G::pctTS, &G::pctPV, &G::pctHS, 0.8, 0.2, 0.2};
+        case DiagramaAmpliable::TS:
+            return {&G::pctTS, &G::pctPV, &G::pctTV, &G::pctHS, 0.4, 0.4, 0.55};
+        case DiagramaAmpliable::HS:
+            return {&G::pctHS, &G::pctPV, &G::pctTV, &G::pctTS, 0.6, 0.2, 0.3};
     }
     return {};
 }
@@ -26,10 +30,14 @@ Papeles PapelesDe(DiagramaAmpliable d) {
 bool DebeAmpliar(DiagramaAmpliable d, const GeometriaDiagramas& g, double dosTwips) {
     const double setentaPorCiento = static_cast<float>(0.7 * g.W);
     switch (d) {
-        case DiagramaAmpliable::PV: return setentaPorCiento > g.pctPV.Width;
-        case DiagramaAmpliable::TV: return setentaPorCiento > g.pctTV.Width;
-        case DiagramaAmpliable::TS: return g.pctTS.Left > dosTwips;
-        case DiagramaAmpliable::HS: return setentaPorCiento > g.pctHS.Width;
+        case DiagramaAmpliable::PV:
+            return setentaPorCiento > g.pctPV.Width;
+        case DiagramaAmpliable::TV:
+            return setentaPorCiento > g.pctTV.Width;
+        case DiagramaAmpliable::TS:
+            return g.pctTS.Left > dosTwips;
+        case DiagramaAmpliable::HS:
+            return setentaPorCiento > g.pctHS.Width;
     }
     return false;
 }

@@ -13,9 +13,9 @@
 #include <QVBoxLayout>
 
 #include "core/cycle/PantallaCiclo.h"
+#include "gui/resources/Dibujos.h"
 #include "gui/services/Controles.h"
 #include "gui/services/TextosVentanas.h"
-#include "gui/resources/Dibujos.h"
 
 namespace vanta {
 
@@ -85,10 +85,17 @@ struct frmOtto_Diesel::Puertos {
           optPolitropica(f.optPolitropica_),
           chkOcultar(f.chkOcultar_),
           ventana(&f),
-          controles{txtCilindrada, txtRc,        txtP1,          txtT1,       txtPropVcte,       txtPMax,
-                    txtPropPcte,   txt_nExp,     txt_nCom,       txtGammaMedioComp, txtGMedioExp, optProporcion,
-                    optPmax,       optGvariable, optGmedioCom,   optPolitropicaCom, optGvariableExp,
-                    optGmedioExp,  optPolitropica, chkOcultar,   ventana} {}
+          controles{txtCilindrada,   txtRc,
+                    txtP1,           txtT1,
+                    txtPropVcte,     txtPMax,
+                    txtPropPcte,     txt_nExp,
+                    txt_nCom,        txtGammaMedioComp,
+                    txtGMedioExp,    optProporcion,
+                    optPmax,         optGvariable,
+                    optGmedioCom,    optPolitropicaCom,
+                    optGvariableExp, optGmedioExp,
+                    optPolitropica,  chkOcultar,
+                    ventana} {}
 
     CajaTextoQt txtCilindrada, txtRc, txtP1, txtT1, txtPropVcte, txtPMax, txtPropPcte, txt_nExp, txt_nCom,
         txtGammaMedioComp, txtGMedioExp;
@@ -187,8 +194,10 @@ void frmOtto_Diesel::CrearControles() {
     const qreal dpr = devicePixelRatioF();
     const char* ciclos[3] = {kCicloOtto, kCicloDiesel, kCicloMixto};
     for (int i = 0; i < 3; ++i)
-        for (int v = 0; v < 2; ++v) stock_[i][v] = DibujoCiclo(QString::fromLatin1(ciclos[i]), v == 1, kTamanoCiclo, dpr);
-    auto imagen = [this](const char* nombreForma, const char* nombre, const char* ayuda, Forma*& forma, int i) {
+        for (int v = 0; v < 2; ++v)
+            stock_[i][v] = DibujoCiclo(QString::fromLatin1(ciclos[i]), v == 1, kTamanoCiclo, dpr);
+    auto imagen = [this](const char* nombreForma, const char* nombre, const char* ayuda, Forma*& forma,
+                         int i) {
         forma = new Forma(this);
         forma->setObjectName(QString::fromLatin1(nombreForma));
         auto* img = new QLabel(forma);
@@ -228,19 +237,23 @@ void frmOtto_Diesel::CrearControles() {
     optGmedioCom_->setChecked(true);
     optGmedioExp_->setChecked(true);
     optPmax_->setChecked(true);
-    for (QWidget* w : std::initializer_list<QWidget*>{txt_nCom_, lbl_n_comp_, txt_nExp_, lbl_nExp_, txtPropVcte_,
-                                                       txtPropPcte_, lblcVc_, lblcPc_, lblCienCvC_, lblCienCpC_})
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{txt_nCom_, lbl_n_comp_, txt_nExp_, lbl_nExp_, txtPropVcte_,
+                                         txtPropPcte_, lblcVc_, lblcPc_, lblCienCvC_, lblCienCpC_})
         w->hide();
     for (QWidget* w : std::initializer_list<QWidget*>{fraDTecnicos_, fraAire_, fraOpcion_, fraCompresion_,
-                                                       fraExpansion_, cmdCal_})
+                                                      fraExpansion_, cmdCal_})
         w->hide();
 }
 
 void frmOtto_Diesel::Distribuir() {
-    for (QWidget* w : std::initializer_list<QWidget*>{
-             fraDTecnicos_, fraAire_, fraOpcion_, fraCompresion_, fraExpansion_, cmdCal_, imgSeleccinar_, txt_nCom_,
-             lbl_n_comp_, txt_nExp_, lbl_nExp_, txtPropVcte_, txtPropPcte_, lblcVc_, lblcPc_, lblCienCvC_,
-             lblCienCpC_, txtPMax_, lblPmax_, lblPaPmax_, txtGammaMedioComp_, txtGMedioExp_})
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{fraDTecnicos_,      fraAire_,     fraOpcion_,     fraCompresion_,
+                                         fraExpansion_,      cmdCal_,      imgSeleccinar_, txt_nCom_,
+                                         lbl_n_comp_,        txt_nExp_,    lbl_nExp_,      txtPropVcte_,
+                                         txtPropPcte_,       lblcVc_,      lblcPc_,        lblCienCvC_,
+                                         lblCienCpC_,        txtPMax_,     lblPmax_,       lblPaPmax_,
+                                         txtGammaMedioComp_, txtGMedioExp_})
         GuardarSitio(w);
 
     auto* datos = new QGridLayout(fraDTecnicos_);
@@ -288,7 +301,8 @@ void frmOtto_Diesel::Distribuir() {
     };
     modelos(fraCompresion_, optGvariable_, optGmedioCom_, txtGammaMedioComp_, optPolitropicaCom_, lbl_n_comp_,
             txt_nCom_);
-    modelos(fraExpansion_, optGvariableExp_, optGmedioExp_, txtGMedioExp_, optPolitropica_, lbl_nExp_, txt_nExp_);
+    modelos(fraExpansion_, optGvariableExp_, optGmedioExp_, txtGMedioExp_, optPolitropica_, lbl_nExp_,
+            txt_nExp_);
 
     auto* imagenes = new QHBoxLayout;
     imagenes->addStretch(1);
@@ -312,7 +326,9 @@ void frmOtto_Diesel::Distribuir() {
     columna->addWidget(chkOcultar_);
 }
 
-ControlesCiclo& frmOtto_Diesel::Controles() { return puertos_->controles; }
+ControlesCiclo& frmOtto_Diesel::Controles() {
+    return puertos_->controles;
+}
 
 // ---- What the logic does to the window ---------------------------------------------------
 
@@ -360,11 +376,19 @@ bool frmOtto_Diesel::eventFilter(QObject* objeto, QEvent* evento) {
     return QDialog::eventFilter(objeto, evento);
 }
 
-void frmOtto_Diesel::cmdCal_Click() { CalcularCiclo(e_, dlg_, Controles(), diagramas_, principal_); }
+void frmOtto_Diesel::cmdCal_Click() {
+    CalcularCiclo(e_, dlg_, Controles(), diagramas_, principal_);
+}
 
-void frmOtto_Diesel::imgOtto_Click() { vanta::imgOtto_Click(e_, *this); }
-void frmOtto_Diesel::imgDiesel_Click() { vanta::imgDiesel_Click(e_, *this); }
-void frmOtto_Diesel::imgMixto_Click() { vanta::imgMixto_Click(e_, *this); }
+void frmOtto_Diesel::imgOtto_Click() {
+    vanta::imgOtto_Click(e_, *this);
+}
+void frmOtto_Diesel::imgDiesel_Click() {
+    vanta::imgDiesel_Click(e_, *this);
+}
+void frmOtto_Diesel::imgMixto_Click() {
+    vanta::imgMixto_Click(e_, *this);
+}
 
 void frmOtto_Diesel::optGmedioCom_Click() {
     txtGammaMedioComp_->show();
@@ -410,16 +434,16 @@ void frmOtto_Diesel::optGvariableExp_Click() {
 
 void frmOtto_Diesel::optProporcion_Click() {
     for (QWidget* w : std::initializer_list<QWidget*>{txtPMax_, lblPmax_, lblPaPmax_}) w->hide();
-    for (QWidget* w : std::initializer_list<QWidget*>{lblcVc_, txtPropVcte_, lblCienCvC_, lblcPc_, txtPropPcte_,
-                                                       lblCienCpC_})
+    for (QWidget* w : std::initializer_list<QWidget*>{lblcVc_, txtPropVcte_, lblCienCvC_, lblcPc_,
+                                                      txtPropPcte_, lblCienCpC_})
         w->show();
     vanta::optProporcion_Click(e_);
 }
 
 void frmOtto_Diesel::optPmax_Click() {
     for (QWidget* w : std::initializer_list<QWidget*>{txtPMax_, lblPmax_, lblPaPmax_}) w->show();
-    for (QWidget* w : std::initializer_list<QWidget*>{lblcVc_, txtPropVcte_, lblCienCvC_, lblcPc_, txtPropPcte_,
-                                                       lblCienCpC_})
+    for (QWidget* w : std::initializer_list<QWidget*>{lblcVc_, txtPropVcte_, lblCienCvC_, lblcPc_,
+                                                      txtPropPcte_, lblCienCpC_})
         w->hide();
     vanta::optPmax_Click(e_);
 }

@@ -10,9 +10,9 @@
 #include <memory>
 
 #include "core/cycle/Ciclo.h"
-#include "gui/services/PuertosQt.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
+#include "gui/services/PuertosQt.h"
 
 class QCheckBox;
 class QGroupBox;
@@ -48,7 +48,8 @@ public:
                    QWidget* padre = nullptr);
     ~frmOtto_Diesel() override;
 
-    void MostrarMarcos(bool compresion, bool expansion, bool aire, bool opcion, bool datos, bool seleccionar) override;
+    void MostrarMarcos(bool compresion, bool expansion, bool aire, bool opcion, bool datos,
+                       bool seleccionar) override;
     void ResaltarCiclo(bool otto, bool diesel, bool mixto) override;
 
     ControlesCiclo& Controles();
@@ -87,12 +88,12 @@ private:
 
     QCheckBox* chkOcultar_;
     QGroupBox *fraDTecnicos_, *fraAire_, *fraOpcion_, *fraExpansion_, *fraCompresion_;
-    QLineEdit *txtCilindrada_, *txtRc_, *txtP1_, *txtT1_, *txtPropVcte_, *txtPMax_, *txtPropPcte_, *txtGMedioExp_,
-        *txt_nExp_, *txtGammaMedioComp_, *txt_nCom_;
+    QLineEdit *txtCilindrada_, *txtRc_, *txtP1_, *txtT1_, *txtPropVcte_, *txtPMax_, *txtPropPcte_,
+        *txtGMedioExp_, *txt_nExp_, *txtGammaMedioComp_, *txt_nCom_;
     QLabel *Label1_, *Label2_, *lblcc_, *Label3_, *Label5_, *lblPa_, *lblK_, *lblcVc_, *lblCienCvC_, *lblcPc_,
         *lblCienCpC_, *lblPmax_, *lblPaPmax_, *lbl_nExp_, *lbl_n_comp_;
-    QRadioButton *optProporcion_, *optPmax_, *optGvariableExp_, *optGmedioExp_, *optPolitropica_, *optGvariable_,
-        *optGmedioCom_, *optPolitropicaCom_;
+    QRadioButton *optProporcion_, *optPmax_, *optGvariableExp_, *optGmedioExp_, *optPolitropica_,
+        *optGvariable_, *optGmedioCom_, *optPolitropicaCom_;
     QPushButton* cmdCal_;
     QLabel *imgOtto_, *imgDiesel_, *imgMixto_, *imgSeleccinar_;
     Forma *shpOtto_, *shpDiesel_, *shpMixto_, *shpActiva_, *shpInactiva_;

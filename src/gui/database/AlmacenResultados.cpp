@@ -14,9 +14,13 @@ namespace vanta {
 
 namespace {
 
-QString Q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+QString Q(std::string_view s) {
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
 
-int Codigo(const QSqlError& error) { return error.nativeErrorCode().toInt(); }
+int Codigo(const QSqlError& error) {
+    return error.nativeErrorCode().toInt();
+}
 
 std::string Causa(const QSqlError& error) {
     return bd::CausaSQLite(Codigo(error), error.databaseText().toStdString());
@@ -42,8 +46,9 @@ QImage EnPaleta(const QImage& imagen) {
         for (int x = 0; x < rgb.width(); ++x)
             if (colores.insert(fila[x]).second && colores.size() > 256) return imagen;
     }
-    const QImage paleta = rgb.convertToFormat(QImage::Format_Indexed8, QList<QRgb>(colores.begin(), colores.end()),
-                                              Qt::ThresholdDither | Qt::AvoidDither);
+    const QImage paleta =
+        rgb.convertToFormat(QImage::Format_Indexed8, QList<QRgb>(colores.begin(), colores.end()),
+                            Qt::ThresholdDither | Qt::AvoidDither);
     return paleta.convertToFormat(QImage::Format_RGB32) == rgb ? paleta : imagen;
 }
 
@@ -68,7 +73,9 @@ AlmacenResultados::AlmacenResultados(QString ruta) : ruta_(std::move(ruta)) {
     conexion_ = QStringLiteral("vanta_resultados_%1").arg(++cuenta);
 }
 
-AlmacenResultados::~AlmacenResultados() { Cerrar(); }
+AlmacenResultados::~AlmacenResultados() {
+    Cerrar();
+}
 
 void AlmacenResultados::Cerrar() {
     if (!QSqlDatabase::contains(conexion_)) return;
@@ -205,7 +212,8 @@ std::optional<bd::TextosRegistro> AlmacenResultados::LeerTextos(qint64 id) {
     QSqlQuery q(QSqlDatabase::database(conexion_, false));
     if (!LeerFila(q, bd::SQLLeerTextos(), id)) return std::nullopt;
     bd::TextosRegistro textos;
-    for (size_t i = 0; i < textos.size(); ++i) textos[i] = q.value(static_cast<int>(i)).toString().toStdString();
+    for (size_t i = 0; i < textos.size(); ++i)
+        textos[i] = q.value(static_cast<int>(i)).toString().toStdString();
     return textos;
 }
 
@@ -213,11 +221,13 @@ std::optional<ImagenesRegistro> AlmacenResultados::LeerImagenes(qint64 id) {
     QSqlQuery q(QSqlDatabase::database(conexion_, false));
     if (!LeerFila(q, bd::SQLLeerImagenes(), id)) return std::nullopt;
     ImagenesRegistro imagenes;
-    for (size_t i = 0; i < imagenes.size(); ++i) imagenes[i] = PNGAImagen(q.value(static_cast<int>(i)).toByteArray());
+    for (size_t i = 0; i < imagenes.size(); ++i)
+        imagenes[i] = PNGAImagen(q.value(static_cast<int>(i)).toByteArray());
     return imagenes;
 }
 
-std::optional<qint64> AlmacenResultados::Insertar(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes) {
+std::optional<qint64> AlmacenResultados::Insertar(const bd::TextosRegistro& textos,
+                                                  const ImagenesRegistro& imagenes) {
     // The pictures are encoded before the transaction, which stays short.
     std::array<QByteArray, bd::kNumColumnasImagen> png;
     for (size_t i = 0; i < png.size(); ++i) png[i] = ImagenAPNG(imagenes[i]);

@@ -34,8 +34,8 @@ void ControlImagen::paintEvent(QPaintEvent* evento) {
     if (escalada_.isNull()) return;
     const QSize tam = escalada_.deviceIndependentSize().toSize();
     QPainter p(this);
-    p.drawPixmap(dentro.x() + (dentro.width() - tam.width()) / 2, dentro.y() + (dentro.height() - tam.height()) / 2,
-                 escalada_);
+    p.drawPixmap(dentro.x() + (dentro.width() - tam.width()) / 2,
+                 dentro.y() + (dentro.height() - tam.height()) / 2, escalada_);
 }
 
 void ControlImagen::mouseReleaseEvent(QMouseEvent* evento) {

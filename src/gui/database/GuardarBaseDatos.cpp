@@ -17,8 +17,8 @@ ImagenesRegistro ImagenesDeColumnas(const ImagenesPrincipal& imagenes) {
     return columnas;
 }
 
-bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombustible, std::string_view informe,
-                      const ImagenesPrincipal& imagenes, frmBaseDatos& navegador) {
+bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombustible,
+                      std::string_view informe, const ImagenesPrincipal& imagenes, frmBaseDatos& navegador) {
     const std::string nombre = dlg.InputBox(bd::kPromptGuardar, bd::NombrePorDefecto(e, tipoCombustible));
     if (nombre.empty()) return false;
     if (!navegador.Cargar()) return false;
@@ -34,16 +34,19 @@ bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombu
         // cost the record its picture.
         if (const QImage copia = portapapeles->image(); !copia.isNull()) imagen = copia;
     }
-    if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas)) return false;
+    if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas))
+        return false;
     navegador.MostrarModal();
     return true;
 }
 
 bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
-                     std::string_view informe, const ImagenesPrincipal& imagenes, Dialogos& dlg, const QString& ruta) {
-    AlmacenResultados almacen(ruta.isEmpty() ? QDir::current().absoluteFilePath(ATexto(bd::kArchivoBaseDatos)) : ruta);
-    if (!almacen.Abrir() ||
-        !almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), ImagenesDeColumnas(imagenes))) {
+                     std::string_view informe, const ImagenesPrincipal& imagenes, Dialogos& dlg,
+                     const QString& ruta) {
+    AlmacenResultados almacen(ruta.isEmpty() ? QDir::current().absoluteFilePath(ATexto(bd::kArchivoBaseDatos))
+                                             : ruta);
+    if (!almacen.Abrir() || !almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe),
+                                              ImagenesDeColumnas(imagenes))) {
         dlg.MsgBox(almacen.Error());
         return false;
     }

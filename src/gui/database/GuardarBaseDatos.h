@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
-#include "gui/database/AlmacenResultados.h"
 #include "core/services/Puertos.h"
 #include "core/state/Estado.h"
+#include "gui/database/AlmacenResultados.h"
 
 namespace vanta {
 
@@ -32,8 +32,8 @@ ImagenesRegistro ImagenesDeColumnas(const ImagenesPrincipal& imagenes);
 // record. tipoCombustible: the text of the fuel list; informe: the report as
 // its viewer holds it. Returns whether a record was added; a failure has
 // shown its message.
-bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombustible, std::string_view informe,
-                      const ImagenesPrincipal& imagenes, frmBaseDatos& navegador);
+bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombustible,
+                      std::string_view informe, const ImagenesPrincipal& imagenes, frmBaseDatos& navegador);
 
 // The command line's save: one record with the name given, in the file BD.sqlite
 // of the current folder (or ruta), made when missing. No clipboard, no window.

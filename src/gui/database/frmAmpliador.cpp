@@ -28,6 +28,8 @@ void frmAmpliador::PonerImagen(const QImage& imagen) {
     resize(tam);
 }
 
-void frmAmpliador::imgAmpliada_Click() { hide(); }
+void frmAmpliador::imgAmpliada_Click() {
+    hide();
+}
 
 }  // namespace vanta

@@ -32,29 +32,37 @@ const char* const kCaptionNavegador = "   Cambiar de registro";
 constexpr double kInformeArriba = 0.035, kInformeAlto = 0.72, kInformeAncho = 1.0;
 constexpr double kInformeAltoRaton = 0.7, kInformeAnchoRaton = 0.98;
 
-QString T(std::string_view s) { return ATexto(s); }
+QString T(std::string_view s) {
+    return ATexto(s);
+}
 
-QLabel* Rotulo(const QString& texto, QWidget* padre, Qt::Alignment alineacion = Qt::AlignLeft | Qt::AlignVCenter) {
+QLabel* Rotulo(const QString& texto, QWidget* padre,
+               Qt::Alignment alineacion = Qt::AlignLeft | Qt::AlignVCenter) {
     auto* l = new QLabel(texto, padre);
     l->setTextFormat(Qt::PlainText);
     l->setAlignment(alineacion);
     return l;
 }
 
-QLabel* Rotulo(const char* texto, QWidget* padre, Qt::Alignment alineacion = Qt::AlignLeft | Qt::AlignVCenter) {
+QLabel* Rotulo(const char* texto, QWidget* padre,
+               Qt::Alignment alineacion = Qt::AlignLeft | Qt::AlignVCenter) {
     return Rotulo(QString::fromUtf8(texto), padre, alineacion);
 }
 
 }  // namespace
 
 frmBaseDatos::frmBaseDatos(Dialogos& dlg, std::function<std::string()> informeF1, QWidget* padre)
-    : QDialog(padre), dlg_(dlg), informeF1_(std::move(informeF1)), mostrarModal_([](QDialog& d) { d.exec(); }) {
+    : QDialog(padre),
+      dlg_(dlg),
+      informeF1_(std::move(informeF1)),
+      mostrarModal_([](QDialog& d) { d.exec(); }) {
     setObjectName(QStringLiteral("frmBaseDatos"));
     setWindowTitle(QStringLiteral("Base de datos"));
     setModal(false);
     CrearControles();
     QSize tam(1100, 780);
-    if (const QScreen* pantalla = QGuiApplication::primaryScreen()) tam = tam.boundedTo(pantalla->availableSize());
+    if (const QScreen* pantalla = QGuiApplication::primaryScreen())
+        tam = tam.boundedTo(pantalla->availableSize());
     resize(tam);
     ampliador_ = new frmAmpliador(this);
 }
@@ -153,7 +161,8 @@ void frmBaseDatos::CrearControles() {
     // Pictures in the order of the main window: the three charts, then p-V,
     // T-V, T-s and h-s.
     auto* fotos = new QHBoxLayout;
-    for (const char* nombre : {"ImgAire", "imgCombustible", "imgCombustion", "imgDPV", "imgDTV", "imgDTS", "imgDhs"})
+    for (const char* nombre :
+         {"ImgAire", "imgCombustible", "imgCombustion", "imgDPV", "imgDTV", "imgDTS", "imgDhs"})
         fotos->addWidget(findChild<ControlImagen*>(QString::fromLatin1(nombre)));
     auto* capa = new QVBoxLayout(resumen);
     capa->setContentsMargins(0, 0, 0, 0);
@@ -296,7 +305,8 @@ QWidget* frmBaseDatos::CrearNavegador() {
     auto* h = new QHBoxLayout(datBD);
     h->setContentsMargins(2, 2, 2, 2);
     h->setSpacing(0);
-    auto boton = [&](QToolButton*& b, const char* nombre, const QString& texto, void (frmBaseDatos::*mover)()) {
+    auto boton = [&](QToolButton*& b, const char* nombre, const QString& texto,
+                     void (frmBaseDatos::*mover)()) {
         b = new QToolButton(datBD);
         b->setObjectName(QString::fromLatin1(nombre));
         b->setText(texto);
@@ -425,7 +435,8 @@ void frmBaseDatos::PonerInformeEnCaja(const std::string& texto) {
 // ---- Events ------------------------------------------------------------------------
 
 void frmBaseDatos::cmdVer_Click() {
-    const std::array<QWidget*, 5> marcos{fraCombustion_, fraAire_, fraCombustible_, fraTransformaciones_, fraPuntos_};
+    const std::array<QWidget*, 5> marcos{fraCombustion_, fraAire_, fraCombustible_, fraTransformaciones_,
+                                         fraPuntos_};
     if (ModoInforme_) {
         ModoInforme_ = false;
         txtInforme_->hide();
@@ -464,7 +475,9 @@ void frmBaseDatos::cmdBorrarRegistro_Click() {
     dlg_.MsgBox(bd::kMsgRegistroBorrado);
 }
 
-void frmBaseDatos::cmdCerrar_Click() { hide(); }
+void frmBaseDatos::cmdCerrar_Click() {
+    hide();
+}
 
 void frmBaseDatos::Imagen_Click(ControlImagen* imagen) {
     // Through the system clipboard, which keeps the picture afterwards.

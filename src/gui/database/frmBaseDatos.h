@@ -16,9 +16,9 @@
 #include <string>
 #include <vector>
 
-#include "gui/database/AlmacenResultados.h"
 #include "core/database/Registro.h"
 #include "core/services/Puertos.h"
+#include "gui/database/AlmacenResultados.h"
 
 class QGridLayout;
 class QGroupBox;
@@ -124,18 +124,19 @@ private:
     std::unique_ptr<AlmacenResultados> almacen_;
     std::vector<qint64> ids_;
     int posicion_ = -1;
-    bool hayRegistro_ = false;       // the current record's texts are loaded
-    std::string informeGuardado_;    // its Informe column as stored
-    std::string textoInforme_;       // what the report box holds
+    bool hayRegistro_ = false;     // the current record's texts are loaded
+    std::string informeGuardado_;  // its Informe column as stored
+    std::string textoInforme_;     // what the report box holds
     bool ModoInforme_ = false;
 
     std::array<QWidget*, bd::kNumColumnasTexto> controles_{};
     std::array<ControlImagen*, bd::kNumColumnasImagen> imagenes_{};
     QPlainTextEdit* txtInforme_ = nullptr;
-    QGroupBox *fraAire_ = nullptr, *fraCombustible_ = nullptr, *fraCombustion_ = nullptr, *fraPuntos_ = nullptr,
-              *fraTransformaciones_ = nullptr;
+    QGroupBox *fraAire_ = nullptr, *fraCombustible_ = nullptr, *fraCombustion_ = nullptr,
+              *fraPuntos_ = nullptr, *fraTransformaciones_ = nullptr;
     QPushButton *cmdCerrar_ = nullptr, *cmdVer_ = nullptr, *cmdBorrarRegistro_ = nullptr;
-    QToolButton *cmdPrimero_ = nullptr, *cmdAnterior_ = nullptr, *cmdSiguiente_ = nullptr, *cmdUltimo_ = nullptr;
+    QToolButton *cmdPrimero_ = nullptr, *cmdAnterior_ = nullptr, *cmdSiguiente_ = nullptr,
+                *cmdUltimo_ = nullptr;
     frmAmpliador* ampliador_ = nullptr;
 };
 

@@ -10,8 +10,8 @@
 #include <QVBoxLayout>
 
 #include "core/fluids/AireHumedo.h"
-#include "gui/services/TextosVentanas.h"
 #include "gui/services/Controles.h"
+#include "gui/services/TextosVentanas.h"
 
 namespace vanta {
 

@@ -5,9 +5,9 @@
 
 #include <QDialog>
 
-#include "gui/services/PuertosQt.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
+#include "gui/services/PuertosQt.h"
 
 class QCheckBox;
 class QGroupBox;

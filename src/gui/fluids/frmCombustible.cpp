@@ -11,14 +11,15 @@
 #include <QVBoxLayout>
 
 #include "gui/services/Controles.h"
-#include "gui/services/TextosVentanas.h"
 #include "gui/services/SuperficieQt.h"
+#include "gui/services/TextosVentanas.h"
 
 namespace vanta {
 
 namespace {
 
-constexpr const char* kAyudaSeparador = "Se puede utilizar como separador decimal indistintamente \".\" o \",\" ";
+constexpr const char* kAyudaSeparador =
+    "Se puede utilizar como separador decimal indistintamente \".\" o \",\" ";
 constexpr const char* kAyudaEntalpia =
     "No poner separadores de miles- utilizar como separador decimal indistintamente \".\" o \",\" ";
 
@@ -39,9 +40,13 @@ std::string CajaListaQt::Text() const {
     return lista_->currentText().toStdString();
 }
 
-void CajaListaQt::SetText(std::string_view texto) { lista_->setCurrentIndex(lista_->findText(ATexto(texto))); }
+void CajaListaQt::SetText(std::string_view texto) {
+    lista_->setCurrentIndex(lista_->findText(ATexto(texto)));
+}
 
-void CajaListaQt::SetFocus() { lista_->setFocus(); }
+void CajaListaQt::SetFocus() {
+    lista_->setFocus();
+}
 
 // ---- The window -------------------------------------------------------------------
 
@@ -49,16 +54,31 @@ void CajaListaQt::SetFocus() { lista_->setFocus(); }
 // gathers them.
 struct frmCombustible::Puertos {
     explicit Puertos(frmCombustible& f)
-        : txtC(f.txtC_), txtN(f.txtN_), txtO(f.txtO_), txtS(f.txtS_), txtH(f.txtH_), txtMolC(f.txtMol_[0]),
-          txtMolH(f.txtMol_[1]), txtMolN(f.txtMol_[2]), txtMolO(f.txtMol_[3]), txtMolS(f.txtMol_[4]),
-          txtmmComb(f.txtmmComb_), txtEntPro(f.txtEntPro_), txtHcs(f.txtHcs_), txtHci(f.txtHci_),
-          txtQvap(f.txtQvap_), optMasa(f.optMasa_), optFOR(f.optFOR_), chkOcultar(f.chkOcultar_), ventana(&f),
-          controles{f.lista_, txtC,    txtN,    txtO,       txtS,       txtH,    txtMolC, txtMolH,
-                    txtMolN,  txtMolO, txtMolS, txtmmComb,  txtEntPro,  txtHcs,  txtHci,  txtQvap,
-                    optMasa,  optFOR,  chkOcultar, ventana, f.pct2_,   f} {}
+        : txtC(f.txtC_),
+          txtN(f.txtN_),
+          txtO(f.txtO_),
+          txtS(f.txtS_),
+          txtH(f.txtH_),
+          txtMolC(f.txtMol_[0]),
+          txtMolH(f.txtMol_[1]),
+          txtMolN(f.txtMol_[2]),
+          txtMolO(f.txtMol_[3]),
+          txtMolS(f.txtMol_[4]),
+          txtmmComb(f.txtmmComb_),
+          txtEntPro(f.txtEntPro_),
+          txtHcs(f.txtHcs_),
+          txtHci(f.txtHci_),
+          txtQvap(f.txtQvap_),
+          optMasa(f.optMasa_),
+          optFOR(f.optFOR_),
+          chkOcultar(f.chkOcultar_),
+          ventana(&f),
+          controles{f.lista_, txtC,    txtN,       txtO,      txtS,      txtH,   txtMolC, txtMolH,
+                    txtMolN,  txtMolO, txtMolS,    txtmmComb, txtEntPro, txtHcs, txtHci,  txtQvap,
+                    optMasa,  optFOR,  chkOcultar, ventana,   f.pct2_,   f} {}
 
-    CajaTextoQt txtC, txtN, txtO, txtS, txtH, txtMolC, txtMolH, txtMolN, txtMolO, txtMolS, txtmmComb, txtEntPro,
-        txtHcs, txtHci, txtQvap;
+    CajaTextoQt txtC, txtN, txtO, txtS, txtH, txtMolC, txtMolH, txtMolN, txtMolO, txtMolS, txtmmComb,
+        txtEntPro, txtHcs, txtHci, txtQvap;
     InterruptorQt optMasa, optFOR, chkOcultar;
     VentanaQt ventana;
     ControlesCombustible controles;
@@ -125,7 +145,8 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
     txtH_->setReadOnly(true);
     txtmmComb_ = NuevaCaja(fraOtrosCombustibles_, "txtmmComb", kTextoInicialMasaMolecular.data());
     paletaCaja_ = txtmmComb_->palette();
-    rejillaOtros->addWidget(NuevaEtiqueta(fraOtrosCombustibles_, "lblmmComb", "Masa molecular del combustible"), 6, 0, 1, 4);
+    rejillaOtros->addWidget(
+        NuevaEtiqueta(fraOtrosCombustibles_, "lblmmComb", "Masa molecular del combustible"), 6, 0, 1, 4);
     rejillaOtros->addWidget(txtmmComb_, 6, 4, 1, 2);
     rejillaOtros->addWidget(NuevaEtiqueta(fraOtrosCombustibles_, "lblmmCombUnidad", "kg/mol"), 6, 6);
 
@@ -144,7 +165,8 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
         rejillaValores->addWidget(u, n, 2);
         return c;
     };
-    txtEntPro_ = fila(0, "txtEntPro", "Entalpía de formación del combustible", kTextoInicialEntalpia.data(), "J/mol", false);
+    txtEntPro_ = fila(0, "txtEntPro", "Entalpía de formación del combustible", kTextoInicialEntalpia.data(),
+                      "J/mol", false);
     txtEntPro_->setToolTip(QString::fromUtf8(kAyudaEntalpia));
     txtHcs_ = fila(1, "txtHcs", "Poder calorífico superior", "", "J/kg", true);
     txtHci_ = fila(2, "txtHci", "Poder calorífico inferior", "", "J/kg", true);
@@ -176,16 +198,24 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
 
 frmCombustible::~frmCombustible() = default;
 
-ControlesCombustible& frmCombustible::Controles() { return puertos_->controles; }
+ControlesCombustible& frmCombustible::Controles() {
+    return puertos_->controles;
+}
 
 void frmCombustible::cboTipCom_Click() {
     if (lista_.Text() == kElijaCombustible) return;
     vanta::cboTipCom_Click(e_, dlg_, Controles());
 }
 
-void frmCombustible::cmdCal_Click() { vanta::cmdCal_Click(e_, dlg_, Controles()); }
-void frmCombustible::optFOR_Click() { vanta::optFOR_Click(Controles()); }
-void frmCombustible::optMasa_Click() { vanta::optMasa_Click(Controles()); }
+void frmCombustible::cmdCal_Click() {
+    vanta::cmdCal_Click(e_, dlg_, Controles());
+}
+void frmCombustible::optFOR_Click() {
+    vanta::optFOR_Click(Controles());
+}
+void frmCombustible::optMasa_Click() {
+    vanta::optMasa_Click(Controles());
+}
 
 void frmCombustible::HabilitarEntradaPropia(bool habilitar) {
     cmdCal_->setEnabled(habilitar);
@@ -193,9 +223,13 @@ void frmCombustible::HabilitarEntradaPropia(bool habilitar) {
     optFOR_->setEnabled(habilitar);
 }
 
-void frmCombustible::PonerTituloOtros(std::string_view titulo) { fraOtrosCombustibles_->setTitle(ATexto(titulo)); }
+void frmCombustible::PonerTituloOtros(std::string_view titulo) {
+    fraOtrosCombustibles_->setTitle(ATexto(titulo));
+}
 
-void frmCombustible::HabilitarMarcoOtros() { fraOtrosCombustibles_->setEnabled(true); }
+void frmCombustible::HabilitarMarcoOtros() {
+    fraOtrosCombustibles_->setEnabled(true);
+}
 
 void frmCombustible::BloquearCajas(bool formula) {
     for (QLineEdit* c : {txtC_, txtN_, txtO_, txtS_, txtmmComb_}) Bloquear(c, formula, paletaCaja_);

@@ -9,9 +9,9 @@
 #include <string>
 
 #include "core/fluids/Combustible.h"
-#include "gui/services/PuertosQt.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
+#include "gui/services/PuertosQt.h"
 
 class QCheckBox;
 class QComboBox;

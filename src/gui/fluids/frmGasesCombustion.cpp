@@ -91,8 +91,14 @@ bool frmGasesCombustion::eventFilter(QObject* objeto, QEvent* evento) {
     return QDialog::eventFilter(objeto, evento);
 }
 
-void frmGasesCombustion::cmdCalcular_Click() { CalcularHumos(e_, dlg_, puertos_->controles); }
-void frmGasesCombustion::txtFr_Change() { vanta::txtFr_Change(e_, dlg_, puertos_->controles); }
-void frmGasesCombustion::txtLambda_Change() { vanta::txtLambda_Change(e_, dlg_, puertos_->controles); }
+void frmGasesCombustion::cmdCalcular_Click() {
+    CalcularHumos(e_, dlg_, puertos_->controles);
+}
+void frmGasesCombustion::txtFr_Change() {
+    vanta::txtFr_Change(e_, dlg_, puertos_->controles);
+}
+void frmGasesCombustion::txtLambda_Change() {
+    vanta::txtLambda_Change(e_, dlg_, puertos_->controles);
+}
 
 }  // namespace vanta

@@ -7,9 +7,9 @@
 #include <memory>
 
 #include "core/fluids/Combustion.h"
-#include "gui/services/PuertosQt.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
+#include "gui/services/PuertosQt.h"
 
 class QCheckBox;
 class QGroupBox;

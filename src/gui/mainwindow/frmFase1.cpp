@@ -14,20 +14,20 @@
 #include <QScreen>
 #include <QUrl>
 
+#include "core/reports/ArchivosInforme.h"
 #include "gui/cycle/frmOtto_Diesel.h"
 #include "gui/database/GuardarBaseDatos.h"
-#include "core/reports/ArchivosInforme.h"
-#include "gui/reports/VisoresInforme.h"
 #include "gui/database/frmBaseDatos.h"
-#include "gui/tables/frmHerramientas.h"
 #include "gui/fluids/frmAireHumedad.h"
 #include "gui/fluids/frmCombustible.h"
 #include "gui/fluids/frmGasesCombustion.h"
-#include "gui/resources/Dibujos.h"
-#include "gui/services/Controles.h"
 #include "gui/mainwindow/frmAcercaDe.h"
 #include "gui/mainwindow/frmBibliografia.h"
+#include "gui/reports/VisoresInforme.h"
+#include "gui/resources/Dibujos.h"
 #include "gui/resources/Programa.h"
+#include "gui/services/Controles.h"
+#include "gui/tables/frmHerramientas.h"
 
 namespace vanta {
 
@@ -132,7 +132,7 @@ void frmFase1::CrearControles() {
     imgPresentacion_->setAlignment(Qt::AlignCenter);
 
     const std::pair<SuperficieQt*, const char*> superficies[] = {
-        {pct1_, "pct1"}, {pct2_, "pct2"}, {pct3_, "pct3"}, {pctPV_, "pctPV"},
+        {pct1_, "pct1"},   {pct2_, "pct2"},   {pct3_, "pct3"},  {pctPV_, "pctPV"},
         {pctTV_, "pctTV"}, {pctTS_, "pctTS"}, {pctHS_, "pctHS"}};
     for (auto [s, nombre] : superficies) {
         s->setParent(central_);
@@ -154,16 +154,20 @@ void frmFase1::CrearControles() {
         connect(b, &QPushButton::clicked, this, accion);
         return b;
     };
-    cmdElegirComburente_ = boton(fraBotonera_, "cmdElegirComburente", "1- Comburente", &frmFase1::cmdElegirComburente_Click);
-    cmdCombustible_ = boton(fraBotonera_, "cmdCombustible", "2 - Combustible", &frmFase1::cmdCombustible_Click);
-    cmdCarCombustion_ = boton(fraBotonera_, "cmdCarCombustion", "3- Combustión", &frmFase1::cmdCarCombustion_Click);
+    cmdElegirComburente_ =
+        boton(fraBotonera_, "cmdElegirComburente", "1- Comburente", &frmFase1::cmdElegirComburente_Click);
+    cmdCombustible_ =
+        boton(fraBotonera_, "cmdCombustible", "2 - Combustible", &frmFase1::cmdCombustible_Click);
+    cmdCarCombustion_ =
+        boton(fraBotonera_, "cmdCarCombustion", "3- Combustión", &frmFase1::cmdCarCombustion_Click);
     cmdCarCiclo_ = boton(fraBotonera_, "cmdCarCiclo", "4- Ciclo", &frmFase1::cmdCarCiclo_Click);
     cmdCombustible_->setEnabled(false);
     cmdCarCombustion_->setEnabled(false);
     cmdCarCiclo_->setEnabled(false);
 
     cmdInforme_ = boton(central_, "cmdInforme", "Ver informe", &frmFase1::cmdInforme_Click);
-    cmdEnvBaseDatos_ = boton(central_, "cmdEnvBaseDatos", "Guardar en la base de datos", &frmFase1::cmdEnvBaseDatos_Click);
+    cmdEnvBaseDatos_ =
+        boton(central_, "cmdEnvBaseDatos", "Guardar en la base de datos", &frmFase1::cmdEnvBaseDatos_Click);
     cmdInforme_->hide();
     cmdEnvBaseDatos_->hide();
 
@@ -181,8 +185,11 @@ void frmFase1::CrearControles() {
 
 void frmFase1::CrearTablaPuntos() {
     fraPuntos_ = NuevoMarco(central_, "fraPuntos");
-    const char* cabezas[5][2] = {{"lblP", "P (Pa)"}, {"lblV", "V (c.c.)"}, {"lblT", "T (K)"},
-                                 {"lblH", "h (J/mol)"}, {"lblS", "s (J/(mol·K))"}};
+    const char* cabezas[5][2] = {{"lblP", "P (Pa)"},
+                                 {"lblV", "V (c.c.)"},
+                                 {"lblT", "T (K)"},
+                                 {"lblH", "h (J/mol)"},
+                                 {"lblS", "s (J/(mol·K))"}};
     // The cells keep the program's names: lbls1 … lbls4 in lower case, lblS5.
     const char* celdas[5] = {"lblP%1", "lblV%1", "lblT%1", "lblH%1", "lbls%1"};
     for (int c = 0; c < 5; ++c) {
@@ -205,9 +212,12 @@ void frmFase1::CrearTablaPuntos() {
 
 void frmFase1::CrearTablaTransformaciones() {
     fraTransformaciones_ = NuevoMarco(central_, "fraTransformaciones");
-    const char* filas[5][2] = {{"lbl12", "1-2"}, {"lbl23", "2-3"}, {"lbl34", "3-4"}, {"lbl45", "4-5"}, {"lblCiclo", "Ciclo"}};
-    for (int i = 0; i < 5; ++i) filaTransformaciones_[i] = NuevaEtiqueta(fraTransformaciones_, filas[i][0], filas[i][1]);
-    const char* cabezas[5][2] = {{"Label12", "Q"}, {"Label13", "W"}, {"Label14", "n"}, {"Label23", "gamma"}, {"Label15", "Rend."}};
+    const char* filas[5][2] = {
+        {"lbl12", "1-2"}, {"lbl23", "2-3"}, {"lbl34", "3-4"}, {"lbl45", "4-5"}, {"lblCiclo", "Ciclo"}};
+    for (int i = 0; i < 5; ++i)
+        filaTransformaciones_[i] = NuevaEtiqueta(fraTransformaciones_, filas[i][0], filas[i][1]);
+    const char* cabezas[5][2] = {
+        {"Label12", "Q"}, {"Label13", "W"}, {"Label14", "n"}, {"Label23", "gamma"}, {"Label15", "Rend."}};
     for (int i = 0; i < 5; ++i) {
         cabezaTransformaciones_[i] = NuevaEtiqueta(fraTransformaciones_, cabezas[i][0], cabezas[i][1]);
         cabezaTransformaciones_[i]->setAlignment(Qt::AlignCenter);
@@ -228,8 +238,10 @@ void frmFase1::CrearTablaTransformaciones() {
     lblQciclo_ = Celda(fraTransformaciones_, QStringLiteral("lblQciclo"));
     lblWciclo_ = Celda(fraTransformaciones_, QStringLiteral("lblWciclo"));
     lblRen_ = Celda(fraTransformaciones_, QStringLiteral("lblRen"));
-    for (int i = 0; i < 5; ++i) lhT_[i] = Regla(fraTransformaciones_, QStringLiteral("lh%1").arg(i + 6), false);
-    for (int i = 0; i < 4; ++i) lvT_[i] = Regla(fraTransformaciones_, QStringLiteral("lv%1").arg(i + 6), true);
+    for (int i = 0; i < 5; ++i)
+        lhT_[i] = Regla(fraTransformaciones_, QStringLiteral("lh%1").arg(i + 6), false);
+    for (int i = 0; i < 4; ++i)
+        lvT_[i] = Regla(fraTransformaciones_, QStringLiteral("lv%1").arg(i + 6), true);
 }
 
 void frmFase1::CrearPotencia() {
@@ -249,7 +261,8 @@ void frmFase1::CrearPotencia() {
     txtCilindrada_ = NuevaCaja(fraPotencia_, "txtCilindrada", "c.c.", true);
     txtConsumoMJ_ = NuevaCaja(fraPotencia_, "txtConsumoMJ", "g/MJ", true);
     txtConsumoKwh_ = NuevaCaja(fraPotencia_, "txtConsumoKwh", "g/kWh", true);
-    for (QLineEdit* c : {txtRpm_, txtPotencia_, txtPotenciaCV_, txtCilindrada_, txtConsumoMJ_, txtConsumoKwh_})
+    for (QLineEdit* c :
+         {txtRpm_, txtPotencia_, txtPotenciaCV_, txtCilindrada_, txtConsumoMJ_, txtConsumoKwh_})
         c->setAlignment(Qt::AlignRight);
     cajaRpm_ = std::make_unique<CajaTextoQt>(txtRpm_);
     cajaPotencia_ = std::make_unique<CajaTextoQt>(txtPotencia_);
@@ -303,7 +316,8 @@ void frmFase1::CrearMenus() {
     barra->addMenu(mnuVer_);
 
     mnuHerramientas_ = Menu(barra, "mnuHerramientas", "&Herramientas");
-    mnuTablasActual_ = Entrada(mnuHerramientas_, "mnuTablasActual", "Tablas del aire y gases del ciclo &actual");
+    mnuTablasActual_ =
+        Entrada(mnuHerramientas_, "mnuTablasActual", "Tablas del aire y gases del ciclo &actual");
     mnuTablas_ = Entrada(mnuHerramientas_, "mnuTablas", "&Tablas del aire y gases");
     barra->addMenu(mnuHerramientas_);
 
@@ -344,8 +358,8 @@ void frmFase1::Form_Load() {
     GuardarColoresDiagramas(e_);
     PonerGraficosTodos();
     LugaresIniciales();
-    for (QWidget* w : std::initializer_list<QWidget*>{fraPotencia_, fraPuntos_, fraTransformaciones_, pct1_, pct2_,
-                                                       pct3_, pctPV_, pctTV_, pctTS_})
+    for (QWidget* w : std::initializer_list<QWidget*>{fraPotencia_, fraPuntos_, fraTransformaciones_, pct1_,
+                                                      pct2_, pct3_, pctPV_, pctTV_, pctTS_})
         w->hide();
     mnuVerCiclo_->menuAction()->setEnabled(false);
     mnuVerTodo_->setEnabled(false);
@@ -381,7 +395,9 @@ void frmFase1::Ocultabotones(bool b1, bool b2, bool b3, bool b4, bool b5, bool b
     fraPotencia_->setVisible(b5);
 }
 
-std::string frmFase1::TipoCombustible() const { return frmCombustible_->TipoCombustible(); }
+std::string frmFase1::TipoCombustible() const {
+    return frmCombustible_->TipoCombustible();
+}
 
 void frmFase1::PonerInforme(const std::string& texto) {
     txtInformeF1_ = texto;
@@ -440,10 +456,14 @@ void frmFase1::cmdCarCombustion_Click() {
     MostrarModal(*frmGasesCombustion_);
 }
 
-void frmFase1::cmdCarCiclo_Click() { MostrarModal(*frmOtto_Diesel_); }
+void frmFase1::cmdCarCiclo_Click() {
+    MostrarModal(*frmOtto_Diesel_);
+}
 
 // The report window comes with the reports.
-void frmFase1::cmdInforme_Click() { visores_->VerInforme(txtInformeF1_); }
+void frmFase1::cmdInforme_Click() {
+    visores_->VerInforme(txtInformeF1_);
+}
 
 std::array<QImage, 7> frmFase1::Imagenes() const {
     return {pct1_->Imagen(),  pct2_->Imagen(),  pct3_->Imagen(), pctPV_->Imagen(),
@@ -451,7 +471,9 @@ std::array<QImage, 7> frmFase1::Imagenes() const {
 }
 
 frmBaseDatos& frmFase1::BaseDatos() {
-    if (!frmBaseDatos_) frmBaseDatos_ = std::make_unique<frmBaseDatos>(*dlg_, [this] { return txtInformeF1_; }, this);
+    if (!frmBaseDatos_)
+        frmBaseDatos_ = std::make_unique<frmBaseDatos>(
+            *dlg_, [this] { return txtInformeF1_; }, this);
     return *frmBaseDatos_;
 }
 
@@ -459,7 +481,9 @@ void frmFase1::cmdEnvBaseDatos_Click() {
     GuardarBaseDatos(e_, *dlg_, TipoCombustible(), visores_->rthInforme(), Imagenes(), BaseDatos());
 }
 
-void frmFase1::chkVerHs_Click() { pctHS_->setVisible(chkVerHs_->isChecked()); }
+void frmFase1::chkVerHs_Click() {
+    pctHS_->setVisible(chkVerHs_->isChecked());
+}
 
 void frmFase1::pctPV_DblClick() {
     if (cmdCarCiclo_->isEnabled())
@@ -472,21 +496,35 @@ void frmFase1::pctTV_KeyPress(int) {
     if (cmdCarCiclo_->isEnabled()) MostrarModal(*frmOtto_Diesel_);
 }
 
-void frmFase1::txtCilindrada_Click() { MostrarModal(*frmOtto_Diesel_); }
+void frmFase1::txtCilindrada_Click() {
+    MostrarModal(*frmOtto_Diesel_);
+}
 
-void frmFase1::txtRpm_Change() { vanta::txtRpm_Change(e_, *dlg_, *cajaRpm_, *cajaPotencia_, *cajaPotenciaCV_); }
+void frmFase1::txtRpm_Change() {
+    vanta::txtRpm_Change(e_, *dlg_, *cajaRpm_, *cajaPotencia_, *cajaPotenciaCV_);
+}
 
 void frmFase1::txtRpm_Click() {
     if (txtRpm_->text() == QLatin1String(kTextoRpm)) txtRpm_->clear();
 }
 
 // Enlarging a diagram by a click comes with the enlarged views.
-void frmFase1::pctPV_Click() { ClickDiagrama(DiagramaAmpliable::PV); }
-void frmFase1::pctTV_Click() { ClickDiagrama(DiagramaAmpliable::TV); }
-void frmFase1::pctTS_Click() { ClickDiagrama(DiagramaAmpliable::TS); }
-void frmFase1::pctHS_Click() { ClickDiagrama(DiagramaAmpliable::HS); }
+void frmFase1::pctPV_Click() {
+    ClickDiagrama(DiagramaAmpliable::PV);
+}
+void frmFase1::pctTV_Click() {
+    ClickDiagrama(DiagramaAmpliable::TV);
+}
+void frmFase1::pctTS_Click() {
+    ClickDiagrama(DiagramaAmpliable::TS);
+}
+void frmFase1::pctHS_Click() {
+    ClickDiagrama(DiagramaAmpliable::HS);
+}
 
-void frmFase1::CalcularCicloActual() { frmOtto_Diesel_->cmdCal_Click(); }
+void frmFase1::CalcularCicloActual() {
+    frmOtto_Diesel_->cmdCal_Click();
+}
 
 void frmFase1::ClickDiagrama(DiagramaAmpliable d) {
     if (cmdCarCiclo_->isEnabled()) CalcularCicloActual();
@@ -536,12 +574,24 @@ void frmFase1::mnuNuevo_Click() {
     MostrarModal(*frmAireHumedad_);
 }
 
-void frmFase1::mnuAbrirBD_Click() { BaseDatos().MostrarNoModal(); }
-void frmFase1::mnuAbrirInforme_Click() { visores_->AbrirInforme(); }
-void frmFase1::mnuInforme_Click() { cmdInforme_Click(); }
-void frmFase1::mnuBDatos_Click() { cmdEnvBaseDatos_Click(); }
-void frmFase1::mnuGuardarTexto_Click() { visores_->GuardarTexto(this); }
-void frmFase1::mnuGuardarHTML_Click() { visores_->GuardarPaginaWeb(this, kDialogoPaginaPrincipal); }
+void frmFase1::mnuAbrirBD_Click() {
+    BaseDatos().MostrarNoModal();
+}
+void frmFase1::mnuAbrirInforme_Click() {
+    visores_->AbrirInforme();
+}
+void frmFase1::mnuInforme_Click() {
+    cmdInforme_Click();
+}
+void frmFase1::mnuBDatos_Click() {
+    cmdEnvBaseDatos_Click();
+}
+void frmFase1::mnuGuardarTexto_Click() {
+    visores_->GuardarTexto(this);
+}
+void frmFase1::mnuGuardarHTML_Click() {
+    visores_->GuardarPaginaWeb(this, kDialogoPaginaPrincipal);
+}
 
 void frmFase1::mnuVerTodo_Click() {
     PonerGraficosTodos();
@@ -549,12 +599,22 @@ void frmFase1::mnuVerTodo_Click() {
     for (QAction* a : {mnuPV_, mnuTV_, mnuTS_, mnuHS_}) a->setChecked(false);
 }
 
-void frmFase1::mnuPV_Click() { MenuDiagrama(DiagramaAmpliable::PV, mnuPV_); }
-void frmFase1::mnuTV_Click() { MenuDiagrama(DiagramaAmpliable::TV, mnuTV_); }
-void frmFase1::mnuTS_Click() { MenuDiagrama(DiagramaAmpliable::TS, mnuTS_); }
-void frmFase1::mnuHS_Click() { MenuDiagrama(DiagramaAmpliable::HS, mnuHS_); }
+void frmFase1::mnuPV_Click() {
+    MenuDiagrama(DiagramaAmpliable::PV, mnuPV_);
+}
+void frmFase1::mnuTV_Click() {
+    MenuDiagrama(DiagramaAmpliable::TV, mnuTV_);
+}
+void frmFase1::mnuTS_Click() {
+    MenuDiagrama(DiagramaAmpliable::TS, mnuTS_);
+}
+void frmFase1::mnuHS_Click() {
+    MenuDiagrama(DiagramaAmpliable::HS, mnuHS_);
+}
 
-void frmFase1::mnuCalcular_Click() { MostrarModal(*frmOtto_Diesel_); }
+void frmFase1::mnuCalcular_Click() {
+    MostrarModal(*frmOtto_Diesel_);
+}
 
 frmHerramientas& frmFase1::Herramientas() {
     if (!frmHerramientas_) {
@@ -572,16 +632,22 @@ frmHerramientas& frmFase1::Herramientas() {
     return *frmHerramientas_;
 }
 
-void frmFase1::mnuTablasActual_Click() { Herramientas().MostrarCicloActual(); }
+void frmFase1::mnuTablasActual_Click() {
+    Herramientas().MostrarCicloActual();
+}
 
 void frmFase1::mnuTablas_Click() {
     Ocultabotones(true, false, false, false, false, false);
     Herramientas().MostrarParaDefinir();
 }
 
-void frmFase1::mnuAyuda2_Click() { AbrirAyuda(); }
+void frmFase1::mnuAyuda2_Click() {
+    AbrirAyuda();
+}
 
-void frmFase1::mnuAcercaDe_Click() { MostrarAcercaDe(this); }
+void frmFase1::mnuAcercaDe_Click() {
+    MostrarAcercaDe(this);
+}
 
 void frmFase1::AbrirAyuda() {
     // No test that the pages are there: the browser shows what it finds.

@@ -15,12 +15,12 @@
 #include <string>
 
 #include "core/cycle/Ciclo.h"
-#include "core/workflow/Ampliacion.h"
 #include "core/diagrams/LecturaRaton.h"
 #include "core/services/Puertos.h"
+#include "core/state/Estado.h"
+#include "core/workflow/Ampliacion.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/services/SuperficieQt.h"
-#include "core/state/Estado.h"
 
 class QAction;
 class QCheckBox;
@@ -199,11 +199,11 @@ private:
 
     // Table of states.
     QGroupBox* fraPuntos_ = nullptr;
-    QLabel* cabezaPuntos_[5] = {};      // lblP, lblV, lblT, lblH, lblS
-    QLabel* filaPuntos_[5] = {};        // lbl1 … lbl5
-    QLabel* celdaPuntos_[5][5] = {};    // [column p, V, T, h, s][state 1 … 5]
-    QFrame* lv_[5] = {};                // lv1 … lv5
-    QFrame* lh_[5] = {};                // lh1 … lh5
+    QLabel* cabezaPuntos_[5] = {};    // lblP, lblV, lblT, lblH, lblS
+    QLabel* filaPuntos_[5] = {};      // lbl1 … lbl5
+    QLabel* celdaPuntos_[5][5] = {};  // [column p, V, T, h, s][state 1 … 5]
+    QFrame* lv_[5] = {};              // lv1 … lv5
+    QFrame* lh_[5] = {};              // lh1 … lh5
 
     // Table of processes.
     QGroupBox* fraTransformaciones_ = nullptr;
@@ -212,17 +212,17 @@ private:
     QLabel* unidadQ_ = nullptr;               // Label20
     QLabel* unidadW_ = nullptr;               // Label22
     QLabel *lblW12_ = nullptr, *lblG12_ = nullptr, *lblG2_ = nullptr, *lblQ23_ = nullptr, *lblQ34_ = nullptr,
-           *lblW34_ = nullptr, *lblW45_ = nullptr, *lblG45_ = nullptr, *lblG5_ = nullptr, *lblQciclo_ = nullptr,
-           *lblWciclo_ = nullptr, *lblRen_ = nullptr;
+           *lblW34_ = nullptr, *lblW45_ = nullptr, *lblG45_ = nullptr, *lblG5_ = nullptr,
+           *lblQciclo_ = nullptr, *lblWciclo_ = nullptr, *lblRen_ = nullptr;
     QFrame* lhT_[5] = {};  // lh6 … lh10
     QFrame* lvT_[4] = {};  // lv6 … lv9
 
     // Power and consumption.
     QGroupBox* fraPotencia_ = nullptr;
-    QLineEdit *txtRpm_ = nullptr, *txtPotencia_ = nullptr, *txtPotenciaCV_ = nullptr, *txtCilindrada_ = nullptr,
-              *txtConsumoMJ_ = nullptr, *txtConsumoKwh_ = nullptr;
-    QLabel *Label28_ = nullptr, *Label30_ = nullptr, *Label29_ = nullptr, *Label33_ = nullptr, *Label35_ = nullptr,
-           *Label34_ = nullptr, *Label31_ = nullptr, *Label32_ = nullptr;
+    QLineEdit *txtRpm_ = nullptr, *txtPotencia_ = nullptr, *txtPotenciaCV_ = nullptr,
+              *txtCilindrada_ = nullptr, *txtConsumoMJ_ = nullptr, *txtConsumoKwh_ = nullptr;
+    QLabel *Label28_ = nullptr, *Label30_ = nullptr, *Label29_ = nullptr, *Label33_ = nullptr,
+           *Label35_ = nullptr, *Label34_ = nullptr, *Label31_ = nullptr, *Label32_ = nullptr;
     std::unique_ptr<CajaTextoQt> cajaRpm_, cajaPotencia_, cajaPotenciaCV_;
 
     // The readout of the state under the pointer.
@@ -236,9 +236,10 @@ private:
     QMenu *mnuArchivo_ = nullptr, *mnuGuardar_ = nullptr, *mnuVer_ = nullptr, *mnuVerCiclo_ = nullptr,
           *mnuHerramientas_ = nullptr, *mnuAyuda_ = nullptr;
     QAction *mnuNuevo_ = nullptr, *mnuAbrirBD_ = nullptr, *mnuAbrirInforme_ = nullptr, *mnuInforme_ = nullptr,
-            *mnuBDatos_ = nullptr, *mnuGuardarTexto_ = nullptr, *mnuGuardarHTML_ = nullptr, *mnuVerTodo_ = nullptr,
-            *mnuPV_ = nullptr, *mnuTV_ = nullptr, *mnuTS_ = nullptr, *mnuHS_ = nullptr, *mnuCalcular_ = nullptr,
-            *mnuTablasActual_ = nullptr, *mnuTablas_ = nullptr, *mnuAyuda2_ = nullptr, *mnuAcercaDe_ = nullptr;
+            *mnuBDatos_ = nullptr, *mnuGuardarTexto_ = nullptr, *mnuGuardarHTML_ = nullptr,
+            *mnuVerTodo_ = nullptr, *mnuPV_ = nullptr, *mnuTV_ = nullptr, *mnuTS_ = nullptr,
+            *mnuHS_ = nullptr, *mnuCalcular_ = nullptr, *mnuTablasActual_ = nullptr, *mnuTablas_ = nullptr,
+            *mnuAyuda2_ = nullptr, *mnuAcercaDe_ = nullptr;
 
     frmAireHumedad* frmAireHumedad_ = nullptr;
     frmCombustible* frmCombustible_ = nullptr;

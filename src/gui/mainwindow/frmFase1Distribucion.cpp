@@ -10,9 +10,9 @@
 #include <QMenuBar>
 #include <QPushButton>
 
-#include "gui/services/Controles.h"
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/resources/Dibujos.h"
+#include "gui/services/Controles.h"
 
 namespace vanta {
 
@@ -28,7 +28,9 @@ QRect Rectangulo(const Lugar& l, double W, double H) {
     return {qRound(l.izquierda * W), qRound(l.arriba * H), qRound(l.ancho * W), qRound(l.alto * H)};
 }
 
-void Colocar(QWidget* w, const Lugar& l, double W, double H) { w->setGeometry(Rectangulo(l, W, H)); }
+void Colocar(QWidget* w, const Lugar& l, double W, double H) {
+    w->setGeometry(Rectangulo(l, W, H));
+}
 
 // The overview.
 constexpr Lugar kPct1{0.001, 0, 0.25, 0.499};
@@ -91,8 +93,9 @@ void frmFase1::PonerGraficosTodos() {
                         qRound(kRecuadroAncho * pv.width()), qRound(kRecuadroAlto * pv.height()));
     pctTS_->raise();
 
-    for (QWidget* w : {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_),
-                       static_cast<QWidget*>(pctTV_), static_cast<QWidget*>(pctTS_)})
+    for (QWidget* w :
+         {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_),
+          static_cast<QWidget*>(pctTV_), static_cast<QWidget*>(pctTS_)})
         w->show();
     pctHS_->hide();
     fraBotonera_->show();
@@ -126,7 +129,8 @@ void frmFase1::CambiarTamaño() {
     Colocar(fraEstadoActual_, kFraEstadoActual, W, H);
     // Room for the caption inside the button's frame.
     constexpr int kMargenBoton = 12;
-    for (QPushButton* b : {cmdInforme_, cmdEnvBaseDatos_}) AjustarLetra(b, b->text(), b->width() - kMargenBoton);
+    for (QPushButton* b : {cmdInforme_, cmdEnvBaseDatos_})
+        AjustarLetra(b, b->text(), b->width() - kMargenBoton);
     DistribuirEstadoActual();
 }
 
@@ -140,7 +144,8 @@ void frmFase1::DistribuirPuntos() {
         cabezaPuntos_[c]->adjustSize();
         cabezaPuntos_[c]->move(qRound(kPuntosCabezaIzquierda[c] * w), qRound(kPuntosCabezaArriba * h));
         for (int f = 0; f < 5; ++f)
-            celdaPuntos_[c][f]->setGeometry(qRound(kPuntosCeldaIzquierda[c] * w), qRound(kPuntosFilaArriba[f] * h),
+            celdaPuntos_[c][f]->setGeometry(qRound(kPuntosCeldaIzquierda[c] * w),
+                                            qRound(kPuntosFilaArriba[f] * h),
                                             qRound(kPuntosCeldaAncho[c] * w), alto);
     }
     for (int f = 0; f < 5; ++f) {
@@ -200,7 +205,8 @@ void frmFase1::DistribuirTransformaciones() {
     // Row heads, each in the middle of its band.
     for (int i = 0; i < 5; ++i) {
         const double desde = kTransReglaH[i], hasta = i + 1 < 5 ? kTransReglaH[i + 1] : kTransReglaVHasta;
-        filaTransformaciones_[i]->setGeometry(qRound(kTransFilaIzquierda * w), qRound((desde + hasta) / 2 * h - alto / 2.0),
+        filaTransformaciones_[i]->setGeometry(qRound(kTransFilaIzquierda * w),
+                                              qRound((desde + hasta) / 2 * h - alto / 2.0),
                                               qRound((kTransReglaV[0] - kTransFilaIzquierda) * w), alto);
     }
 }
@@ -252,7 +258,8 @@ void frmFase1::DistribuirEstadoActual() {
 void frmFase1::LugaresIniciales() {
     // pctHS stands as an inset at the top left of T-V, as pctTS does on p-V.
     const QRect tv = pctTV_->geometry();
-    pctHS_->setGeometry(tv.left(), tv.top(), qRound(kRecuadroAncho * tv.width()), qRound(kRecuadroAlto * tv.height()));
+    pctHS_->setGeometry(tv.left(), tv.top(), qRound(kRecuadroAncho * tv.width()),
+                        qRound(kRecuadroAlto * tv.height()));
 
     // The splash fills the window right of the stage buttons.
     const QRect b = fraBotonera_->geometry();
@@ -279,10 +286,14 @@ void Poner(QWidget* w, const LugarDiagrama& l) {
 
 SuperficieQt* frmFase1::SuperficieDe(DiagramaAmpliable d) const {
     switch (d) {
-        case DiagramaAmpliable::PV: return pctPV_;
-        case DiagramaAmpliable::TV: return pctTV_;
-        case DiagramaAmpliable::TS: return pctTS_;
-        case DiagramaAmpliable::HS: return pctHS_;
+        case DiagramaAmpliable::PV:
+            return pctPV_;
+        case DiagramaAmpliable::TV:
+            return pctTV_;
+        case DiagramaAmpliable::TS:
+            return pctTS_;
+        case DiagramaAmpliable::HS:
+            return pctHS_;
     }
     return pctPV_;
 }
@@ -313,10 +324,12 @@ void frmFase1::PonerGraficos(DiagramaAmpliable d) {
     // second click on it would enlarge it again instead of returning: it
     // takes the next pixel.
     SuperficieQt* principal = SuperficieDe(d);
-    if (DebeAmpliar(d, GeometriaActual(), dosTwips)) principal->resize(principal->width() + 1, principal->height());
+    if (DebeAmpliar(d, GeometriaActual(), dosTwips))
+        principal->resize(principal->width() + 1, principal->height());
     // The inset stands over the main surface.
     (d == DiagramaAmpliable::HS ? pctTS_ : pctHS_)->raise();
-    for (QWidget* w : {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_)})
+    for (QWidget* w :
+         {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_)})
         w->hide();
     pctTS_->show();
     if (d == DiagramaAmpliable::HS) pctHS_->show();
@@ -328,8 +341,9 @@ void frmFase1::PonerGraficos(DiagramaAmpliable d) {
     chkVerHs_->show();
     fraPuntos_->hide();
     CambiarTamaño();
-    for (QWidget* w : {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_),
-                       static_cast<QWidget*>(fraPuntos_), static_cast<QWidget*>(fraTransformaciones_)})
+    for (QWidget* w :
+         {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_),
+          static_cast<QWidget*>(fraPuntos_), static_cast<QWidget*>(fraTransformaciones_)})
         w->hide();
 }
 

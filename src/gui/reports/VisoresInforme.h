@@ -17,10 +17,10 @@
 #include <string>
 
 #include "core/reports/ArchivosInforme.h"
-#include "gui/reports/DialogosInforme.h"
 #include "core/reports/Informes.h"
 #include "core/services/Puertos.h"
 #include "core/state/Estado.h"
+#include "gui/reports/DialogosInforme.h"
 
 class QPrinter;
 class QWidget;

@@ -53,6 +53,8 @@ private:
     QWidget* ventana_;
 };
 
-inline QString ATexto(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+inline QString ATexto(std::string_view s) {
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
 
 }  // namespace vanta

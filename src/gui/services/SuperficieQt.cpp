@@ -23,10 +23,8 @@ constexpr double kMargenRecorte = 16.0;
 bool Recortar(QPointF& p, QPointF& q, const QRectF& r) {
     double t0 = 0, t1 = 1;
     const double dx = q.x() - p.x(), dy = q.y() - p.y();
-    const double lados[4][2] = {{-dx, p.x() - r.left()},
-                                {dx, r.right() - p.x()},
-                                {-dy, p.y() - r.top()},
-                                {dy, r.bottom() - p.y()}};
+    const double lados[4][2] = {
+        {-dx, p.x() - r.left()}, {dx, r.right() - p.x()}, {-dy, p.y() - r.top()}, {dy, r.bottom() - p.y()}};
     for (const auto& [a, b] : lados) {
         if (a == 0) {
             if (b < 0) return false;
@@ -49,11 +47,15 @@ bool Recortar(QPointF& p, QPointF& q, const QRectF& r) {
 
 constexpr qreal kPuntosLetra = 8;
 
-bool Finito(QPointF p) { return std::isfinite(p.x()) && std::isfinite(p.y()); }
+bool Finito(QPointF p) {
+    return std::isfinite(p.x()) && std::isfinite(p.y());
+}
 
 }  // namespace
 
-QColor ColorQt(int32_t color) { return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF); }
+QColor ColorQt(int32_t color) {
+    return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+}
 
 SuperficieQt::SuperficieQt(QWidget* padre, int32_t fondo) : QFrame(padre), fondo_(fondo) {
     setFrameStyle(QFrame::Panel | QFrame::Sunken);
@@ -69,7 +71,9 @@ SuperficieQt::SuperficieQt(QWidget* padre, int32_t fondo) : QFrame(padre), fondo
     setFont(letra);
 }
 
-SuperficieQt::~SuperficieQt() { CerrarPintor(); }
+SuperficieQt::~SuperficieQt() {
+    CerrarPintor();
+}
 
 const SuperficieQt::Medida& SuperficieQt::Medir(bool otraVez) const {
     if (otraVez || size() != medida_.widget) medida_ = {size(), contentsRect().size(), devicePixelRatioF()};
@@ -175,7 +179,8 @@ QPointF SuperficieQt::APixel(double x, double y) const {
 QPointF SuperficieQt::AUsuario(QPointF pixel) const {
     const QSizeF t = Medir().dentro;
     if (t.isEmpty()) return {ScaleLeft(), ScaleTop()};
-    return {ScaleLeft() + pixel.x() * ScaleWidth() / t.width(), ScaleTop() + pixel.y() * ScaleHeight() / t.height()};
+    return {ScaleLeft() + pixel.x() * ScaleWidth() / t.width(),
+            ScaleTop() + pixel.y() * ScaleHeight() / t.height()};
 }
 
 float SuperficieQt::TextWidth(std::string_view texto) const {
@@ -290,11 +295,13 @@ void SuperficieQt::changeEvent(QEvent* evento) {
     if (evento->type() == QEvent::FontChange) CerrarPintor();
 }
 
-void SuperficieQt::DatosRaton(const QMouseEvent* evento, int& boton, int& mayusculas, float& x, float& y) const {
+void SuperficieQt::DatosRaton(const QMouseEvent* evento, int& boton, int& mayusculas, float& x,
+                              float& y) const {
     const Qt::MouseButtons b = evento->buttons() | evento->button();
     boton = (b & Qt::LeftButton ? 1 : 0) | (b & Qt::RightButton ? 2 : 0) | (b & Qt::MiddleButton ? 4 : 0);
     const Qt::KeyboardModifiers m = evento->modifiers();
-    mayusculas = (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) | (m & Qt::AltModifier ? 4 : 0);
+    mayusculas =
+        (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) | (m & Qt::AltModifier ? 4 : 0);
     const QPointF u = AUsuario(evento->position() - contentsRect().topLeft());
     x = static_cast<float>(u.x());
     y = static_cast<float>(u.y());
@@ -320,7 +327,8 @@ void SuperficieQt::mouseReleaseEvent(QMouseEvent* evento) {
     float x, y;
     DatosRaton(evento, boton, mayusculas, x, y);
     emit MouseUp(boton, mayusculas, x, y);
-    const bool click = pulsado_ && evento->button() == Qt::LeftButton && rect().contains(evento->position().toPoint());
+    const bool click =
+        pulsado_ && evento->button() == Qt::LeftButton && rect().contains(evento->position().toPoint());
     pulsado_ = false;
     if (click) emit Click();
 }

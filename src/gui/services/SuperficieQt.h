@@ -99,8 +99,8 @@ private:
     void DatosRaton(const QMouseEvent* evento, int& boton, int& mayusculas, float& x, float& y) const;
 
     int32_t fondo_;
-    QImage imagen_;    // persistent picture
-    QImage capa_;      // transient overlay, transparent where nothing is drawn
+    QImage imagen_;  // persistent picture
+    QImage capa_;    // transient overlay, transparent where nothing is drawn
     bool capaVacia_ = true;
     std::unique_ptr<QPainter> pintor_;
     QImage* destinoPintor_ = nullptr;

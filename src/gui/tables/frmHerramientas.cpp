@@ -10,8 +10,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "gui/services/Controles.h"
 #include "core/properties/Especies.h"
+#include "gui/services/Controles.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/tables/frmTablas.h"
 

@@ -7,9 +7,9 @@
 #include <memory>
 #include <string>
 
+#include "core/tables/TablasPropiedades.h"
 #include "gui/reports/DialogosInforme.h"
 #include "gui/reports/VentanaTexto.h"
-#include "core/tables/TablasPropiedades.h"
 
 class QPlainTextEdit;
 
