@@ -119,6 +119,7 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
 TextosResultados TextosDeResultados(const Estado& e);
 
 // The power boxes, when the text of txtRpm changes.
-void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPotencia, CajaTexto& txtPotenciaCV);
+void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPotencia,
+                   CajaTexto& txtPotenciaCV);
 
 }  // namespace vanta
