@@ -38,7 +38,7 @@ QApplication& Aplicacion() {
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
         auto* a = new QApplication(argc, argv);
         std::setlocale(LC_NUMERIC, "C");
-        FijarSeparadorDecimal('.');
+
         return a;
     }();
     return *app;

@@ -97,9 +97,8 @@ int Ventanas(int argc, char** argv) {
                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&traductor);
 
-    vanta::FijarSeparadorDecimal(SeparadorDelSistema());
-
     vanta::Estado e;
+    e.SeparadorDecimal = SeparadorDelSistema();
     vanta::frmFase1 principal(e);
     principal.show();
     return QApplication::exec();

@@ -24,7 +24,6 @@ struct Calculo {
 
     // Runs `vanta calcular` with these options on this state.
     Calculo& Ejecutar(std::vector<std::string> opciones) {
-        FijarSeparadorDecimal('.');
         const cli::Parseo p = cli::ParsearCalcular(opciones);
         EXPECT_TRUE(p.opciones) << p.error;
         cli::SuperficiesCalculo s{pct1, pct2, pct3, Diagramas{pv, tv, ts, hs}};

@@ -118,7 +118,7 @@ TEST(CalcularCicloTest, OttoShowsNoHeatAtConstantPressureButTheWholeMolarHeat) {
     Calculo c;
     c.Ejecutar({});
     const auto l = c.Lineas();
-    const std::string molar = Format(Round(c.e.Qciclo / c.e.MolesAire, 1), "### ### ##00");
+    const std::string molar = Format(Round(c.e.Qciclo / c.e.MolesAire, 1), "### ### ##00", '.');
     EXPECT_NE(std::find(l.begin(), l.end(), " Q 3-4 =   0.0 J      Q molar 3-4 = " + molar + " J/(mol aire)"),
               l.end());
     EXPECT_NE(std::find(l.begin(), l.end(), " Trabajo 3-4 = 0      Trabajo molar 3-4 =   0.0 J/(mol aire)"),

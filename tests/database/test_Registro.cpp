@@ -12,12 +12,6 @@ using namespace vanta;
 
 namespace {
 
-// The separator of the test, put back afterwards.
-struct Separador {
-    explicit Separador(char c) { FijarSeparadorDecimal(c); }
-    ~Separador() { FijarSeparadorDecimal('.'); }
-};
-
 std::string Columna(const bd::TextosRegistro& t, std::string_view nombre) {
     for (size_t i = 0; i < bd::kColumnasTexto.size(); ++i)
         if (bd::kColumnasTexto[i].nombre == nombre) return t[i];
@@ -34,7 +28,7 @@ TEST(Registro, ElNombrePorDefectoLlevaLosNumerosSinRedondearConElSeparadorDelSis
     e.TipoCiclo = "Diesel";
     EXPECT_EQ(bd::NombrePorDefecto(e, "Gasóleo"),
               "Aire 33.3333333333333 % de humedad    Gasóleo  Fr = 1.1   Diesel");
-    Separador coma(',');
+    e.SeparadorDecimal = ',';
     EXPECT_EQ(bd::NombrePorDefecto(e, "Gasóleo"),
               "Aire 33,3333333333333 % de humedad    Gasóleo  Fr = 1,1   Diesel");
 }
@@ -74,7 +68,7 @@ TEST(Registro, CadaColumnaTieneSuRedondeoYSuConversion) {
     EXPECT_EQ(Columna(t, "TipoCombustible"), "Gasolina");
     EXPECT_EQ(Columna(t, "Informe"), "informe\r\nde dos líneas");
 
-    Separador coma(',');
+    e.SeparadorDecimal = ',';
     EXPECT_EQ(Columna(bd::ValoresRegistro(e, "", "", ""), "Psaturacion"), "3169,88");
 }
 

@@ -21,10 +21,10 @@ using namespace vanta::pruebas;
 namespace {
 
 std::string R(double x, int d) {
-    return TextoGeneral(Round(x, d));
+    return TextoGeneral(Round(x, d), '.');
 }
 std::string G(double x) {
-    return TextoGeneral(x);
+    return TextoGeneral(x, '.');
 }
 
 // What each box of the browser shows for a saved calculation: the table of
@@ -186,11 +186,12 @@ private slots:
 
     void unaComaDelSistemaSeGuardaYSeLeeComoSeVio() {
         Banco b;
-        FijarSeparadorDecimal(',');
-        const Calculo& c = TresCiclos()[1];
+
+        Calculo c = TresCiclos()[1];
+        c.e.SeparadorDecimal = ',';
         b.dlg.respuestas = {"con comas"};
         const bool guardado = GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f);
-        FijarSeparadorDecimal('.');
+
         QVERIFY(guardado);
         QCOMPARE(b.Texto("txtW"), QStringLiteral("47,5"));
         QCOMPARE(b.Texto("txtFr"), QStringLiteral("0,7"));

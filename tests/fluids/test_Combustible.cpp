@@ -8,7 +8,7 @@ namespace {
 using Mensajes = std::vector<std::string>;
 
 struct CombustibleTest : ::testing::Test {
-    void SetUp() override { FijarSeparadorDecimal('.'); }
+    void SetUp() override {}
     Estado e;
     DialogosGrabados dlg;
     prueba::EtapaCombustible f{e, dlg};
@@ -39,7 +39,7 @@ TEST_F(CombustibleTest, GasolineHeatingValuesCountLiquidWaterAndCO2) {
     EXPECT_EQ(e.MasaMolecularCombustible, masa);
     EXPECT_EQ(e.HCS, (7.5 * -286021.0 + 8 * -391904.0 + 305630) / (-masa));
     EXPECT_EQ(e.HCI, e.HCS - 7.5 * 44037.0 / masa);
-    EXPECT_EQ(f.p.txtHcs.Text(), TextoGeneral(Round(e.HCS, 0)));
+    EXPECT_EQ(f.p.txtHcs.Text(), TextoGeneral(Round(e.HCS, 0), '.'));
 }
 
 TEST_F(CombustibleTest, OthersOpensTheUsersInputAndTheButtonWantsIt) {
@@ -72,7 +72,7 @@ TEST_F(CombustibleTest, TypedFormulaAndMassCompositionGiveTheLibrarysMethanol) {
     EXPECT_NEAR(e.MasaMolecularCombustible, 0.032043, 1e-15);
 
     const double masa = e.MasaMolecularCombustible;
-    f.Masa(TextoGeneral(e.CienC), "", TextoGeneral(e.CienO), "", "0.032043");
+    f.Masa(TextoGeneral(e.CienC, '.'), "", TextoGeneral(e.CienO, '.'), "", "0.032043");
     EXPECT_EQ(e.ErrorCalculo, Falso);
     EXPECT_EQ(e.MasaMolecularCombustible, masa);
     EXPECT_NEAR(e.AtomosC, 1, 1e-12);

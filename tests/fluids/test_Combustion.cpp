@@ -8,10 +8,7 @@ namespace {
 using Mensajes = std::vector<std::string>;
 
 struct CombustionTest : ::testing::Test {
-    void SetUp() override {
-        FijarSeparadorDecimal('.');
-        prueba::AireSecoCalculado(e);
-    }
+    void SetUp() override { prueba::AireSecoCalculado(e); }
     Estado e;
     DialogosGrabados dlg;
     prueba::EtapaCombustible fuel{e, dlg};

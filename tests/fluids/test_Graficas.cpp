@@ -14,7 +14,6 @@ bool Contiene(const std::vector<std::string>& v, const std::string& s) {
 }  // namespace
 
 TEST(GraficaAireTest, BarsValuesAndFiguresStandWhereTold) {
-    FijarSeparadorDecimal('.');
     Estado e;
     e.xN2Aire = 0.78087, e.xO2Aire = 0.20946, e.xArAire = 0.00934, e.xCO2Aire = 0.00033;
     e.Humedad = 0, e.MasaMolecularAire = 0.0289652, e.Tambiente = 300, e.Pambiente = 100000,
@@ -38,7 +37,6 @@ TEST(GraficaAireTest, BarsValuesAndFiguresStandWhereTold) {
 }
 
 TEST(GraficaCombustibleTest, NitrogenBarIsAHundredfoldAndTheFormulaStepsByTheHydrogenCount) {
-    FijarSeparadorDecimal('.');
     Estado e;
     e.CienC = 86.0, e.CienH = 13.2, e.CienN = 0.5, e.CienO = 0.2, e.CienS = 0.1;
     e.AtomosC = 11, e.AtomosH = 19, e.AtomosN = 0.073, e.AtomosO = 0.063, e.AtomosS = 0.032;
@@ -62,7 +60,6 @@ TEST(GraficaCombustibleTest, NitrogenBarIsAHundredfoldAndTheFormulaStepsByTheHyd
 }
 
 TEST(GraficaHumosTest, ScalesBySizeAndComputesLambdaItself) {
-    FijarSeparadorDecimal('.');
     Estado e;
     e.Fr = 0.8, e.xN2Humos = 0.75, e.HCIhumos = 44000000, e.MasaMolecularHumos = 0.0288, e.Fe = 0.0667;
     SuperficieGrabada s;

@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
     QApplication aplicacion(argc, argv);
     QApplication::setApplicationName(vanta::NombrePrograma());
     std::setlocale(LC_NUMERIC, "C");
-    vanta::FijarSeparadorDecimal('.');
+
     std::vector<std::unique_ptr<QObject>> pruebas;
     for (const auto& fabrica : vanta::pruebas::Registro()) pruebas.emplace_back(fabrica());
     // A first argument that names a test class runs that class alone, with

@@ -19,9 +19,9 @@ struct Lectura : ::testing::Test {
 
     void PV(double X, double Y) { pctPV_MouseMove(c.e, c.dlg, g, true, float(X), float(Y), l); }
     void TV(double X, double Y) { pctTV_MouseMove(c.e, c.dlg, g, true, float(X), float(Y), l); }
-    std::string P(double p) { return Format(p, "### ### ### ###"); }
-    std::string T(double t) { return Format(t, "### ### ### ##0.00"); }
-    std::string V(double v) { return Format(v * 1e6, "0.000"); }
+    std::string P(double p) { return Format(p, "### ### ### ###", '.'); }
+    std::string T(double t) { return Format(t, "### ### ### ##0.00", '.'); }
+    std::string V(double v) { return Format(v * 1e6, "0.000", '.'); }
 };
 
 }  // namespace

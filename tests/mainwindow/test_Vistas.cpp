@@ -250,9 +250,9 @@ private slots:
         mover(p.f.pctPV(), e.V2 - margenV, -e.p1);
         auto* proceso = Hijo<QLineEdit>(&p.f, "txtTransformacion");
         QCOMPARE(proceso->text(), QStringLiteral("Combustión a v = cte."));
-        QCOMPARE(p.Etiqueta("lblVmouseVal"), Q(Format(e.V2 * 1e6, "0.000")));
-        QCOMPARE(p.Etiqueta("lblPmouseVal"), Q(Format(e.p2, "### ### ### ###")));
-        QCOMPARE(p.Etiqueta("lblTmouseVal"), Q(Format(e.T2, "### ### ### ##0.00")));
+        QCOMPARE(p.Etiqueta("lblVmouseVal"), Q(Format(e.V2 * 1e6, "0.000", '.')));
+        QCOMPARE(p.Etiqueta("lblPmouseVal"), Q(Format(e.p2, "### ### ### ###", '.')));
+        QCOMPARE(p.Etiqueta("lblTmouseVal"), Q(Format(e.T2, "### ### ### ##0.00", '.')));
         QVERIFY(!p.Etiqueta("lblhmouseVal").trimmed().isEmpty());
         QVERIFY(!p.Etiqueta("lblSmouseVal").trimmed().isEmpty());
         // The cross stands on all four surfaces, visible or not, and the
@@ -265,9 +265,9 @@ private slots:
         // Right of V1 and below state 1 on T-V: state 1.
         mover(p.f.pctTV(), e.V1 + margenV / 2, -e.T1 + (e.TemperaturaMaxima - e.T1) / 100);
         QCOMPARE(proceso->text(), QStringLiteral("Escape y admisión"));
-        QCOMPARE(p.Etiqueta("lblVmouseVal"), Q(Format(e.V1 * 1e6, "0.000")));
-        QCOMPARE(p.Etiqueta("lblTmouseVal"), Q(Format(e.T1, "### ### ### ##0.00")));
-        QCOMPARE(p.Etiqueta("lblPmouseVal"), Q(Format(e.p1, "### ### ### ###")));
+        QCOMPARE(p.Etiqueta("lblVmouseVal"), Q(Format(e.V1 * 1e6, "0.000", '.')));
+        QCOMPARE(p.Etiqueta("lblTmouseVal"), Q(Format(e.T1, "### ### ### ##0.00", '.')));
+        QCOMPARE(p.Etiqueta("lblPmouseVal"), Q(Format(e.p1, "### ### ### ###", '.')));
         QCOMPARE(p.f.pctPV()->Imagen(), pvAntes);
     }
 };

@@ -13,8 +13,8 @@ using namespace vanta;
 namespace {
 
 struct InformesTest : ::testing::Test {
-    void SetUp() override { FijarSeparadorDecimal('.'); }
-    void TearDown() override { FijarSeparadorDecimal('.'); }
+    void SetUp() override {}
+    void TearDown() override {}
 };
 
 const std::string kRaya = " " + std::string(114, '*');
@@ -443,8 +443,8 @@ TEST_F(InformesTest, OttoPageLineByLine) {
 // clang-format on
 
 TEST_F(InformesTest, BothReportsFollowTheDecimalSeparatorSetting) {
-    FijarSeparadorDecimal(',');
     Estado e = Otto();
+    e.SeparadorDecimal = ',';
     e.Rc = 8.5;
     const auto texto = Lineas(InformeTexto(e, "Gasolina"));
     EXPECT_EQ(texto[2],

@@ -270,7 +270,7 @@ std::vector<std::string> Ejecutar(Estado& e, const std::vector<std::string>& arg
                                     e.V4, e.V5, e.T1, e.T2, e.T3, e.T4, e.T5};
         for (double v : positivos)
             if (!(v > 0))
-                fallos.push_back("un estado del ciclo con p, V o T no positivo: " + TextoGeneral(v));
+                fallos.push_back("un estado del ciclo con p, V o T no positivo: " + TextoGeneral(v, '.'));
     } else if (estado == cli::kSalidaFallo) {
         ++r.rechazados;
         if (dlg.mensajes.empty()) fallos.push_back("el cálculo se detuvo sin ningún mensaje");
@@ -307,7 +307,7 @@ TEST_P(CalculoAleatorio, EndsInResultsOrAMessageWithNothingThatIsNotFinite) {
         const Caso caso = GenerarCaso(semilla, static_cast<uint64_t>(n));
         const std::string descripcion = Describir(semilla, caso);
         if (solo >= 0) std::printf("%s\n", descripcion.c_str());
-        FijarSeparadorDecimal(n % 2 ? ',' : '.');
+
         Estado e;
         GuardarColoresDiagramas(e);
         std::vector<std::string> fallos;
@@ -333,7 +333,6 @@ TEST_P(CalculoAleatorio, EndsInResultsOrAMessageWithNothingThatIsNotFinite) {
         }
         if (solo >= 0) break;
     }
-    FijarSeparadorDecimal('.');
 
     const double segundos = std::chrono::duration<double>(std::chrono::steady_clock::now() - inicio).count();
     std::printf("%d calculados, %d rechazados, %d usos incorrectos en %.1f s (el más lento %.3f s)\n",

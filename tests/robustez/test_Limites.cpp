@@ -57,11 +57,10 @@ TEST(LimitesTest, StrokeWhoseStepCannotMoveTheVolumeIsRefused) {
 TEST(LimitesTest, TheLargestDoubleAsWrittenReadsBack) {
     const double mayor = std::numeric_limits<double>::max();
     for (char separador : {'.', ','}) {
-        FijarSeparadorDecimal(separador);
-        EXPECT_EQ(LeerNumero(TextoGeneral(mayor)), mayor) << TextoGeneral(mayor);
-        EXPECT_EQ(LeerNumero(TextoGeneral(-mayor)), -mayor) << TextoGeneral(-mayor);
+        EXPECT_EQ(LeerNumero(TextoGeneral(mayor, '.')), mayor) << TextoGeneral(mayor, '.');
+        EXPECT_EQ(LeerNumero(TextoGeneral(-mayor, '.')), -mayor) << TextoGeneral(-mayor, '.');
     }
-    FijarSeparadorDecimal('.');
+
     EXPECT_FALSE(LeerNumero("1.79769313486233E+308"));
     EXPECT_FALSE(LeerNumero("1e309"));
 }

@@ -144,7 +144,7 @@ TEST(TablasAleatoriasTest, EveryRangeEndsWholeOrWithAMessageAndNothingThatIsNotF
         const CasoTablas caso = GenerarCaso(semilla, static_cast<uint64_t>(n));
         const std::string descripcion = Describir(semilla, static_cast<uint64_t>(n), caso);
         if (solo >= 0) std::printf("%s\n", descripcion.c_str());
-        FijarSeparadorDecimal(n % 2 ? ',' : '.');
+
         vigilante.Empezar(descripcion);
         const std::vector<std::string> fallos = Ejecutar(caso, enteras);
         vigilante.Terminar();
@@ -155,7 +155,7 @@ TEST(TablasAleatoriasTest, EveryRangeEndsWholeOrWithAMessageAndNothingThatIsNotF
             if (++fallidos >= 10) break;
         }
     }
-    FijarSeparadorDecimal('.');
+
     std::printf("%d tablas enteras\n", enteras);
 }
 

@@ -9,57 +9,55 @@ using namespace vanta;
 
 namespace {
 struct SeparadorPunto : ::testing::Test {
-    void SetUp() override { FijarSeparadorDecimal('.'); }
+    void SetUp() override {}
 };
 }  // namespace
 
 using FormatTest = SeparadorPunto;
 
 TEST_F(FormatTest, WorkedCasesKeepTheirBlanks) {
-    EXPECT_EQ(Format(101325, "### ### ### ### ###"), "   101 325");
-    EXPECT_EQ(Format(293.15, "### ### ### ### ##0.00"), "    293.15");
-    EXPECT_EQ(Format(21.5, "##0.00"), "21.50");
-    EXPECT_EQ(Format(0.028964, "# ##0.0## ###"), " 0.028 964");
-    EXPECT_EQ(Format(0, "### ### ### ### ###"), "    ");
-    EXPECT_EQ(Format(1234567.8, "### ### ##0.0"), "1 234 567.8");
-    EXPECT_EQ(Format(Round(14.96, 1), "### ### ##00"), "  15");
+    EXPECT_EQ(Format(101325, "### ### ### ### ###", '.'), "   101 325");
+    EXPECT_EQ(Format(293.15, "### ### ### ### ##0.00", '.'), "    293.15");
+    EXPECT_EQ(Format(21.5, "##0.00", '.'), "21.50");
+    EXPECT_EQ(Format(0.028964, "# ##0.0## ###", '.'), " 0.028 964");
+    EXPECT_EQ(Format(0, "### ### ### ### ###", '.'), "    ");
+    EXPECT_EQ(Format(1234567.8, "### ### ##0.0", '.'), "1 234 567.8");
+    EXPECT_EQ(Format(Round(14.96, 1), "### ### ##00", '.'), "  15");
 }
 
 TEST_F(FormatTest, DigitPlacesAndTrailingHashes) {
-    EXPECT_EQ(Format(1, "0.0##"), "1.0");
-    EXPECT_EQ(Format(0.833, "0.0##"), "0.833");
-    EXPECT_EQ(Format(0.12, "0.0##"), "0.12");
-    EXPECT_EQ(Format(0, "### ### ##0.0##"), "  0.0");
+    EXPECT_EQ(Format(1, "0.0##", '.'), "1.0");
+    EXPECT_EQ(Format(0.833, "0.0##", '.'), "0.833");
+    EXPECT_EQ(Format(0.12, "0.0##", '.'), "0.12");
+    EXPECT_EQ(Format(0, "### ### ##0.0##", '.'), "  0.0");
     // A blank between trailing '#' places stays.
-    EXPECT_EQ(Format(0.5, "# ##0.0## ###"), " 0.5 ");
-    EXPECT_EQ(Format(0.0000037, "### ### ##0.0## ### ###"), "  0.000 003 7");
-    EXPECT_EQ(Format(1.4, "0.000"), "1.400");
+    EXPECT_EQ(Format(0.5, "# ##0.0## ###", '.'), " 0.5 ");
+    EXPECT_EQ(Format(0.0000037, "### ### ##0.0## ### ###", '.'), "  0.000 003 7");
+    EXPECT_EQ(Format(1.4, "0.000", '.'), "1.400");
 }
 
 TEST_F(FormatTest, RoundsHalfAwayFromZeroAndOverflowsToTheLeft) {
-    EXPECT_EQ(Format(0.125, "0.00"), "0.13");  // an exact tie goes up
-    EXPECT_EQ(Format(-0.125, "0.00"), "-0.13");
-    EXPECT_EQ(Format(2.5, "##0"), "3");
-    EXPECT_EQ(Format(9.9996, "##0.000"), "10.000");
-    EXPECT_EQ(Format(12345678901.0, "### ### ##0"), "12345 678 901");
+    EXPECT_EQ(Format(0.125, "0.00", '.'), "0.13");  // an exact tie goes up
+    EXPECT_EQ(Format(-0.125, "0.00", '.'), "-0.13");
+    EXPECT_EQ(Format(2.5, "##0", '.'), "3");
+    EXPECT_EQ(Format(9.9996, "##0.000", '.'), "10.000");
+    EXPECT_EQ(Format(12345678901.0, "### ### ##0", '.'), "12345 678 901");
 }
 
 TEST_F(FormatTest, MinusSignStandsBeforeTheMaskBlanks) {
-    EXPECT_EQ(Format(-5.3, "### ##0.00"), "- 5.30");
-    EXPECT_EQ(Format(-20.15, "### ### ### ##0.00"), "-   20.15");
-    EXPECT_EQ(Format(-0.001, "0.00"), "0.00");  // no sign on a zero
+    EXPECT_EQ(Format(-5.3, "### ##0.00", '.'), "- 5.30");
+    EXPECT_EQ(Format(-20.15, "### ### ### ##0.00", '.'), "-   20.15");
+    EXPECT_EQ(Format(-0.001, "0.00", '.'), "0.00");  // no sign on a zero
 }
 
 TEST_F(FormatTest, FollowsTheDecimalSeparatorSetting) {
-    FijarSeparadorDecimal(',');
-    EXPECT_EQ(Format(293.15, "##0.00"), "293,15");
-    EXPECT_EQ(TextoGeneral(8.5), "8,5");
-    FijarSeparadorDecimal('.');
+    EXPECT_EQ(Format(293.15, "##0.00", ','), "293,15");
+    EXPECT_EQ(TextoGeneral(8.5, ','), "8,5");
 }
 
 TEST_F(FormatTest, NeverPrintsNaNOrInfinity) {
-    EXPECT_EQ(Format(std::numeric_limits<double>::quiet_NaN(), "##0.00"), "N.D.");
-    EXPECT_EQ(TextoGeneral(std::numeric_limits<double>::infinity()), "N.D.");
+    EXPECT_EQ(Format(std::numeric_limits<double>::quiet_NaN(), "##0.00", '.'), "N.D.");
+    EXPECT_EQ(TextoGeneral(std::numeric_limits<double>::infinity(), '.'), "N.D.");
 }
 
 using RoundTest = SeparadorPunto;
@@ -79,28 +77,28 @@ TEST_F(RoundTest, TiesGoToTheEvenNeighbour) {
 using TextoGeneralTest = SeparadorPunto;
 
 TEST_F(TextoGeneralTest, FifteenDigitsAndExponentAtTheBounds) {
-    EXPECT_EQ(TextoGeneral(1.0), "1");
-    EXPECT_EQ(TextoGeneral(8.5), "8.5");
-    EXPECT_EQ(TextoGeneral(0.5), "0.5");
-    EXPECT_EQ(TextoGeneral(-0.25), "-0.25");
-    EXPECT_EQ(TextoGeneral(0.1 + 0.2), "0.3");
-    EXPECT_EQ(TextoGeneral(1.0 / 3), "0.333333333333333");
-    EXPECT_EQ(TextoGeneral(0.00001), "0.00001");
-    EXPECT_EQ(TextoGeneral(0.000001), "1E-06");
-    EXPECT_EQ(TextoGeneral(0.0000015), "1.5E-06");
-    EXPECT_EQ(TextoGeneral(1.5e15), "1.5E+15");
-    EXPECT_EQ(TextoGeneral(999999999999999.0), "999999999999999");
-    EXPECT_EQ(TextoGeneral(1e15), "1E+15");
-    EXPECT_EQ(TextoGeneral(9e9), "9000000000");
-    EXPECT_EQ(TextoGeneral(-1e-300), "-1E-300");
-    EXPECT_EQ(TextoGeneral(0.0), "0");
-    EXPECT_EQ(TextoGeneral(-0.0), "0");
+    EXPECT_EQ(TextoGeneral(1.0, '.'), "1");
+    EXPECT_EQ(TextoGeneral(8.5, '.'), "8.5");
+    EXPECT_EQ(TextoGeneral(0.5, '.'), "0.5");
+    EXPECT_EQ(TextoGeneral(-0.25, '.'), "-0.25");
+    EXPECT_EQ(TextoGeneral(0.1 + 0.2, '.'), "0.3");
+    EXPECT_EQ(TextoGeneral(1.0 / 3, '.'), "0.333333333333333");
+    EXPECT_EQ(TextoGeneral(0.00001, '.'), "0.00001");
+    EXPECT_EQ(TextoGeneral(0.000001, '.'), "1E-06");
+    EXPECT_EQ(TextoGeneral(0.0000015, '.'), "1.5E-06");
+    EXPECT_EQ(TextoGeneral(1.5e15, '.'), "1.5E+15");
+    EXPECT_EQ(TextoGeneral(999999999999999.0, '.'), "999999999999999");
+    EXPECT_EQ(TextoGeneral(1e15, '.'), "1E+15");
+    EXPECT_EQ(TextoGeneral(9e9, '.'), "9000000000");
+    EXPECT_EQ(TextoGeneral(-1e-300, '.'), "-1E-300");
+    EXPECT_EQ(TextoGeneral(0.0, '.'), "0");
+    EXPECT_EQ(TextoGeneral(-0.0, '.'), "0");
 }
 
 TEST_F(TextoGeneralTest, VariantsPrintAsTheyStand) {
-    EXPECT_EQ(TextoGeneral(Variante(" N.D.")), " N.D.");
-    EXPECT_EQ(TextoGeneral(Variante(1.25)), "1.25");
-    EXPECT_EQ(TextoGeneral(Variante()), "");
+    EXPECT_EQ(TextoGeneral(Variante(" N.D."), '.'), " N.D.");
+    EXPECT_EQ(TextoGeneral(Variante(1.25), '.'), "1.25");
+    EXPECT_EQ(TextoGeneral(Variante(), '.'), "");
 }
 
 TEST(LeerNumeroTest, PointRuleAndCommaRule) {

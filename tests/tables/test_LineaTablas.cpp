@@ -22,7 +22,6 @@ struct Salida {
 };
 
 Salida Tablas(const std::vector<std::string>& argumentos) {
-    FijarSeparadorDecimal('.');
     std::ostringstream out, err;
     Salida s;
     s.estado = cli::EjecutarTablas(argumentos, out, err);

@@ -29,7 +29,7 @@ struct Herramienta {
     MiembrosHerramientas m;
     VisorTablasTexto v;
 
-    Herramienta() { FijarSeparadorDecimal('.'); }
+    Herramienta() {}
 
     void Rango(const char* desde, const char* hasta, const char* paso) {
         txtTinicial.SetText(desde), txtTfinal.SetText(hasta), txtAT.SetText(paso);
@@ -93,14 +93,15 @@ std::string B(int n) {
     return std::string(static_cast<size_t>(n), ' ');
 }
 std::string V(double x, int d, const char* mascara) {
-    return Format(Round(x, d), mascara);
+    return Format(Round(x, d), mascara, '.');
 }
 
 // A mixture row told piece by piece as the notation gives it.
 std::string FilaMezcla(double T, double cp, int dcp, const char* mcp, double h, double s0, const char* ms0,
                        double gamma) {
-    return " \r\n" + B(10) + TextoGeneral(T) + B(10) + V(cp, dcp, mcp) + B(13) + V(h, 2, "### ### ##0.00") +
-           B(18) + V(s0, 3, ms0) + B(18) + V(gamma, 4, "### ### ##0.0000") + "\r\n" + B(4);
+    return " \r\n" + B(10) + TextoGeneral(T, '.') + B(10) + V(cp, dcp, mcp) + B(13) +
+           V(h, 2, "### ### ##0.00") + B(18) + V(s0, 3, ms0) + B(18) + V(gamma, 4, "### ### ##0.0000") +
+           "\r\n" + B(4);
 }
 
 // Cp, h and s0 of a species by its polynomials, written here in Horner form.
@@ -307,7 +308,7 @@ TEST(TablasEspeciesTest, WholeTableOfCOAcrossTheRangesPerMoleAndPerKilogram) {
             const Propiedades p = Polinomios(T <= 1000 ? kCoeficientesBaja[CO] : kCoeficientesAlta[CO], T);
             const char* m = kg ? "### ### ##0.00" : "### ### ##0.0000";
             const int d = kg ? 2 : 4;
-            esperado += " \r\n" + B(7) + TextoGeneral(T) + B(10) + V(p.cp / M, d, m) + B(10) +
+            esperado += " \r\n" + B(7) + TextoGeneral(T, '.') + B(10) + V(p.cp / M, d, m) + B(10) +
                         V((p.cp - 8.3143) / M, d, m) + B(14) + V(p.h / M, 2, "### ### ##0.00") + B(18) +
                         V(p.s0 / M, 3, "### ### ##0.000") + B(18) +
                         V(p.cp / (p.cp - 8.3143), 4, "### ### ##0.0000") + "\r\n" + B(4);

@@ -90,7 +90,7 @@ class PruebaHerramientas : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { FijarSeparadorDecimal('.'); }
+    void init() {}
 
     void empiezaConSusTextosYSinFluido() {
         Herramienta h;

@@ -179,7 +179,7 @@ void CompresionSilenciosa(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas
     if (c.optGvariable.Value())
         Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, kSinDibujar);
     if (c.optGmedioCom.Value()) {
-        c.txtGammaMedioComp.SetText(TextoGeneral(e.GammaMedio));
+        c.txtGammaMedioComp.SetText(TextoGeneral(e.GammaMedio, e.SeparadorDecimal));
         Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(), kSinDibujar);
     }
     if (c.optPolitropicaCom.Value()) {
@@ -200,7 +200,7 @@ void CompresionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& 
     }
     if (c.optGmedioCom.Value()) {
         Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(), kDibujar);
-        c.txtGammaMedioComp.SetText(TextoGeneral(e.GammaMedio));
+        c.txtGammaMedioComp.SetText(TextoGeneral(e.GammaMedio, e.SeparadorDecimal));
         e.TextoExponente = " N.D.";
         e.GammaMedioCompresion = e.GammaMedio.Numero();
     }
@@ -260,7 +260,7 @@ void ExpansionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g
     }
     if (c.optGmedioExp.Value()) {
         Expansion(e, dlg, g, kModeloGammaMedio, e.V1, e.PasoVolumen, e.GammaMedio.Numero());
-        c.txtGMedioExp.SetText(TextoGeneral(e.GammaMedio));
+        c.txtGMedioExp.SetText(TextoGeneral(e.GammaMedio, e.SeparadorDecimal));
         e.TextoExponente = " N.D.";
         e.GammaMedioExpansion = e.GammaMedio.Numero();
     }
@@ -295,35 +295,35 @@ TextosResultados TextosDeResultados(const Estado& e) {
                  T[5] = {e.T1, e.T2, e.T3, e.T4, e.T5}, h[5] = {e.h1, e.h2, e.h3, e.h4, e.h5},
                  S[5] = {e.S1, e.S2, e.S3, e.S4, e.S5};
     for (int k = 0; k < 5; ++k) {
-        t.lblP[k] = Format(p[k], kMascaraPresion);
-        t.lblV[k] = Format(V[k] * 1e6, kMascaraVolumen);
-        t.lblT[k] = Format(T[k], kMascaraTemperatura);
-        t.lblH[k] = Format(h[k], kMascaraEntalpia);
-        t.lblS[k] = Format(S[k], kMascaraEntropia);
+        t.lblP[k] = Format(p[k], kMascaraPresion, e.SeparadorDecimal);
+        t.lblV[k] = Format(V[k] * 1e6, kMascaraVolumen, e.SeparadorDecimal);
+        t.lblT[k] = Format(T[k], kMascaraTemperatura, e.SeparadorDecimal);
+        t.lblH[k] = Format(h[k], kMascaraEntalpia, e.SeparadorDecimal);
+        t.lblS[k] = Format(S[k], kMascaraEntropia, e.SeparadorDecimal);
     }
-    t.lblW12 = Format(e.W12, kMascaraEnergia);
-    t.lblW34 = Format(e.W34, kMascaraEnergia);
-    t.lblW45 = Format(e.W45, kMascaraEnergia);
-    t.lblQ23 = Format(Round(e.Q23, 1), kMascaraEnergia);
-    t.lblQ34 = Format(Round(e.Qciclo - e.Q23, 1), kMascaraEnergia);
-    t.lblWciclo = Format(Round(e.Wciclo, 1), kMascaraEnergia);
-    t.lblQciclo = Format(Round(e.Qciclo, 1), kMascaraEnergia);
-    t.lblRen = TextoGeneral(e.Rendimiento);
-    t.lblG12 = Format(e.gamma1, kMascaraGamma);
-    t.lblG2 = Format(e.Gamma2, kMascaraGamma);
-    t.lblG45 = Format(e.Gamma4, kMascaraGamma);
-    t.lblG5 = Format(e.Gamma5, kMascaraGamma);
-    t.txtConsumoMJ = Format(Round(e.ConsumoMJ, 1), kMascaraConsumo);
-    t.txtConsumoKwh = Format(Round(e.ConsumoKWh, 1), kMascaraConsumo);
-    t.txtCilindrada = TextoGeneral(e.V1 * 1e6);
+    t.lblW12 = Format(e.W12, kMascaraEnergia, e.SeparadorDecimal);
+    t.lblW34 = Format(e.W34, kMascaraEnergia, e.SeparadorDecimal);
+    t.lblW45 = Format(e.W45, kMascaraEnergia, e.SeparadorDecimal);
+    t.lblQ23 = Format(Round(e.Q23, 1), kMascaraEnergia, e.SeparadorDecimal);
+    t.lblQ34 = Format(Round(e.Qciclo - e.Q23, 1), kMascaraEnergia, e.SeparadorDecimal);
+    t.lblWciclo = Format(Round(e.Wciclo, 1), kMascaraEnergia, e.SeparadorDecimal);
+    t.lblQciclo = Format(Round(e.Qciclo, 1), kMascaraEnergia, e.SeparadorDecimal);
+    t.lblRen = TextoGeneral(e.Rendimiento, e.SeparadorDecimal);
+    t.lblG12 = Format(e.gamma1, kMascaraGamma, e.SeparadorDecimal);
+    t.lblG2 = Format(e.Gamma2, kMascaraGamma, e.SeparadorDecimal);
+    t.lblG45 = Format(e.Gamma4, kMascaraGamma, e.SeparadorDecimal);
+    t.lblG5 = Format(e.Gamma5, kMascaraGamma, e.SeparadorDecimal);
+    t.txtConsumoMJ = Format(Round(e.ConsumoMJ, 1), kMascaraConsumo, e.SeparadorDecimal);
+    t.txtConsumoKwh = Format(Round(e.ConsumoKWh, 1), kMascaraConsumo, e.SeparadorDecimal);
+    t.txtCilindrada = TextoGeneral(e.V1 * 1e6, e.SeparadorDecimal);
     return t;
 }
 
 void FormCiclo_Load(Estado& e, ControlesCiclo& c) {
     e.ModeloCompresion = kModeloGammaMedio;
     e.ModeloExpansion = kModeloGammaMedio;
-    c.txtP1.SetText(TextoGeneral(e.Pambiente));
-    c.txtT1.SetText(TextoGeneral(e.Tambiente));
+    c.txtP1.SetText(TextoGeneral(e.Pambiente, e.SeparadorDecimal));
+    c.txtT1.SetText(TextoGeneral(e.Tambiente, e.SeparadorDecimal));
 }
 
 void FormCiclo_Activate(Estado& e) {
@@ -374,7 +374,7 @@ void txtPropVcte_Change(Estado& e, Dialogos& dlg, ControlesCiclo& c) {
         c.txtPropVcte.SetFocus();
     }
     e.PropPcte = 100 - e.PropVcte;
-    c.txtPropPcte.SetText(TextoGeneral(e.PropPcte));
+    c.txtPropPcte.SetText(TextoGeneral(e.PropPcte, e.SeparadorDecimal));
 }
 
 void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, VentanaPrincipal& v) {
@@ -475,8 +475,8 @@ void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPo
     // One power stroke in two revolutions.
     const double potencia = e.Wciclo * rpm * 0.5 / 60;
     if (!std::isfinite(potencia)) return FalloAritmetico(e, dlg, kCausaPotencia);
-    txtPotencia.SetText(Format(Round(potencia, 1), kMascaraPotencia));
-    txtPotenciaCV.SetText(Format(Round(potencia / kVatiosCV, 1), kMascaraPotencia));
+    txtPotencia.SetText(Format(Round(potencia, 1), kMascaraPotencia, e.SeparadorDecimal));
+    txtPotenciaCV.SetText(Format(Round(potencia / kVatiosCV, 1), kMascaraPotencia, e.SeparadorDecimal));
 }
 
 }  // namespace vanta

@@ -6,11 +6,6 @@ namespace vanta::bd {
 
 namespace {
 
-// [x, d]: rounded, then the general conversion.
-std::string R(double x, int d) {
-    return TextoGeneral(Round(x, d));
-}
-
 std::string Unir(std::initializer_list<std::string_view> piezas) {
     std::string s;
     for (std::string_view p : piezas) s += p;
@@ -20,19 +15,21 @@ std::string Unir(std::initializer_list<std::string_view> piezas) {
 }  // namespace
 
 std::string NombrePorDefecto(const Estado& e, std::string_view tipoCombustible) {
-    return Unir({"Aire ", TextoGeneral(e.Humedad), " % de humedad    ", tipoCombustible,
-                 "  Fr = ", TextoGeneral(e.Fr), "   ", e.TipoCiclo});
+    return Unir({"Aire ", TextoGeneral(e.Humedad, e.SeparadorDecimal), " % de humedad    ", tipoCombustible,
+                 "  Fr = ", TextoGeneral(e.Fr, e.SeparadorDecimal), "   ", e.TipoCiclo});
 }
 
 TextosRegistro ValoresRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
                                std::string_view informe) {
+    // [x, d]: rounded, then the general conversion.
+    const auto R = [&e](double x, int d) { return TextoGeneral(Round(x, d), e.SeparadorDecimal); };
     return {
         std::string(nombre),
-        TextoGeneral(e.AtomosC),
-        TextoGeneral(e.AtomosH),
-        TextoGeneral(e.AtomosN),
-        TextoGeneral(e.AtomosO),
-        TextoGeneral(e.AtomosS),
+        TextoGeneral(e.AtomosC, e.SeparadorDecimal),
+        TextoGeneral(e.AtomosH, e.SeparadorDecimal),
+        TextoGeneral(e.AtomosN, e.SeparadorDecimal),
+        TextoGeneral(e.AtomosO, e.SeparadorDecimal),
+        TextoGeneral(e.AtomosS, e.SeparadorDecimal),
         R(e.CienC, 2),
         R(e.CienH, 2),
         R(e.CienN, 2),
@@ -73,7 +70,7 @@ TextosRegistro ValoresRegistro(const Estado& e, std::string_view nombre, std::st
         R(e.W34, 1),
         R(e.W45, 1),
         R(e.Wciclo, 1),
-        TextoGeneral(e.Rendimiento),
+        TextoGeneral(e.Rendimiento, e.SeparadorDecimal),
         R(e.gamma1, 3),
         R(e.Gamma2, 4),
         R(e.Gamma4, 4),

@@ -212,11 +212,11 @@ void Lectura(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, bool visible, f
     Cruz(g.pctTS, s, -r.T);
     Cruz(g.pctHS, s, -h);
 
-    lectura.lblTmouseVal = Format(r.T, "### ### ### ##0.00");
-    lectura.lblVmouseVal = Format(volumen * 1e6, "0.000");
-    lectura.lblPmouseVal = Format(r.p, "### ### ### ###");
-    lectura.lblhmouseVal = Format(h, "### ### ### ##0.0");
-    lectura.lblSmouseVal = Format(s, "### ### ### ##0.000");
+    lectura.lblTmouseVal = Format(r.T, "### ### ### ##0.00", e.SeparadorDecimal);
+    lectura.lblVmouseVal = Format(volumen * 1e6, "0.000", e.SeparadorDecimal);
+    lectura.lblPmouseVal = Format(r.p, "### ### ### ###", e.SeparadorDecimal);
+    lectura.lblhmouseVal = Format(h, "### ### ### ##0.0", e.SeparadorDecimal);
+    lectura.lblSmouseVal = Format(s, "### ### ### ##0.000", e.SeparadorDecimal);
     lectura.txtTransformacion = r.texto;
 }
 

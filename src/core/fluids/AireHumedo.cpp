@@ -62,7 +62,7 @@ bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
     e.MasaMolecularAire = masaMolecular;
 
     const double suma = e.xO2Aire + e.xN2Aire + e.xCO2Aire + e.xArAire + e.xH2OAire;
-    if (Round(suma, 2) != 1) dlg.MsgBox(std::string(kMensajeSuma) + TextoGeneral(suma));
+    if (Round(suma, 2) != 1) dlg.MsgBox(std::string(kMensajeSuma) + TextoGeneral(suma, e.SeparadorDecimal));
 
     GraficaAire(e, c.pct1);
     if (c.chkOcultar.Value()) c.ventana.Hide();

@@ -30,8 +30,8 @@ void CeroSiVacia(std::initializer_list<CajaTexto*> cajas) {
         if (caja->Text().empty()) caja->SetText("0");
 }
 
-void Mostrar(CajaTexto& caja, double x, int decimales) {
-    caja.SetText(TextoGeneral(Round(x, decimales)));
+void Mostrar(const Estado& e, CajaTexto& caja, double x, int decimales) {
+    caja.SetText(TextoGeneral(Round(x, decimales), e.SeparadorDecimal));
 }
 
 void GraficaYOcultar(Estado& e, ControlesCombustible& c) {
@@ -75,7 +75,7 @@ void cboTipCom_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
         optMasa_Click(c);
         return;
     }
-    c.txtEntPro.SetText(TextoGeneral(combustible->EntalpiaFormacion));
+    c.txtEntPro.SetText(TextoGeneral(combustible->EntalpiaFormacion, e.SeparadorDecimal));
     CombustibleTipo(e, dlg, c, combustible->C, combustible->H, combustible->N, combustible->O,
                     combustible->S);
     GraficaYOcultar(e, c);
@@ -84,11 +84,11 @@ void cboTipCom_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
 void CombustibleTipo(Estado& e, Dialogos& dlg, ControlesCombustible& c, double C, double H, double N,
                      double O, double S) {
     optFOR_Click(c);
-    c.txtMolC.SetText(TextoGeneral(C));
-    c.txtMolH.SetText(TextoGeneral(H));
-    c.txtMolN.SetText(TextoGeneral(N));
-    c.txtMolO.SetText(TextoGeneral(O));
-    c.txtMolS.SetText(TextoGeneral(S));
+    c.txtMolC.SetText(TextoGeneral(C, e.SeparadorDecimal));
+    c.txtMolH.SetText(TextoGeneral(H, e.SeparadorDecimal));
+    c.txtMolN.SetText(TextoGeneral(N, e.SeparadorDecimal));
+    c.txtMolO.SetText(TextoGeneral(O, e.SeparadorDecimal));
+    c.txtMolS.SetText(TextoGeneral(S, e.SeparadorDecimal));
     CalCien(e, dlg, c);
     if (!e.ErrorCalculo) Calcular(e, dlg, c);
 }
@@ -124,11 +124,11 @@ void CalCien(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
         e.MasaMolecularCombustible = masa;
         e.CienC = cC, e.CienH = cH, e.CienN = cN, e.CienO = cO, e.CienS = cS;
     }
-    Mostrar(c.txtC, e.CienC, 3);
-    Mostrar(c.txtH, e.CienH, 3);
-    Mostrar(c.txtN, e.CienN, 3);
-    Mostrar(c.txtO, e.CienO, 3);
-    Mostrar(c.txtS, e.CienS, 3);
+    Mostrar(e, c.txtC, e.CienC, 3);
+    Mostrar(e, c.txtH, e.CienH, 3);
+    Mostrar(e, c.txtN, e.CienN, 3);
+    Mostrar(e, c.txtO, e.CienO, 3);
+    Mostrar(e, c.txtS, e.CienS, 3);
 }
 
 void CalAto(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
@@ -145,7 +145,7 @@ void CalAto(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
         return;
     }
     e.CienH = cienH;
-    Mostrar(c.txtH, e.CienH, 3);
+    Mostrar(e, c.txtH, e.CienH, 3);
 
     // A molar mass of zero or below is refused and the last one stays.
     double masa = e.MasaMolecularCombustible;
@@ -164,11 +164,11 @@ void CalAto(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
         return;
     }
     e.AtomosC = aC, e.AtomosH = aH, e.AtomosN = aN, e.AtomosO = aO, e.AtomosS = aS;
-    Mostrar(c.txtMolC, e.AtomosC, 3);
-    Mostrar(c.txtMolH, e.AtomosH, 3);
-    Mostrar(c.txtMolN, e.AtomosN, 3);
-    Mostrar(c.txtMolO, e.AtomosO, 3);
-    Mostrar(c.txtMolS, e.AtomosS, 3);
+    Mostrar(e, c.txtMolC, e.AtomosC, 3);
+    Mostrar(e, c.txtMolH, e.AtomosH, 3);
+    Mostrar(e, c.txtMolN, e.AtomosN, 3);
+    Mostrar(e, c.txtMolO, e.AtomosO, 3);
+    Mostrar(e, c.txtMolS, e.AtomosS, 3);
 }
 
 bool Calcular(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
@@ -189,10 +189,10 @@ bool Calcular(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
         return false;
     }
     e.HCS = hcs, e.CalorVap = calorVap, e.HCI = hci;
-    Mostrar(c.txtHci, e.HCI, 0);
-    Mostrar(c.txtHcs, e.HCS, 0);
-    Mostrar(c.txtQvap, e.CalorVap, 0);
-    Mostrar(c.txtmmComb, e.MasaMolecularCombustible, 6);
+    Mostrar(e, c.txtHci, e.HCI, 0);
+    Mostrar(e, c.txtHcs, e.HCS, 0);
+    Mostrar(e, c.txtQvap, e.CalorVap, 0);
+    Mostrar(e, c.txtmmComb, e.MasaMolecularCombustible, 6);
     return true;
 }
 

@@ -44,7 +44,7 @@ bool MostrarInverso(Estado& e, Dialogos& dlg, double valor, double& destino, Caj
         return false;
     }
     destino = inverso;
-    caja.SetText(TextoGeneral(inverso));
+    caja.SetText(TextoGeneral(inverso, e.SeparadorDecimal));
     return true;
 }
 

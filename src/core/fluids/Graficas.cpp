@@ -38,17 +38,18 @@ void SiguienteLinea(Estado& e, Superficie& sup) {
     e.CursorGrafica += sup.TextHeight("C") * 1.5;
 }
 
-std::string Redondeado(double x, int d) {
-    return TextoGeneral(Round(x, d));
+std::string Redondeado(const Estado& e, double x, int d) {
+    return TextoGeneral(Round(x, d), e.SeparadorDecimal);
 }
 }  // namespace
 
-void DibujarBarra(Superficie& sup, double X, double Y, double Ancho, double Alto, double Valor, int Decimales,
-                  std::string_view Sufijo, std::string_view Etiqueta, int32_t Color) {
+void DibujarBarra(const Estado& e, Superficie& sup, double X, double Y, double Ancho, double Alto,
+                  double Valor, int Decimales, std::string_view Sufijo, std::string_view Etiqueta,
+                  int32_t Color) {
     sup.SetFillColor(Color);
     sup.LineBox(F(X), F(Y), F(X + Ancho), F(Y - Alto), Color);
     Imprimir(sup, X, Y - Alto - 1.2 * sup.TextHeight(Etiqueta),
-             Redondeado(Valor, Decimales) + std::string(Sufijo));
+             Redondeado(e, Valor, Decimales) + std::string(Sufijo));
     Imprimir(sup, X, Y + 0.5 * sup.TextHeight(Etiqueta), Etiqueta);
 }
 
@@ -67,21 +68,24 @@ void GraficaAire(Estado& e, Superficie& pct1) {
         {"O2", e.xO2Aire, 0.1, kColorO2},
     };
     for (const auto& b : barras)
-        DibujarBarra(pct1, b.x, 99, 0.78, b.fraccion * 100, b.fraccion * 100, 2, " %", b.etiqueta, b.color);
+        DibujarBarra(e, pct1, b.x, 99, 0.78, b.fraccion * 100, b.fraccion * 100, 2, " %", b.etiqueta,
+                     b.color);
 
     Imprimir(pct1, 0.08, 0.1,
-             " AIRE (ISA)   " + TextoGeneral(e.Humedad) +
+             " AIRE (ISA)   " + TextoGeneral(e.Humedad, e.SeparadorDecimal) +
                  " % humedad relativa   (valores gráfica en fracción molar)");
     e.CursorGrafica = pct1.TextHeight("C") * 1.5 + 0.08;
     Imprimir(pct1, 3.4, e.CursorGrafica,
-             "Masa molecular = " + Redondeado(e.MasaMolecularAire, 5) + " kg/mol");
-    SiguienteLinea(e, pct1);
-    Imprimir(pct1, 3.4, e.CursorGrafica, "Temperatura ambiente = " + TextoGeneral(e.Tambiente) + "   K");
-    SiguienteLinea(e, pct1);
-    Imprimir(pct1, 3.4, e.CursorGrafica, "Presión ambiente " + TextoGeneral(e.Pambiente) + " Pa");
+             "Masa molecular = " + Redondeado(e, e.MasaMolecularAire, 5) + " kg/mol");
     SiguienteLinea(e, pct1);
     Imprimir(pct1, 3.4, e.CursorGrafica,
-             "Presión de saturación del H2O = " + Redondeado(e.Psaturacion, 0) + " Pa");
+             "Temperatura ambiente = " + TextoGeneral(e.Tambiente, e.SeparadorDecimal) + "   K");
+    SiguienteLinea(e, pct1);
+    Imprimir(pct1, 3.4, e.CursorGrafica,
+             "Presión ambiente " + TextoGeneral(e.Pambiente, e.SeparadorDecimal) + " Pa");
+    SiguienteLinea(e, pct1);
+    Imprimir(pct1, 3.4, e.CursorGrafica,
+             "Presión de saturación del H2O = " + Redondeado(e, e.Psaturacion, 0) + " Pa");
 }
 
 void GraficaCombustible(Estado& e, Superficie& pct2, std::string_view tipoCombustible) {
@@ -99,7 +103,7 @@ void GraficaCombustible(Estado& e, Superficie& pct2, std::string_view tipoCombus
         {"O", 3.5, e.CienO, kColorO2},  {"S", 4.5, e.CienS, kColorS},
     };
     for (const auto& b : barras)
-        DibujarBarra(pct2, b.x, 120, 1, b.valor, b.valor, 2, " %", b.etiqueta, b.color);
+        DibujarBarra(e, pct2, b.x, 120, 1, b.valor, b.valor, 2, " %", b.etiqueta, b.color);
 
     Imprimir(
         pct2, 0.08, 0.1,
@@ -107,9 +111,9 @@ void GraficaCombustible(Estado& e, Superficie& pct2, std::string_view tipoCombus
 
     // The formula: each count printed with only CurrentX set, one line lower,
     // as a subscript. The step after N adds the width of the H count.
-    const std::string vC = Redondeado(e.AtomosC, 2), vH = Redondeado(e.AtomosH, 2),
-                      vN = Redondeado(e.AtomosN, 2), vO = Redondeado(e.AtomosO, 2),
-                      vS = Redondeado(e.AtomosS, 2);
+    const std::string vC = Redondeado(e, e.AtomosC, 2), vH = Redondeado(e, e.AtomosH, 2),
+                      vN = Redondeado(e, e.AtomosN, 2), vO = Redondeado(e, e.AtomosO, 2),
+                      vS = Redondeado(e, e.AtomosS, 2);
     auto subindice = [&](double x, const std::string& v) {
         pct2.SetCurrentX(F(x));
         pct2.Print(v);
@@ -137,9 +141,10 @@ void GraficaCombustible(Estado& e, Superficie& pct2, std::string_view tipoCombus
     e.PosicionFormula += pct2.TextWidth(" S");
     subindice(e.PosicionFormula, vS);
 
-    Imprimir(pct2, 5.8, 50, "HCI = " + Format(e.HCI, "### ### ### ### ###") + "   J / kg");
+    Imprimir(pct2, 5.8, 50,
+             "HCI = " + Format(e.HCI, "### ### ### ### ###", e.SeparadorDecimal) + "   J / kg");
     Imprimir(pct2, 5.8, pct2.TextHeight("HCI") * 1.5 + 50,
-             "Mcombustible = " + TextoGeneral(e.MasaMolecularCombustible) + " kg / mol ");
+             "Mcombustible = " + TextoGeneral(e.MasaMolecularCombustible, e.SeparadorDecimal) + " kg / mol ");
 }
 
 void GraficaHumos(Estado& e, Superficie& pct3) {
@@ -159,19 +164,20 @@ void GraficaHumos(Estado& e, Superficie& pct3) {
         {" S", e.xSHumos, 6.08, kColorS},       {" SO2", e.xSO2Humos, 7.08, kColorSO2},
     };
     for (const auto& b : barras)
-        DibujarBarra(pct3, b.x, 102, 1, b.fraccion * 100, b.fraccion * 100, 1, " %", b.etiqueta, b.color);
+        DibujarBarra(e, pct3, b.x, 102, 1, b.fraccion * 100, b.fraccion * 100, 1, " %", b.etiqueta, b.color);
 
     Imprimir(pct3, 0.08, 0.1, "  GASES DE COMBUSTIÓN  (valores gráfica en fracción molar)");
     e.CursorGrafica = pct3.TextHeight("C") * 1.5 + 0.08;
     Imprimir(pct3, 6.5, e.CursorGrafica,
-             "Fr = " + Redondeado(e.Fr, 2) + "     Lambda = " + Redondeado(1 / e.Fr, 2));
+             "Fr = " + Redondeado(e, e.Fr, 2) + "     Lambda = " + Redondeado(e, 1 / e.Fr, 2));
     SiguienteLinea(e, pct3);
     Imprimir(pct3, 6.5, e.CursorGrafica,
-             "HCI (humos) = " + Format(e.HCIhumos, "### ### ### ### ###") + "   J / kg");
+             "HCI (humos) = " + Format(e.HCIhumos, "### ### ### ### ###", e.SeparadorDecimal) + "   J / kg");
     SiguienteLinea(e, pct3);
-    Imprimir(pct3, 6.5, e.CursorGrafica, "M humos = " + Redondeado(e.MasaMolecularHumos, 5) + " kg / mol  ");
+    Imprimir(pct3, 6.5, e.CursorGrafica,
+             "M humos = " + Redondeado(e, e.MasaMolecularHumos, 5) + " kg / mol  ");
     SiguienteLinea(e, pct3);
-    Imprimir(pct3, 6.5, e.CursorGrafica, "Fe = " + Redondeado(e.Fe, 6) + " kg combustible / kg aire  ");
+    Imprimir(pct3, 6.5, e.CursorGrafica, "Fe = " + Redondeado(e, e.Fe, 6) + " kg combustible / kg aire  ");
 }
 
 }  // namespace vanta

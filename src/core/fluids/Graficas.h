@@ -11,8 +11,9 @@
 
 namespace vanta {
 
-void DibujarBarra(Superficie& sup, double X, double Y, double Ancho, double Alto, double Valor, int Decimales,
-                  std::string_view Sufijo, std::string_view Etiqueta, int32_t Color);
+void DibujarBarra(const Estado& e, Superficie& sup, double X, double Y, double Ancho, double Alto,
+                  double Valor, int Decimales, std::string_view Sufijo, std::string_view Etiqueta,
+                  int32_t Color);
 
 void GraficaAire(Estado& e, Superficie& pct1);
 // tipoCombustible: the text of the fuel list.

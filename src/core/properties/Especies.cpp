@@ -95,7 +95,8 @@ double PolinomioEntropia(const Estado& e, double a1, double a2, double a3, doubl
 void CalcularEspecies(Estado& e, Dialogos& dlg) {
     if (e.Temperatura > kTemperaturaLimite) {
         e.ErrorCalculo = Verdadero;
-        dlg.MsgBox(std::string(kMensajeLimite) + Format(e.Temperatura, "### ### ### ### ### ###") + " K");
+        dlg.MsgBox(std::string(kMensajeLimite) +
+                   Format(e.Temperatura, "### ### ### ### ### ###", e.SeparadorDecimal) + " K");
     }
     if (e.ErrorCalculo) return;
     // Below zero the logarithm and the enthalpy's a6/T have no value.

@@ -28,18 +28,22 @@ constexpr std::string_view kMascaraRendimiento = "##0.0##";
 // The rules of the banner: one blank and 114 asterisks.
 const std::string kRaya = " " + std::string(114, '*');
 
-// [x, d, mask]: rounded to d decimals, then through the mask.
-std::string Enmascarado(double x, int d, std::string_view mascara) {
-    return Format(Round(x, d), mascara);
-}
-// [x, -, mask]: straight through the mask.
-std::string Enmascarado(double x, std::string_view mascara) {
-    return Format(x, mascara);
-}
-// [x, d]: rounded to d decimals, then the general conversion.
-std::string Redondeado(double x, int d) {
-    return TextoGeneral(Round(x, d));
-}
+// The notation of the report lines, with the state's decimal separator.
+struct Notacion {
+    char separador;
+    // [x, d, mask]: rounded to d decimals, then through the mask.
+    std::string Enmascarado(double x, int d, std::string_view mascara) const {
+        return Format(Round(x, d), mascara, separador);
+    }
+    // [x, -, mask]: straight through the mask.
+    std::string Enmascarado(double x, std::string_view mascara) const {
+        return Format(x, mascara, separador);
+    }
+    // [x, d]: rounded to d decimals, then the general conversion.
+    std::string Redondeado(double x, int d) const { return TextoGeneral(Round(x, d), separador); }
+    // [x]: the general conversion.
+    std::string General(double x) const { return TextoGeneral(x, separador); }
+};
 
 // The quantities of state k, 1 to 5.
 struct CamposEstado {
@@ -59,16 +63,17 @@ constexpr CamposEstado kCamposEstado[5] = {
 
 CifrasEstadoCiclo CifrasEstado(const Estado& e, const CamposEstado& k) {
     const double p = e.*k.p, V = e.*k.V, T = e.*k.T;
+    const Notacion n{e.SeparadorDecimal};
     CifrasEstadoCiclo c;
-    c.presion = Enmascarado(p, 0, kMascaraEntera);
-    c.presionBar = Enmascarado(p / 100000, 2, kMascaraDosDecimales);
-    c.volumen = Redondeado(V * 1000000, 2);
-    c.volumenMasico = Redondeado(V / e.MasaAire, 3);
-    c.volumenMolar = Enmascarado(e.MasaMolecularAire * V / e.MasaAire, 6, kMascaraMasa6);
-    c.temperatura = Enmascarado(T, 2, kMascaraDosDecimales);
-    c.temperaturaCelsius = Enmascarado(T - 273.15, 2, kMascaraDosDecimales);
-    c.entalpia = Enmascarado(e.*k.h, 2, kMascaraDosDecimales);
-    c.entropia = Redondeado(e.*k.S, 3);
+    c.presion = n.Enmascarado(p, 0, kMascaraEntera);
+    c.presionBar = n.Enmascarado(p / 100000, 2, kMascaraDosDecimales);
+    c.volumen = n.Redondeado(V * 1000000, 2);
+    c.volumenMasico = n.Redondeado(V / e.MasaAire, 3);
+    c.volumenMolar = n.Enmascarado(e.MasaMolecularAire * V / e.MasaAire, 6, kMascaraMasa6);
+    c.temperatura = n.Enmascarado(T, 2, kMascaraDosDecimales);
+    c.temperaturaCelsius = n.Enmascarado(T - 273.15, 2, kMascaraDosDecimales);
+    c.entalpia = n.Enmascarado(e.*k.h, 2, kMascaraDosDecimales);
+    c.entropia = n.Redondeado(e.*k.S, 3);
     return c;
 }
 
@@ -80,85 +85,86 @@ std::string Digito(int k) {
 }  // namespace
 
 CifrasInforme CalcularCifrasInforme(const Estado& e, std::string_view tipoCombustible) {
+    const Notacion n{e.SeparadorDecimal};
     CifrasInforme c;
     c.tipoCiclo = e.TipoCiclo;
     c.tipoCombustible = tipoCombustible;
-    c.frBanner = TextoGeneral(e.Fr);
-    c.humedadBanner = TextoGeneral(e.Humedad);
+    c.frBanner = n.General(e.Fr);
+    c.humedadBanner = n.General(e.Humedad);
 
-    c.pambiente = Enmascarado(e.Pambiente, 0, kMascaraEntera);
-    c.tambiente = Enmascarado(e.Tambiente, 2, kMascaraTambiente);
-    c.humedad = Enmascarado(e.Humedad, 2, kMascaraHumedad);
-    c.psaturacion = Enmascarado(e.Psaturacion, 0, kMascaraEntera);
-    c.masaMolecularAire = Enmascarado(e.MasaMolecularAire, 6, kMascaraMolecular6);
+    c.pambiente = n.Enmascarado(e.Pambiente, 0, kMascaraEntera);
+    c.tambiente = n.Enmascarado(e.Tambiente, 2, kMascaraTambiente);
+    c.humedad = n.Enmascarado(e.Humedad, 2, kMascaraHumedad);
+    c.psaturacion = n.Enmascarado(e.Psaturacion, 0, kMascaraEntera);
+    c.masaMolecularAire = n.Enmascarado(e.MasaMolecularAire, 6, kMascaraMolecular6);
 
-    c.atomosC = Redondeado(e.AtomosC, 3);
-    c.atomosH = Redondeado(e.AtomosH, 3);
-    c.atomosN = Redondeado(e.AtomosN, 3);
-    c.atomosO = Redondeado(e.AtomosO, 3);
-    c.atomosS = Redondeado(e.AtomosS, 4);
-    c.cienC = Redondeado(e.CienC, 3);
-    c.cienH = Redondeado(e.CienH, 3);
-    c.cienN = Redondeado(e.CienN, 3);
-    c.cienO = Redondeado(e.CienO, 3);
-    c.cienS = Redondeado(e.CienS, 4);
-    c.hcs = Enmascarado(e.HCS, 0, kMascaraEntera);
-    c.hci = Enmascarado(e.HCI, 0, kMascaraEntera);
-    c.calorVap = Enmascarado(e.CalorVap, 0, kMascaraEntera);
-    c.masaMolecularCombustible = Enmascarado(e.MasaMolecularCombustible, 9, kMascaraMolecular9);
+    c.atomosC = n.Redondeado(e.AtomosC, 3);
+    c.atomosH = n.Redondeado(e.AtomosH, 3);
+    c.atomosN = n.Redondeado(e.AtomosN, 3);
+    c.atomosO = n.Redondeado(e.AtomosO, 3);
+    c.atomosS = n.Redondeado(e.AtomosS, 4);
+    c.cienC = n.Redondeado(e.CienC, 3);
+    c.cienH = n.Redondeado(e.CienH, 3);
+    c.cienN = n.Redondeado(e.CienN, 3);
+    c.cienO = n.Redondeado(e.CienO, 3);
+    c.cienS = n.Redondeado(e.CienS, 4);
+    c.hcs = n.Enmascarado(e.HCS, 0, kMascaraEntera);
+    c.hci = n.Enmascarado(e.HCI, 0, kMascaraEntera);
+    c.calorVap = n.Enmascarado(e.CalorVap, 0, kMascaraEntera);
+    c.masaMolecularCombustible = n.Enmascarado(e.MasaMolecularCombustible, 9, kMascaraMolecular9);
 
-    c.fr = Enmascarado(e.Fr, 3, kMascaraDosado);
+    c.fr = n.Enmascarado(e.Fr, 3, kMascaraDosado);
     // Lambda alone has no mask: 1 prints as "1".
-    c.lambda = Redondeado(1 / e.Fr, 3);
-    c.fe = Enmascarado(e.Fe, 3, kMascaraDosado);
-    c.hcsHumos = Enmascarado(e.HCShumos, 0, kMascaraEntera);
-    c.hciHumos = Enmascarado(e.HCIhumos, 0, kMascaraEntera);
-    c.masaMolecularHumos = Enmascarado(e.MasaMolecularHumos, 6, kMascaraMolecularHumos);
+    c.lambda = n.Redondeado(1 / e.Fr, 3);
+    c.fe = n.Enmascarado(e.Fe, 3, kMascaraDosado);
+    c.hcsHumos = n.Enmascarado(e.HCShumos, 0, kMascaraEntera);
+    c.hciHumos = n.Enmascarado(e.HCIhumos, 0, kMascaraEntera);
+    c.masaMolecularHumos = n.Enmascarado(e.MasaMolecularHumos, 6, kMascaraMolecularHumos);
 
     // The displacement shown is V1 itself, the same figure as state 1's volume.
-    c.cilindrada = Enmascarado(e.V1 * 1000000, 0, kMascaraEntera);
-    c.rc = TextoGeneral(e.Rc);
-    c.masaAire = Enmascarado(e.MasaAire, 6, kMascaraMolecular6);
-    c.masaCombustible = Enmascarado(e.MasaCombustible, 9, kMascaraMasa9);
-    c.masaHumos = Enmascarado(e.MasaHumos, 6, kMascaraMasa6);
+    c.cilindrada = n.Enmascarado(e.V1 * 1000000, 0, kMascaraEntera);
+    c.rc = n.General(e.Rc);
+    c.masaAire = n.Enmascarado(e.MasaAire, 6, kMascaraMolecular6);
+    c.masaCombustible = n.Enmascarado(e.MasaCombustible, 9, kMascaraMasa9);
+    c.masaHumos = n.Enmascarado(e.MasaHumos, 6, kMascaraMasa6);
     for (size_t k = 0; k < c.estados.size(); ++k) c.estados[k] = CifrasEstado(e, kCamposEstado[k]);
 
     // Compression: the work as the calculation rounded it, its molar figure
     // from the unrounded sum; gamma 1 alone is rounded before its mask.
-    c.gamma1 = Enmascarado(e.gamma1, 3, kMascaraTresDecimales);
-    c.gamma2 = Enmascarado(e.Gamma2, kMascaraTresDecimales);
-    c.trabajo12 = TextoGeneral(e.W12);
-    c.trabajoMolar12 = Enmascarado(e.W12acumulado / e.MolesAire, kMascaraTresDecimales);
-    c.salto21 = Enmascarado(e.h2 - e.h1, 2, kMascaraDosDecimales);
+    c.gamma1 = n.Enmascarado(e.gamma1, 3, kMascaraTresDecimales);
+    c.gamma2 = n.Enmascarado(e.Gamma2, kMascaraTresDecimales);
+    c.trabajo12 = n.General(e.W12);
+    c.trabajoMolar12 = n.Enmascarado(e.W12acumulado / e.MolesAire, kMascaraTresDecimales);
+    c.salto21 = n.Enmascarado(e.h2 - e.h1, 2, kMascaraDosDecimales);
 
-    c.q23 = Enmascarado(e.Q23, 3, kMascaraEnergia);
-    c.qMolar23 = Enmascarado(e.Q23 / e.MolesAire, 1, kMascaraMolar);
-    c.salto32 = Enmascarado(e.h3 - e.h2, 2, kMascaraDosDecimales);
+    c.q23 = n.Enmascarado(e.Q23, 3, kMascaraEnergia);
+    c.qMolar23 = n.Enmascarado(e.Q23 / e.MolesAire, 1, kMascaraMolar);
+    c.salto32 = n.Enmascarado(e.h3 - e.h2, 2, kMascaraDosDecimales);
 
     // The molar heat of 3-4 is the whole heat of the cycle, nothing subtracted.
-    c.q34 = Enmascarado(e.Qciclo - e.Q23, 3, kMascaraEnergia);
-    c.qMolar34 = Enmascarado(e.Qciclo / e.MolesAire, 1, kMascaraQMolar34);
-    c.trabajo34 = TextoGeneral(e.W34);
-    c.trabajoMolar34 = Enmascarado(e.W34 / e.MolesAire, 1, kMascaraMolar);
-    c.salto43 = Enmascarado(e.h4 - e.h3, 2, kMascaraDosDecimales);
+    c.q34 = n.Enmascarado(e.Qciclo - e.Q23, 3, kMascaraEnergia);
+    c.qMolar34 = n.Enmascarado(e.Qciclo / e.MolesAire, 1, kMascaraQMolar34);
+    c.trabajo34 = n.General(e.W34);
+    c.trabajoMolar34 = n.Enmascarado(e.W34 / e.MolesAire, 1, kMascaraMolar);
+    c.salto43 = n.Enmascarado(e.h4 - e.h3, 2, kMascaraDosDecimales);
 
-    c.gamma4 = Enmascarado(e.Gamma4, kMascaraTresDecimales);
-    c.gamma5 = Enmascarado(e.Gamma5, kMascaraTresDecimales);
-    c.trabajo45 = Enmascarado(e.W45, 3, kMascaraEnergia);
-    c.trabajoMolar45 = Enmascarado(e.W45 / e.MolesAire, 3, kMascaraEnergia);
-    c.salto54 = Enmascarado(e.h5 - e.h4, 2, kMascaraDosDecimales);
+    c.gamma4 = n.Enmascarado(e.Gamma4, kMascaraTresDecimales);
+    c.gamma5 = n.Enmascarado(e.Gamma5, kMascaraTresDecimales);
+    c.trabajo45 = n.Enmascarado(e.W45, 3, kMascaraEnergia);
+    c.trabajoMolar45 = n.Enmascarado(e.W45 / e.MolesAire, 3, kMascaraEnergia);
+    c.salto54 = n.Enmascarado(e.h5 - e.h4, 2, kMascaraDosDecimales);
 
     // The ideal heat is the fuel's lower heating value; the heat of the cycle
     // came from the gases'. The work is summed afresh from the unrounded three.
     const double calorIdeal = e.MasaCombustible * e.HCI;
     const double trabajo = e.W34acumulado + e.W12acumulado + e.W45acumulado;
-    c.calorIdeal = Enmascarado(calorIdeal, 3, kMascaraEnergia);
-    c.calorIdealMolar = Enmascarado(calorIdeal / e.MolesAire, 1, kMascaraMolar);
-    c.calorCiclo = Enmascarado(e.Qciclo, 3, kMascaraEnergia);
-    c.calorCicloMolar = Enmascarado(e.Qciclo / e.MolesAire, 1, kMascaraMolar);
-    c.trabajoCiclo = Enmascarado(trabajo, 3, kMascaraEnergia);
-    c.trabajoCicloMolar = Enmascarado(trabajo / e.MolesAire, 1, kMascaraMolar);
-    c.rendimiento = Enmascarado(e.Rendimiento, kMascaraRendimiento);
+    c.calorIdeal = n.Enmascarado(calorIdeal, 3, kMascaraEnergia);
+    c.calorIdealMolar = n.Enmascarado(calorIdeal / e.MolesAire, 1, kMascaraMolar);
+    c.calorCiclo = n.Enmascarado(e.Qciclo, 3, kMascaraEnergia);
+    c.calorCicloMolar = n.Enmascarado(e.Qciclo / e.MolesAire, 1, kMascaraMolar);
+    c.trabajoCiclo = n.Enmascarado(trabajo, 3, kMascaraEnergia);
+    c.trabajoCicloMolar = n.Enmascarado(trabajo / e.MolesAire, 1, kMascaraMolar);
+    c.rendimiento = n.Enmascarado(e.Rendimiento, kMascaraRendimiento);
     return c;
 }
 

@@ -8,8 +8,6 @@
 namespace vanta {
 
 namespace {
-char separadorDecimal = '.';
-
 inline constexpr std::string_view kNoEsNumero = "no es un número";
 // What a number that is not finite prints as: the last guard, so that no text
 // of the program ever shows NaN or infinity.
@@ -126,13 +124,6 @@ std::optional<double> LeerConPunto(std::string_view s) {
 
 }  // namespace
 
-char SeparadorDecimal() {
-    return separadorDecimal;
-}
-void FijarSeparadorDecimal(char separador) {
-    separadorDecimal = separador;
-}
-
 double Round(double x, int d) {
     if (!std::isfinite(x)) return x;
     // The shortest fixed text of x at d decimals rounds the exact binary value,
@@ -149,7 +140,7 @@ double Round(double x, int d) {
 // is a literal that always prints. The number is rounded half away from zero
 // to the decimal places; integer digits beyond the leftmost place still print,
 // left of it. A minus sign goes first, before the mask's blanks.
-std::string Format(double x, std::string_view mascara) {
+std::string Format(double x, std::string_view mascara, char separador) {
     if (!std::isfinite(x)) return kNoDefinido;
     const auto punto = mascara.find('.');
     const std::string_view mEnt = mascara.substr(0, punto);
@@ -203,11 +194,11 @@ std::string Format(double x, std::string_view mascara) {
 
     std::string salida = negativo ? "-" : "";
     salida += parteEntera;
-    if (punto != std::string_view::npos) salida += separadorDecimal + parteDecimal;
+    if (punto != std::string_view::npos) salida += separador + parteDecimal;
     return salida;
 }
 
-std::string TextoGeneral(double x) {
+std::string TextoGeneral(double x, char separador) {
     if (!std::isfinite(x)) return kNoDefinido;
     if (x == 0) return "0";
     char buf[64];
@@ -223,26 +214,26 @@ std::string TextoGeneral(double x) {
     std::string salida = negativo ? "-" : "";
     if (exponente < -5 || exponente >= 15) {
         salida += cifras[0];
-        if (cifras.size() > 1) salida += separadorDecimal + cifras.substr(1);
+        if (cifras.size() > 1) salida += separador + cifras.substr(1);
         char exp[16];
         std::snprintf(exp, sizeof exp, "E%c%02d", exponente < 0 ? '-' : '+', std::abs(exponente));
         return salida + exp;
     }
     if (exponente < 0) {
         salida += "0";
-        salida += separadorDecimal;
+        salida += separador;
         salida += std::string(static_cast<size_t>(-exponente - 1), '0') + cifras;
         return salida;
     }
     const size_t enteros = static_cast<size_t>(exponente) + 1;
     if (cifras.size() <= enteros) return salida + cifras + std::string(enteros - cifras.size(), '0');
-    return salida + cifras.substr(0, enteros) + separadorDecimal + cifras.substr(enteros);
+    return salida + cifras.substr(0, enteros) + separador + cifras.substr(enteros);
 }
 
-std::string TextoGeneral(const Variante& v) {
+std::string TextoGeneral(const Variante& v, char separador) {
     if (const std::string* t = v.Texto()) return *t;
     if (v.EsVacio()) return "";
-    return TextoGeneral(v.Numero());
+    return TextoGeneral(v.Numero(), separador);
 }
 
 // The numeric test accepts, around optional blanks and an optional sign: a

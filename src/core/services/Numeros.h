@@ -12,22 +12,18 @@
 
 namespace vanta {
 
-// The decimal separator of everything written: "." by default (command line,
-// tests); the window takes the system's.
-char SeparadorDecimal();
-void FijarSeparadorDecimal(char separador);
-
 // x rounded to d decimals; an exact tie goes to the even neighbour.
 double Round(double x, int d = 0);
 
-// x rendered by a mask of '#', '0', '.' and blanks (see Numeros.cpp).
-std::string Format(double x, std::string_view mascara);
+// x rendered by a mask of '#', '0', '.' and blanks (see Numeros.cpp), with
+// the decimal separator given (the state's SeparadorDecimal).
+std::string Format(double x, std::string_view mascara, char separador);
 
 // The general conversion: up to 15 significant digits, no padding, exponent
 // form below 1E-05 and from 1E+15 on in magnitude.
-std::string TextoGeneral(double x);
+std::string TextoGeneral(double x, char separador);
 // A variant prints a number by the general conversion and a text as it stands.
-std::string TextoGeneral(const Variante& v);
+std::string TextoGeneral(const Variante& v, char separador);
 
 // The numeric test of the boxes and the value read, or nothing when the text
 // is not a number.

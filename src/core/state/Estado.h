@@ -326,6 +326,9 @@ struct Estado : RegistroTransformacion,
                 DiagramaTVPV,
                 Graficas {
     LogaritmosFracciones logaritmos;
+    // The decimal separator of every number the calculation writes: "." by
+    // default (command line, tests); the window takes the system's.
+    char SeparadorDecimal = '.';
 };
 
 // RGB as the program writes colours: red in the low byte, blue in the high.

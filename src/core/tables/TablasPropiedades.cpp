@@ -48,13 +48,14 @@ constexpr std::string_view kPasoNoPositivo =
 constexpr std::string_view kPrimeraNoPositiva = "La primera temperatura de la tabla ha de ser mayor que 0 K.";
 
 std::string DemasiadasFilas() {
-    return "La tabla tendría más de " + Format(kFilasMaximas, "### ### ###") +
+    // A whole number: the mask has no decimal places, and no separator.
+    return "La tabla tendría más de " + Format(kFilasMaximas, "### ### ###", '.') +
            " filas: aumente el incremento de temperatura o acorte el intervalo.";
 }
 
-std::string FueraDeRango(double temperatura) {
-    return "Las propiedades salen del intervalo de los números del programa a " + TextoGeneral(temperatura) +
-           " K; la tabla se detiene en esa temperatura.";
+std::string FueraDeRango(const Estado& e, double temperatura) {
+    return "Las propiedades salen del intervalo de los números del programa a " +
+           TextoGeneral(temperatura, e.SeparadorDecimal) + " K; la tabla se detiene en esa temperatura.";
 }
 
 // A refusal of the tool: its message, the flag, and no table.
@@ -127,17 +128,17 @@ struct Columna {
 
 // A row: " ", the line end, the indent, the temperature by the general
 // conversion, the columns, and the closing. Nothing when a value is not finite.
-std::optional<std::string> Fila(std::string_view sangria, double temperatura,
+std::optional<std::string> Fila(const Estado& e, std::string_view sangria, double temperatura,
                                 std::initializer_list<Columna> columnas) {
     for (const Columna& c : columnas)
         if (!std::isfinite(c.valor)) return std::nullopt;
     std::string fila = " ";
     fila += kFinLinea;
     fila += sangria;
-    fila += TextoGeneral(temperatura);
+    fila += TextoGeneral(temperatura, e.SeparadorDecimal);
     for (const Columna& c : columnas) {
         fila += c.antes;
-        fila += Format(Round(c.valor, c.decimales), c.mascara);
+        fila += Format(Round(c.valor, c.decimales), c.mascara, e.SeparadorDecimal);
     }
     fila += kCierre;
     return fila;
@@ -179,12 +180,13 @@ bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, Miembro
     const bool aire = c.optAire.Value(), humos = c.optHumos.Value();
     const bool mol = c.optMol.Value(), kg = c.optKg.Value();
     if (aire)
-        v.PonerTexto("     Aire con " + TextoGeneral(e.Humedad) + " % de humedad" + std::string(kFinLinea) +
-                     std::string(kFinLinea));
+        v.PonerTexto("     Aire con " + TextoGeneral(e.Humedad, e.SeparadorDecimal) + " % de humedad" +
+                     std::string(kFinLinea) + std::string(kFinLinea));
     if (humos)
-        v.PonerTexto("     Aire con " + TextoGeneral(e.Humedad) +
+        v.PonerTexto("     Aire con " + TextoGeneral(e.Humedad, e.SeparadorDecimal) +
                      " % de humedad      Combustible: " + std::string(tipoCombustible) +
-                     "      Fr = " + TextoGeneral(e.Fr) + std::string(kFinLinea) + std::string(kFinLinea));
+                     "      Fr = " + TextoGeneral(e.Fr, e.SeparadorDecimal) + std::string(kFinLinea) +
+                     std::string(kFinLinea));
     if (mol) AnadirCabecera(v, kCabeceraMezclaMol);
     if (kg) AnadirCabecera(v, kCabeceraMezclaKg);
 
@@ -200,20 +202,20 @@ bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, Miembro
     const auto filaFluido = [&](double cp, double h, double s0, std::string_view mascaraS0) -> bool {
         std::optional<std::string> fila;
         if (mol)
-            fila = Fila("          ", e.Temperatura,
+            fila = Fila(e, "          ", e.Temperatura,
                         {{"          ", cp, 4, kMascara4},
                          {"             ", h, 2, kMascara2},
                          {"                  ", s0, 3, mascaraS0},
                          {"                  ", e.Gamma, 4, kMascara4}});
         else if (kg)
-            fila = Fila("          ", e.Temperatura,
+            fila = Fila(e, "          ", e.Temperatura,
                         {{"          ", cp / e.MasaMolecularAire, 2, kMascara2},
                          {"             ", h / e.MasaMolecularAire, 2, kMascara2},
                          {"                  ", s0 / e.MasaMolecularAire, 3, mascaraS0},
                          {"                  ", e.Gamma, 4, kMascara4}});
         else
             return true;
-        if (!fila) return Rechazar(e, dlg, v, FueraDeRango(e.Temperatura));
+        if (!fila) return Rechazar(e, dlg, v, FueraDeRango(e, e.Temperatura));
         v.Anadir(*fila);
         return true;
     };
@@ -264,14 +266,14 @@ bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHe
         const double S0 = PolinomioEntropia(e, k.a1, k.a2, k.a3, k.a4, k.a5, k.a7);
         std::optional<std::string> fila;
         if (mol)
-            fila = Fila("       ", e.Temperatura,
+            fila = Fila(e, "       ", e.Temperatura,
                         {{"          ", Cp, 4, kMascara4},
                          {"          ", Cp - kR, 4, kMascara4},
                          {"              ", h, 2, kMascara2},
                          {"                  ", S0, 3, kMascara3},
                          {"                  ", Cp / (Cp - kR), 4, kMascara4}});
         else if (kg)
-            fila = Fila("       ", e.Temperatura,
+            fila = Fila(e, "       ", e.Temperatura,
                         {{"          ", Cp / M, 2, kMascara2},
                          {"          ", (Cp - kR) / M, 2, kMascara2},
                          {"              ", h / M, 2, kMascara2},
@@ -279,7 +281,7 @@ bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHe
                          {"                  ", Cp / (Cp - kR), 4, kMascara4}});
         else
             return true;
-        if (!fila) return Rechazar(e, dlg, v, FueraDeRango(e.Temperatura));
+        if (!fila) return Rechazar(e, dlg, v, FueraDeRango(e, e.Temperatura));
         v.Anadir(*fila);
         return true;
     });
