@@ -241,9 +241,9 @@ bool EtapaCiclo(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, Superficies
 
     const std::string compresion = o.Valor("compresion"), expansion = o.Valor("expansion");
     const auto modelo = [](const std::string& m) {
-        return m == "politropica" ? kModeloPolitropico
-               : m == "variable"  ? kModeloGammaVariable
-                                  : kModeloGammaMedio;
+        return m == "politropica" ? Modelo::Politropico
+               : m == "variable"  ? Modelo::GammaVariable
+                                  : Modelo::GammaMedio;
     };
     Elegir(compresion == "politropica" ? p.optPolitropicaCom
            : compresion == "variable"  ? p.optGvariable
@@ -352,6 +352,8 @@ struct EscritorJSON {
     void operator()(const char* nombre, float v) { Clave(nombre), EscribirNumero(os, v); }
     void operator()(const char* nombre, int16_t v) { Clave(nombre), os << v; }
     void operator()(const char* nombre, int32_t v) { Clave(nombre), os << v; }
+    void operator()(const char* nombre, Fluido v) { Clave(nombre), os << static_cast<int>(v); }
+    void operator()(const char* nombre, Modelo v) { Clave(nombre), os << static_cast<int>(v); }
     void operator()(const char* nombre, const std::string& v) { Clave(nombre), EscribirTexto(os, v); }
     void operator()(const char* nombre, const Variante& v) {
         Clave(nombre);

@@ -60,13 +60,13 @@ struct Isobara : ::testing::Test, Carga {};
 
 TEST_F(Isobara, LoopedSearchGivesTheRecursionsValuesAndDrawCalls) {
     Estado inicio = e;
-    CombustionPresionConstante(e, dlg, g, 1e-4, 150, kDibujar);
+    CombustionPresionConstante(e, dlg, g, 1e-4, 150, Dibujo::Dibujar);
     ASSERT_EQ(e.ErrorCalculo, 0);
 
     Carga referencia;
     Estado& r = referencia.e;
     r = inicio;
-    r.TipoFluido = kFluidoHumos;
+    r.TipoFluido = Fluido::Humos;
     PonerEstadoInicial(r, referencia.dlg, r.PresionFinal, r.VolumenFinal, r.TemperaturaFinal, r.EntalpiaFinal,
                        r.EntropiaFinal);
     r.TemperaturaSuperior = 5000, r.TemperaturaInferior = r.TemperaturaInicial,
@@ -85,7 +85,7 @@ TEST_F(Isobara, LoopedSearchGivesTheRecursionsValuesAndDrawCalls) {
 }
 
 TEST_F(Isobara, HeatBeyond5000KEndsWithTheTemperatureMessage) {
-    CombustionPresionConstante(e, dlg, g, 1, 1e6, kSinDibujar);
+    CombustionPresionConstante(e, dlg, g, 1, 1e6, Dibujo::SinDibujar);
     EXPECT_EQ(e.ErrorCalculo, Verdadero);
     EXPECT_EQ(dlg.mensajes,
               std::vector<std::string>{" Ha superado la temperatura máxima admitida por el programa "});
@@ -94,10 +94,10 @@ TEST_F(Isobara, HeatBeyond5000KEndsWithTheTemperatureMessage) {
 TEST_F(Isobara, FlagSetOnEntryChangesNothing) {
     e.ErrorCalculo = Verdadero;
     const double antes = e.TemperaturaFinal;
-    CombustionPresionConstante(e, dlg, g, 1e-4, 150, kDibujar);
-    Compresion(e, dlg, g, 1, 1e-6, 1e-7, 1.4, kDibujar);
-    Expansion(e, dlg, g, 1, 1e-4, 1e-7, 1.3);
-    CombustionVolumenConstante(e, dlg, g, kCalorDado, 0, kDibujar);
+    CombustionPresionConstante(e, dlg, g, 1e-4, 150, Dibujo::Dibujar);
+    Compresion(e, dlg, g, Modelo::GammaMedio, 1e-6, 1e-7, 1.4, Dibujo::Dibujar);
+    Expansion(e, dlg, g, Modelo::GammaMedio, 1e-4, 1e-7, 1.3);
+    CombustionVolumenConstante(e, dlg, g, TipoCalorIsocoro::Dado, 0, Dibujo::Dibujar);
     EXPECT_EQ(e.TemperaturaFinal, antes);
     EXPECT_TRUE(tv.llamadas.empty());
     EXPECT_TRUE(dlg.mensajes.empty());
@@ -111,7 +111,7 @@ TEST(CompresionTest, ExactStrokeEndsWithAFullStepTakenAsTheShortOne) {
     Diagramas g{pv, tv, ts, hs};
     e.PresionFinal = 1e5, e.VolumenFinal = 1e-4, e.TemperaturaFinal = 300;
     const double paso = (1e-4 - 1e-5) / 1000;
-    Compresion(e, dlg, g, kModeloPolitropico, 1e-5, paso, 1.4, kDibujar);
+    Compresion(e, dlg, g, Modelo::Politropico, 1e-5, paso, 1.4, Dibujo::Dibujar);
     // With a constant exponent the walk changes nothing but the work.
     EXPECT_NEAR(e.PresionFinal, 1e5 * std::pow(10.0, 1.4), 1e-6);
     EXPECT_NEAR(e.W12acumulado, (1e5 * 1e-4 - e.PresionFinal * 1e-5) / 0.4, 1e-9);
@@ -129,7 +129,7 @@ TEST(CompresionTest, UnknownModelIsToldAndTheWalkGoesOn) {
     DiagramasNulos nulos;
     Diagramas g = nulos.Todos();
     e.PresionFinal = 1e5, e.VolumenFinal = 1e-4, e.TemperaturaFinal = 300;
-    Compresion(e, dlg, g, 4, 1e-5, 9e-8, 0, kSinDibujar);
+    Compresion(e, dlg, g, static_cast<Modelo>(4), 1e-5, 9e-8, 0, Dibujo::SinDibujar);
     EXPECT_EQ(dlg.mensajes, std::vector<std::string>{"Error interno Vanta:  Gmedio_1_Poli_2_Gvariable_3"});
     EXPECT_EQ(e.ErrorCalculo, 0);
     EXPECT_GT(e.TemperaturaFinal, 300);

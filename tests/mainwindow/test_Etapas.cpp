@@ -168,13 +168,13 @@ private slots:
         QVERIFY(visible("txtGammaMedioComp") && !visible("txt_nCom") && !visible("lbl_n_comp"));
         Programa::Elegir(Hijo<QRadioButton>(v, "optPolitropicaCom"));
         QVERIFY(!visible("txtGammaMedioComp") && visible("txt_nCom") && visible("lbl_n_comp"));
-        QCOMPARE(p.e.ModeloCompresion, 2.0);
+        QVERIFY(p.e.ModeloCompresion == Modelo::Politropico);
         Programa::Elegir(Hijo<QRadioButton>(v, "optGvariable"));
         QVERIFY(!visible("txtGammaMedioComp") && !visible("txt_nCom"));
-        QCOMPARE(p.e.ModeloCompresion, 3.0);
+        QVERIFY(p.e.ModeloCompresion == Modelo::GammaVariable);
         Programa::Elegir(Hijo<QRadioButton>(v, "optGvariableExp"));
         QVERIFY(!visible("txtGMedioExp") && !visible("txt_nExp") && !visible("lbl_nExp"));
-        QCOMPARE(p.e.ModeloExpansion, 3.0);
+        QVERIFY(p.e.ModeloExpansion == Modelo::GammaVariable);
 
         QVERIFY(visible("txtPMax") && !visible("txtPropVcte"));
         Programa::Elegir(Hijo<QRadioButton>(v, "optProporcion"));

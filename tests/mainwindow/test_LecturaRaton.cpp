@@ -33,14 +33,14 @@ TEST_F(Lectura, LeftOfV2IsTheIsochoreWithTheVolumeOfState2) {
     EXPECT_EQ(l.lblVmouseVal, V(c.e.V2));
     EXPECT_EQ(l.lblPmouseVal, P(c.e.p2));
     EXPECT_EQ(l.lblTmouseVal, T(c.e.T2));
-    EXPECT_EQ(c.e.TipoFluido, kFluidoAire);
+    EXPECT_EQ(c.e.TipoFluido, Fluido::Aire);
     PV(c.e.V2 * 0.5, -2 * c.e.p3);  // above state 3: state 3, all burnt in Otto
     EXPECT_EQ(l.lblPmouseVal, P(c.e.p3));
-    EXPECT_EQ(c.e.TipoFluido, kFluidoHumos);
+    EXPECT_EQ(c.e.TipoFluido, Fluido::Humos);
     PV(c.e.V2 * 0.5, -5e6);  // between: the pressure under the pointer
     EXPECT_EQ(l.lblPmouseVal, P(5e6));
     EXPECT_EQ(l.lblTmouseVal, T(c.e.T2 * 5e6 / c.e.p2));
-    EXPECT_EQ(c.e.TipoFluido, kFluidoAireHumos);
+    EXPECT_EQ(c.e.TipoFluido, Fluido::AireHumos);
 }
 
 TEST_F(Lectura, VolumesV2AndV1ExactlyBelongToTheLinesAtTheEnds) {
@@ -53,7 +53,7 @@ TEST_F(Lectura, VolumesV2AndV1ExactlyBelongToTheLinesAtTheEnds) {
     EXPECT_EQ(l.lblTmouseVal, T(c.e.T1));
     TV(c.e.V1 * 2, -c.e.T5 - 100);  // above state 5: state 5
     EXPECT_EQ(l.lblTmouseVal, T(c.e.T5));
-    EXPECT_EQ(c.e.TipoFluido, kFluidoHumos);
+    EXPECT_EQ(c.e.TipoFluido, Fluido::Humos);
 }
 
 TEST_F(Lectura, BetweenTheStrokesTheNearerCurveWins) {
@@ -68,7 +68,7 @@ TEST_F(Lectura, BetweenTheStrokesTheNearerCurveWins) {
     PV(X, -(0.4 * pCompresion + 0.6 * pExpansion));
     EXPECT_EQ(l.txtTransformacion, "Expansión adiabática");
     EXPECT_EQ(l.lblPmouseVal, P(c.e.p4 * std::pow(c.e.V4 / double(float(X)), c.e.GammaMedioExpansion)));
-    EXPECT_EQ(c.e.TipoFluido, kFluidoHumos);
+    EXPECT_EQ(c.e.TipoFluido, Fluido::Humos);
 }
 
 TEST_F(Lectura, AnExactTieBetweenTheCandidatesGoesToTheCompression) {
@@ -93,13 +93,13 @@ TEST_F(Lectura, DieselIsochoreAboveState3IsAirAtState3AndTheIsobarCanWin) {
     c.Ejecutar({"--ciclo", "Diesel", "--rc", "18"});
     TV(c.e.V2 / 2, -c.e.T3 - 50);
     EXPECT_EQ(l.lblTmouseVal, T(c.e.T3));
-    EXPECT_EQ(c.e.TipoFluido, kFluidoAire);  // Q23 = 0
+    EXPECT_EQ(c.e.TipoFluido, Fluido::Aire);  // Q23 = 0
     // Between V2 and V4 the second candidate is the isobar.
     const double X = (c.e.V2 + c.e.V4) / 2;
     PV(X, -c.e.p3);
     EXPECT_EQ(l.txtTransformacion, "Combustión p = cte.");
     EXPECT_EQ(l.lblPmouseVal, P(c.e.p3));
-    EXPECT_EQ(c.e.TipoFluido, kFluidoAireHumos);
+    EXPECT_EQ(c.e.TipoFluido, Fluido::AireHumos);
 }
 
 TEST_F(Lectura, CrossesOnAllFourSurfacesOnTheTransientLayer) {

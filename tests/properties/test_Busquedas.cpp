@@ -20,11 +20,11 @@ struct Busquedas : ::testing::Test {
 }  // namespace
 
 TEST_F(Busquedas, MeanGammaOfAnAirCompressionLiesBetweenTheEndRatios) {
-    e.TipoFluido = kFluidoAire;
+    e.TipoFluido = Fluido::Aire;
     e.TemperaturaFinal = 300;
     PonerEstadoInicial(e, dlg, 100000, 0.001, 300, 0, 0);
     const double gammaInicio = e.Gamma;
-    BuscarGammaMedio(e, dlg, 100000, 0.001, 0.0001, 300, 1);
+    BuscarGammaMedio(e, dlg, 100000, 0.001, 0.0001, 300, Fluido::Aire);
     const double g = e.GammaMedio.Numero();
     EXPECT_TRUE(e.GammaMedio.EsNumero());
     EXPECT_LE(std::fabs(e.TemperaturaAnterior - e.TemperaturaPolitropica), 0.001);
@@ -40,18 +40,18 @@ TEST_F(Busquedas, MeanGammaOfAnAirCompressionLiesBetweenTheEndRatios) {
 }
 
 TEST_F(Busquedas, SearchEndsByEvaluatingTheRecordsOldFinalTemperature) {
-    e.TipoFluido = kFluidoAire;
+    e.TipoFluido = Fluido::Aire;
     e.TemperaturaFinal = 450;
     PonerEstadoInicial(e, dlg, 100000, 0.001, 300, 0, 0);
-    BuscarGammaMedio(e, dlg, 100000, 0.001, 0.0001, 300, 1);
+    BuscarGammaMedio(e, dlg, 100000, 0.001, 0.0001, 300, Fluido::Aire);
     EXPECT_EQ(e.Temperatura, 450);  // PropiedadesFin worked at the old TemperaturaFinal
 }
 
 TEST_F(Busquedas, EqualVolumesAreAClearFailure) {
-    e.TipoFluido = kFluidoAire;
+    e.TipoFluido = Fluido::Aire;
     e.TemperaturaFinal = 300;
     PonerEstadoInicial(e, dlg, 100000, 0.001, 300, 0, 0);
-    BuscarGammaMedio(e, dlg, 100000, 0.001, 0.001, 300, 1);
+    BuscarGammaMedio(e, dlg, 100000, 0.001, 0.001, 300, Fluido::Aire);
     EXPECT_EQ(e.ErrorCalculo, Verdadero);
     EXPECT_EQ(dlg.mensajes.size(), 1u);
     EXPECT_TRUE(std::isfinite(e.GammaMedio.Numero()));
@@ -69,7 +69,7 @@ TEST_F(Busquedas, ClosedRelations) {
 }
 
 TEST_F(Busquedas, StartAndEndOfATransformation) {
-    e.TipoFluido = kFluidoHumos;
+    e.TipoFluido = Fluido::Humos;
     PonerEstadoInicial(e, dlg, 5e6, 0.0001, 2500, 11, 22);
     EXPECT_EQ(e.Presion, 5e6);
     EXPECT_EQ(e.Temperatura, 2500);
@@ -90,7 +90,7 @@ TEST_F(Busquedas, StartAndEndOfATransformation) {
     EXPECT_EQ(h, e.EntalpiaFinal);
 
     // The blend has no cv: uFinal stays.
-    e.TipoFluido = kFluidoAireHumos;
+    e.TipoFluido = Fluido::AireHumos;
     e.Q23 = 1, e.Qciclo = 2;
     e.uFinal = 123;
     PonerEstadoFinal(e, dlg, 0, 0, 4e5, 0.001, 1100);
@@ -99,7 +99,7 @@ TEST_F(Busquedas, StartAndEndOfATransformation) {
 }
 
 TEST_F(Busquedas, UnknownFluidIsToldAtStartAndEnd) {
-    e.TipoFluido = 7;
+    e.TipoFluido = static_cast<Fluido>(7);
     PonerEstadoInicial(e, dlg, 1e5, 0.001, 300, 0, 0);
     PonerEstadoFinal(e, dlg, 0, 0, 1e5, 0.001, 300);
     ASSERT_EQ(dlg.mensajes.size(), 2u);

@@ -177,10 +177,11 @@ double CalorVolumenConstanteMixto(const Estado& e) {
 // Step 13: the silent compression, by the option selected.
 void CompresionSilenciosa(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
     if (c.optGvariable.Value())
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, kSinDibujar);
+        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, Dibujo::SinDibujar);
     if (c.optGmedioCom.Value()) {
         c.txtGammaMedioComp.SetText(TextoGeneral(e.GammaMedio, e.SeparadorDecimal));
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(), kSinDibujar);
+        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(),
+                   Dibujo::SinDibujar);
     }
     if (c.optPolitropicaCom.Value()) {
         ValidarNumero(e, dlg, c.txt_nCom, e.nCompresion, " n ");
@@ -188,18 +189,19 @@ void CompresionSilenciosa(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas
             Fallo(e, dlg, kMensajeExponente);
             c.txt_nCom.SetFocus();
         }
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.nCompresion, kSinDibujar);
+        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.nCompresion, Dibujo::SinDibujar);
     }
 }
 
 // Step 24: the compression again, drawing, and what it shows.
 void CompresionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
     if (c.optGvariable.Value()) {
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, kDibujar);
+        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, Dibujo::Dibujar);
         e.GammaMedio = " N.D.";
     }
     if (c.optGmedioCom.Value()) {
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(), kDibujar);
+        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(),
+                   Dibujo::Dibujar);
         c.txtGammaMedioComp.SetText(TextoGeneral(e.GammaMedio, e.SeparadorDecimal));
         e.TextoExponente = " N.D.";
         e.GammaMedioCompresion = e.GammaMedio.Numero();
@@ -207,7 +209,7 @@ void CompresionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& 
     if (c.optPolitropicaCom.Value()) {
         ValidarNumero(e, dlg, c.txt_nCom, e.nCompresion, " n ");
         e.TextoExponente = e.nCompresion;
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.nCompresion, kDibujar);
+        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.nCompresion, Dibujo::Dibujar);
         e.GammaMedio = "N.D.";
     }
 }
@@ -215,11 +217,11 @@ void CompresionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& 
 // Steps 15 and 27: the heat at constant volume by the cycle. The first pass
 // tests Pmax against p2 and moves the focus; the drawing pass tests it
 // against the start of compression, p1, and does not.
-void CalorIsocoro(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, int dibujar) {
-    const bool primeraPasada = dibujar != kDibujar;
+void CalorIsocoro(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Dibujo dibujar) {
+    const bool primeraPasada = dibujar != Dibujo::Dibujar;
     if (e.TipoCiclo == kCicloOtto) {
         e.Q23 = e.Qciclo;
-        CombustionVolumenConstante(e, dlg, g, kCalorDado, e.Pmax, dibujar);
+        CombustionVolumenConstante(e, dlg, g, TipoCalorIsocoro::Dado, e.Pmax, dibujar);
         if (primeraPasada) {
             e.p3 = e.PresionFinal;
             e.T3 = e.TemperaturaFinal;
@@ -230,17 +232,17 @@ void CalorIsocoro(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, int
         }
     } else if (e.TipoCiclo == kCicloDiesel) {
         e.Q23 = 0;
-        e.TipoFluido = kFluidoAire;
+        e.TipoFluido = Fluido::Aire;
         LeerEstado3(e);
     } else if (e.TipoCiclo == kCicloMixto) {
         if (c.optProporcion.Value()) {
             e.Q23 = CalorVolumenConstanteMixto(e);
-            CombustionVolumenConstante(e, dlg, g, kCalorDado, e.Pmax, dibujar);
+            CombustionVolumenConstante(e, dlg, g, TipoCalorIsocoro::Dado, e.Pmax, dibujar);
         }
         if (c.optPmax.Value()) {
             const double presionPrueba = primeraPasada ? e.PresionFinal : e.PresionInicial;
             if (e.Pmax >= presionPrueba) {
-                CombustionVolumenConstante(e, dlg, g, kCalorHastaPmax, e.Pmax, dibujar);
+                CombustionVolumenConstante(e, dlg, g, TipoCalorIsocoro::HastaPmax, e.Pmax, dibujar);
             } else {
                 Fallo(e, dlg, kMensajeImposible);
                 if (primeraPasada) (e.Rc <= kRcFocoPmax ? c.txtPMax : c.txtRc).SetFocus();
@@ -255,17 +257,17 @@ void CalorIsocoro(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, int
 // Step 33: the expansion down to V1, by the option selected.
 void ExpansionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
     if (c.optGvariableExp.Value()) {
-        Expansion(e, dlg, g, kModeloGammaVariable, e.V1, e.PasoVolumen, e.Gamma);
+        Expansion(e, dlg, g, Modelo::GammaVariable, e.V1, e.PasoVolumen, e.Gamma);
         e.GammaMedio = " N.D.";
     }
     if (c.optGmedioExp.Value()) {
-        Expansion(e, dlg, g, kModeloGammaMedio, e.V1, e.PasoVolumen, e.GammaMedio.Numero());
+        Expansion(e, dlg, g, Modelo::GammaMedio, e.V1, e.PasoVolumen, e.GammaMedio.Numero());
         c.txtGMedioExp.SetText(TextoGeneral(e.GammaMedio, e.SeparadorDecimal));
         e.TextoExponente = " N.D.";
         e.GammaMedioExpansion = e.GammaMedio.Numero();
     }
     if (c.optPolitropica.Value()) {
-        Expansion(e, dlg, g, kModeloPolitropico, e.V1, e.PasoVolumen, e.nExpansion);
+        Expansion(e, dlg, g, Modelo::Politropico, e.V1, e.PasoVolumen, e.nExpansion);
         e.GammaMedio = " N.D.";
         e.TextoExponente = e.nExpansion;
     }
@@ -320,8 +322,8 @@ TextosResultados TextosDeResultados(const Estado& e) {
 }
 
 void FormCiclo_Load(Estado& e, ControlesCiclo& c) {
-    e.ModeloCompresion = kModeloGammaMedio;
-    e.ModeloExpansion = kModeloGammaMedio;
+    e.ModeloCompresion = Modelo::GammaMedio;
+    e.ModeloExpansion = Modelo::GammaMedio;
     c.txtP1.SetText(TextoGeneral(e.Pambiente, e.SeparadorDecimal));
     c.txtT1.SetText(TextoGeneral(e.Tambiente, e.SeparadorDecimal));
 }
@@ -351,10 +353,10 @@ void imgMixto_Click(Estado& e, FormularioCiclo& f) {
     f.ResaltarCiclo(false, false, true);
 }
 
-void ElegirModeloCompresion(Estado& e, double modelo) {
+void ElegirModeloCompresion(Estado& e, Modelo modelo) {
     e.ModeloCompresion = modelo;
 }
-void ElegirModeloExpansion(Estado& e, double modelo) {
+void ElegirModeloExpansion(Estado& e, Modelo modelo) {
     e.ModeloExpansion = modelo;
 }
 void optProporcion_Click(Estado& e) {
@@ -402,10 +404,10 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     ActualizarMaximos(e);
     LeerEstado2(e);
     if (e.ErrorCalculo) return;
-    CalorIsocoro(e, dlg, c, g, kSinDibujar);
+    CalorIsocoro(e, dlg, c, g, Dibujo::SinDibujar);
     ActualizarMaximos(e);
     if (e.ErrorCalculo) return;
-    if (e.Q23 < e.Qciclo) CombustionPresionConstante(e, dlg, g, e.V1, e.Qciclo - e.Q23, kSinDibujar);
+    if (e.Q23 < e.Qciclo) CombustionPresionConstante(e, dlg, g, e.V1, e.Qciclo - e.Q23, Dibujo::SinDibujar);
     ActualizarMaximos(e);
     if (e.ErrorCalculo) return;
 
@@ -424,25 +426,25 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     // Second pass: the same, drawing; these results stand.
     EstadoUno(e, dlg);
     PonerColorDiagramas(g, e.ColorCompresion);
-    e.TipoFluido = kFluidoAire;
+    e.TipoFluido = Fluido::Aire;
     PropiedadesInicio(e, dlg);
-    e.TipoFluido = kFluidoAire;
+    e.TipoFluido = Fluido::Aire;
     CompresionDibujada(e, dlg, c, g);
     LeerEstado2(e);
     e.W12 = Round(e.W12acumulado, 1);
     PonerColorDiagramas(g, e.ColorCombustionV);
-    CalorIsocoro(e, dlg, c, g, kDibujar);
+    CalorIsocoro(e, dlg, c, g, Dibujo::Dibujar);
     PonerColorDiagramas(g, e.ColorCombustionP);
     if (e.ErrorCalculo) return;
     if (e.Q23 < e.Qciclo)
-        CombustionPresionConstante(e, dlg, g, e.V1, e.Qciclo - e.Q23, kDibujar);
+        CombustionPresionConstante(e, dlg, g, e.V1, e.Qciclo - e.Q23, Dibujo::Dibujar);
     else
         e.Qtransformacion = 0;
     LeerEstado4(e);
     e.W34 = Round(e.W34acumulado, 1);
     if (e.ErrorCalculo) return;
     PonerColorDiagramas(g, e.ColorExpansion);
-    e.TipoFluido = kFluidoHumos;
+    e.TipoFluido = Fluido::Humos;
     ExpansionDibujada(e, dlg, c, g);
     LeerEstado5(e);
     e.W45 = Round(e.W45acumulado, 1);

@@ -101,8 +101,8 @@ void imgDiesel_Click(Estado& e, FormularioCiclo& f);
 void imgMixto_Click(Estado& e, FormularioCiclo& f);
 // The models of compression and expansion: 1 mean exponent, 2 polytropic,
 // 3 variable exponent.
-void ElegirModeloCompresion(Estado& e, double modelo);
-void ElegirModeloExpansion(Estado& e, double modelo);
+void ElegirModeloCompresion(Estado& e, Modelo modelo);
+void ElegirModeloExpansion(Estado& e, Modelo modelo);
 void optProporcion_Click(Estado& e);
 void optPmax_Click(Estado& e);
 // The share of heat at constant volume changed: checks it and fills the share

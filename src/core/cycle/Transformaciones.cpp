@@ -79,24 +79,24 @@ void LineaVolumen(Diagramas& g, double V, double T, double p) {
 }
 
 // The exponent of the walk's next step by the model.
-void ExponentePaso(Estado& e, double modelo, double exponente) {
-    if (modelo == kModeloGammaMedio)
+void ExponentePaso(Estado& e, Modelo modelo, double exponente) {
+    if (modelo == Modelo::GammaMedio)
         e.Gamma = e.GammaMedio.Numero();
-    else if (modelo == kModeloPolitropico)
+    else if (modelo == Modelo::Politropico)
         e.Gamma = exponente;
 }
 
-// The exponent at the start of a stroke; Fluido 1 air, 2 gases.
-void ExponenteInicial(Estado& e, Dialogos& dlg, double modelo, double volumenFinal, double exponente,
-                      int fluido) {
-    if (modelo == kModeloGammaMedio) {
+// The exponent at the start of a stroke, of air or of the gases.
+void ExponenteInicial(Estado& e, Dialogos& dlg, Modelo modelo, double volumenFinal, double exponente,
+                      Fluido fluido) {
+    if (modelo == Modelo::GammaMedio) {
         BuscarGammaMedio(e, dlg, e.PresionInicial, e.VolumenInicial, volumenFinal, e.TemperaturaInicial,
                          fluido);
         e.Gamma = e.GammaMedio.Numero();
-    } else if (modelo == kModeloPolitropico) {
+    } else if (modelo == Modelo::Politropico) {
         e.GammaInicial = " N.D.";
         e.Gamma = exponente;
-    } else if (modelo != kModeloGammaVariable) {
+    } else if (modelo != Modelo::GammaVariable) {
         dlg.MsgBox(kMensajeModelo);
     }
 }
@@ -131,7 +131,7 @@ bool PasoPolitropico(Estado& e, Dialogos& dlg, double V, double& acumulado) {
 
 // ---- Heat at constant volume ----------------------------------------------------
 
-void TrazarVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int dibujar) {
+void TrazarVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, Dibujo dibujar) {
     e.Presion = e.PresionInicial;
     e.Temperatura = e.TemperaturaInicial;
     const double denominador = (e.PresionMolQuemado - e.PresionMolFresco) * e.MolesHumos;
@@ -143,7 +143,7 @@ void TrazarVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int dibujar)
         e.Presion = e.Temperatura * e.PresionInicial / e.TemperaturaInicial;
         e.FraccionQuemada = (e.Presion - e.MolesHumos * e.PresionMolFresco) / denominador;
         PropiedadesAireHumosFraccion(e, dlg, e.FraccionQuemada);
-        if (dibujar == kDibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
+        if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
     };
     // A failure stops the walk: its evaluations would do nothing from there on.
     while (e.TemperaturaIsocora - 2 > e.Temperatura && !e.ErrorCalculo) {
@@ -170,7 +170,7 @@ void BuscarGradoCombustionPmax(Estado& e, Dialogos& dlg) {
             (e.MolesHumos - e.MolesQuemados) * e.PresionMolFresco + e.PresionMolQuemado * e.MolesQuemados;
         if (std::fabs(e.Presion - e.Pmax) < 0.001) {
             e.Presion = e.Pmax;
-            e.TipoFluido = kFluidoAireHumos;
+            e.TipoFluido = Fluido::AireHumos;
         }
         if (e.Presion < e.Pmax)
             e.MolesInferior = e.MolesQuemados;
@@ -191,7 +191,7 @@ bool Finito(Estado& e, Dialogos& dlg, double v) {
     return false;
 }
 
-void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, int dibujar) {
+void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsocoro tipo, Dibujo dibujar) {
     const double presionMolFresco = e.PresionInicial / e.MolesHumos, calorPorMol = e.Qciclo / e.MolesHumos;
     if (!Finito(e, dlg, presionMolFresco) || !Finito(e, dlg, calorPorMol)) return;
     e.PresionMolFresco = presionMolFresco;
@@ -221,7 +221,7 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, int
     const double presionMolQuemado = e.TemperaturaQuemado * kR / e.VolumenInicial;
     if (!Finito(e, dlg, presionMolQuemado)) return;
     e.PresionMolQuemado = presionMolQuemado;
-    if (tipo == kCalorDado) {
+    if (tipo == TipoCalorIsocoro::Dado) {
         const double molesQuemados = e.Q23 / e.CalorPorMol;
         const double presionIsocora =
             (e.MolesHumos - molesQuemados) * e.PresionMolFresco + molesQuemados * e.PresionMolQuemado;
@@ -229,9 +229,9 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, int
         e.MolesQuemados = molesQuemados;
         e.PresionIsocora = presionIsocora;
         e.Presion = e.PresionIsocora;
-        e.TipoFluido = kFluidoAireHumos;
+        e.TipoFluido = Fluido::AireHumos;
     }
-    if (tipo == kCalorHastaPmax) {
+    if (tipo == TipoCalorIsocoro::HastaPmax) {
         const double presion = e.PresionMolQuemado * e.MolesHumos;
         if (!Finito(e, dlg, presion)) return;
         e.MolesSuperior = e.MolesHumos;
@@ -241,7 +241,7 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, int
             e.PresionIsocora = e.Presion;
             e.MolesQuemados = e.MolesHumos;
             e.Q23 = e.Qciclo;
-            e.TipoFluido = kFluidoHumos;
+            e.TipoFluido = Fluido::Humos;
         } else {
             BuscarGradoCombustionPmax(e, dlg);
         }
@@ -252,7 +252,7 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, int
     e.TemperaturaIsocora = temperaturaIsocora;
     e.GammaFinal = " ND";
     PonerEstadoFinal(e, dlg, e.Q23, 0, e.PresionIsocora, e.VolumenInicial, e.TemperaturaIsocora);
-    if (dibujar == kDibujar) LineaVolumen(g, e.VolumenInicial, e.TemperaturaFinal, e.PresionFinal);
+    if (dibujar == Dibujo::Dibujar) LineaVolumen(g, e.VolumenInicial, e.TemperaturaFinal, e.PresionFinal);
 }
 
 // ---- Heat at constant pressure ------------------------------------------------------
@@ -271,7 +271,7 @@ void ProbarTemperaturaIsobara(Estado& e, Dialogos& dlg, double calor) {
 
 // What every level of the search does as it unwinds, with the deepest state:
 // the volume and work of the isobar, and its end.
-void ColaIsobara(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor, int dibujar,
+void ColaIsobara(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor, Dibujo dibujar,
                  bool& volumenAvisado) {
     VolumenIsobarico(e, e.VolumenInicial, e.TemperaturaInicial, e.Temperatura);
     e.VolumenIsobaro = e.VolumenProporcional;
@@ -285,7 +285,7 @@ void ColaIsobara(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, d
         e.ErrorCalculo = Verdadero;
     }
     PonerEstadoFinal(e, dlg, calor, e.W34acumulado, e.PresionInicial, e.VolumenIsobaro, e.Temperatura);
-    if (dibujar == kDibujar) LineaVolumen(g, e.VolumenFinal, e.TemperaturaFinal, e.PresionFinal);
+    if (dibujar == Dibujo::Dibujar) LineaVolumen(g, e.VolumenFinal, e.TemperaturaFinal, e.PresionFinal);
 }
 
 // Bisection on the temperature of state 4 for the heat given. The program's
@@ -295,7 +295,7 @@ void ColaIsobara(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, d
 // that remembers which levels raised the lower bound, and the unwinding
 // replays the second calls and the tails in the same order.
 void CalorPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor,
-                           int dibujar) {
+                           Dibujo dibujar) {
     std::vector<bool> subioInferior;
     bool volumenAvisado = false;
     for (;;) {
@@ -333,7 +333,7 @@ void CalorPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volume
     }
 }
 
-void TrazarPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, int dibujar) {
+void TrazarPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, Dibujo dibujar) {
     e.Presion = e.PresionInicial;
     e.Temperatura = e.TemperaturaInicial;
     // The share of gases goes linearly in T from the share at state 3 to 1.
@@ -344,12 +344,12 @@ void TrazarPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, int dibujar)
     while (e.TemperaturaFinal - 1 > e.Temperatura && !e.ErrorCalculo) {
         e.Temperatura += 1;
         PropiedadesAireHumosFraccion(e, dlg, fraccion());
-        if (dibujar == kDibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
+        if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
     }
     if (e.Temperatura < e.TemperaturaFinal && !e.ErrorCalculo) {
         e.Temperatura = e.TemperaturaFinal;
         PropiedadesAireHumosFraccion(e, dlg, fraccion());
-        if (dibujar == kDibujar) LineaEntropia(g, e.SHumos, e.Temperatura, e.hHumos);
+        if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SHumos, e.Temperatura, e.hHumos);
     }
 }
 
@@ -381,14 +381,14 @@ void CalcularMolesCiclo(Estado& e, Dialogos& dlg) {
     e.MolesReactivos = reactivos;
 }
 
-void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double volumenFinal, double paso,
-                double exponente, int dibujar) {
+void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
+                double exponente, Dibujo dibujar) {
     if (e.ErrorCalculo) return;
-    e.TipoFluido = kFluidoAire;
+    e.TipoFluido = Fluido::Aire;
     PonerInicioDesdeFinal(e, dlg);
-    ExponenteInicial(e, dlg, modelo, volumenFinal, exponente, 1);
+    ExponenteInicial(e, dlg, modelo, volumenFinal, exponente, Fluido::Aire);
     e.gamma1 = e.Gamma;
-    if (dibujar == kDibujar)
+    if (dibujar == Dibujo::Dibujar)
         PuntoEnDiagramas(g, e.VolumenInicial, e.TemperaturaInicial, e.PresionInicial, e.SAire, e.h1);
     // The record holds the state before each step, so the exponent and the
     // entropy lag one step behind T and p.
@@ -398,7 +398,7 @@ void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vo
         if (!PasoPolitropico(e, dlg, e.VolumenProporcional, e.W12acumulado)) return;
         PropiedadesAire(e, dlg);
         ExponentePaso(e, modelo, exponente);
-        if (dibujar == kDibujar)
+        if (dibujar == Dibujo::Dibujar)
             LineaEnDiagramas(g, e.VolumenProporcional, e.TemperaturaPolitropica, e.PresionPolitropica,
                              e.SAire, e.hAire);
         e.Volumen = e.VolumenProporcional;
@@ -412,16 +412,16 @@ void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vo
     }
     e.Gamma2 = e.Gamma;
     PonerEstadoFinal(e, dlg, 0, e.W12acumulado, e.PresionPolitropica, volumenFinal, e.TemperaturaPolitropica);
-    if (dibujar == kDibujar)
+    if (dibujar == Dibujo::Dibujar)
         LineaEnDiagramas(g, volumenFinal, e.TemperaturaFinal, e.PresionFinal, e.SAire, e.EntalpiaFinal);
 }
 
-void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double volumenFinal, double paso,
+void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
                double exponente) {
     if (e.ErrorCalculo) return;
-    e.TipoFluido = kFluidoHumos;
+    e.TipoFluido = Fluido::Humos;
     PonerInicioDesdeFinal(e, dlg);
-    ExponenteInicial(e, dlg, modelo, volumenFinal, exponente, 2);
+    ExponenteInicial(e, dlg, modelo, volumenFinal, exponente, Fluido::Humos);
     e.Gamma4 = e.Gamma;
     while (e.Volumen + paso < volumenFinal) {
         e.VolumenProporcional = e.Volumen + paso;
@@ -438,7 +438,7 @@ void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vol
     if (e.VolumenProporcional < volumenFinal) {
         PropiedadesHumos(e, dlg);
         ExponentePaso(e, modelo, exponente);
-        if (modelo == kModeloPolitropico) e.GammaInicial = " N.D.";
+        if (modelo == Modelo::Politropico) e.GammaInicial = " N.D.";
         if (!PasoPolitropico(e, dlg, volumenFinal, e.W45acumulado)) return;
     }
     e.Gamma5 = e.Gamma;
@@ -446,10 +446,10 @@ void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double vol
     LineaEnDiagramas(g, volumenFinal, e.TemperaturaFinal, e.PresionFinal, e.SHumos, e.EntalpiaFinal);
 }
 
-void CombustionVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, double /*presionMaxima*/,
-                                int dibujar) {
+void CombustionVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsocoro tipo,
+                                double /*presionMaxima*/, Dibujo dibujar) {
     if (e.ErrorCalculo) return;
-    e.TipoFluido = kFluidoAire;
+    e.TipoFluido = Fluido::Aire;
     PonerInicioDesdeFinal(e, dlg);
     CalcularMolesCiclo(e, dlg);
     e.GammaInicial = " ND";
@@ -463,9 +463,9 @@ void CombustionVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo
 }
 
 void CombustionPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor,
-                                int dibujar) {
+                                Dibujo dibujar) {
     if (e.ErrorCalculo) return;
-    e.TipoFluido = kFluidoHumos;
+    e.TipoFluido = Fluido::Humos;
     PonerInicioDesdeFinal(e, dlg);
     e.TemperaturaSuperior = kTemperaturaSuperiorIsobara;
     e.TemperaturaInferior = e.TemperaturaInicial;

@@ -10,32 +10,26 @@
 
 namespace vanta {
 
-// Draw flag of the processes: 1 draws, any other value does not.
-inline constexpr int kDibujar = 1;
-inline constexpr int kSinDibujar = 2;
-
-// Models of compression and expansion.
-inline constexpr int kModeloGammaMedio = 1;
-inline constexpr int kModeloPolitropico = 2;
-inline constexpr int kModeloGammaVariable = 3;
+// Draw flag of the processes: the silent pass of the maxima, or the drawing
+// pass.
+enum class Dibujo : int { Dibujar = 1, SinDibujar = 2 };
 
 // Kinds of the constant-volume heat: heat up to Pmax, or Q23 given.
-inline constexpr int kCalorHastaPmax = 1;
-inline constexpr int kCalorDado = 2;
+enum class TipoCalorIsocoro : int { HastaPmax = 1, Dado = 2 };
 
 void PonerColorDiagramas(Diagramas& g, int32_t color);
 
 void CalcularMolesCiclo(Estado& e, Dialogos& dlg);
-void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double volumenFinal, double paso,
-                double exponente, int dibujar);
+void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
+                double exponente, Dibujo dibujar);
 // Always draws.
-void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, double modelo, double volumenFinal, double paso,
+void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
                double exponente);
 // presionMaxima is not used: the limit is read from Pmax.
-void CombustionVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, int tipo, double presionMaxima,
-                                int dibujar);
+void CombustionVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsocoro tipo,
+                                double presionMaxima, Dibujo dibujar);
 void CombustionPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor,
-                                int dibujar);
+                                Dibujo dibujar);
 void TrazarEscape(Estado& e, Dialogos& dlg, Diagramas& g);
 
 }  // namespace vanta

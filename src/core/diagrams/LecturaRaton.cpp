@@ -22,10 +22,10 @@ constexpr std::string_view kExpansionPolitropica = "Expansión politrópica";
 constexpr std::string_view kExpansionVariable = "Expansión adiabática con gamma variable";
 constexpr std::string_view kEscape = "Escape y admisión";
 
-std::string_view TextoModelo(double modelo, std::string_view medio, std::string_view politropico,
+std::string_view TextoModelo(Modelo modelo, std::string_view medio, std::string_view politropico,
                              std::string_view variable) {
-    if (modelo == kModeloGammaMedio) return medio;
-    if (modelo == kModeloPolitropico) return politropico;
+    if (modelo == Modelo::GammaMedio) return medio;
+    if (modelo == Modelo::Politropico) return politropico;
     return variable;
 }
 
@@ -38,7 +38,7 @@ float S(double v) {
 struct Punto {
     std::string_view texto;
     double T = 0, p = 0;
-    Booleano16 fluido = 0;
+    Fluido fluido{};
     double x = 0;  // share of gases for the blend
 };
 
@@ -59,22 +59,22 @@ double FraccionIsocora(const Estado& e, double T) {
 Punto RamaIsocora(const Estado& e, Diagrama d, float Y) {
     Punto r{kCombustionV};
     if (-S(d.Q(e.p2, e.T2)) < Y) {
-        r.T = e.T2, r.p = e.p2, r.fluido = kFluidoAire;
+        r.T = e.T2, r.p = e.p2, r.fluido = Fluido::Aire;
     } else if (-S(d.Q(e.p3, e.T3)) > Y) {
         r.T = e.T3, r.p = e.p3;
         if (e.T3 == e.T4)
-            r.fluido = kFluidoHumos, r.x = 1;
+            r.fluido = Fluido::Humos, r.x = 1;
         else if (e.Q23 == 0)
-            r.fluido = kFluidoAire, r.x = 0;
+            r.fluido = Fluido::Aire, r.x = 0;
         else
-            r.fluido = kFluidoAireHumos, r.x = FraccionIsocora(e, e.T3);
+            r.fluido = Fluido::AireHumos, r.x = FraccionIsocora(e, e.T3);
         if (e.PresionMolFresco == 0) r.x = 1;
     } else {
         if (d.esPV)
             r.p = -Y, r.T = e.T2 * r.p / e.p2;
         else
             r.T = -Y, r.p = e.p2 * r.T / e.T2;
-        r.fluido = kFluidoAireHumos;
+        r.fluido = Fluido::AireHumos;
         r.x = FraccionIsocora(e, r.T);
     }
     return r;
@@ -84,15 +84,15 @@ Punto RamaIsocora(const Estado& e, Diagrama d, float Y) {
 Punto RamaEscape(const Estado& e, Diagrama d, float Y) {
     Punto r{kEscape};
     if (-S(d.Q(e.p1, e.T1)) <= Y) {
-        r.T = e.T1, r.p = e.p1, r.fluido = kFluidoAire;
+        r.T = e.T1, r.p = e.p1, r.fluido = Fluido::Aire;
     } else if (-S(d.Q(e.p5, e.T5)) >= Y) {
-        r.T = e.T5, r.p = e.p5, r.fluido = kFluidoHumos;
+        r.T = e.T5, r.p = e.p5, r.fluido = Fluido::Humos;
     } else {
         if (d.esPV)
             r.p = -Y, r.T = e.T1 * r.p / e.p1;
         else
             r.T = -Y, r.p = e.p1 * r.T / e.T1;
-        r.fluido = kFluidoAireHumos;
+        r.fluido = Fluido::AireHumos;
     }
     return r;
 }
@@ -110,7 +110,7 @@ void Recorrer(Estado& e, Dialogos& dlg, Diagramas& g, bool compresion, double X)
         PuntoEn(g, e.V1, e.T1, e.p1, e.S1, e.h1);
         CopiarCincoValores(e.PresionFinal, e.p1, e.VolumenFinal, e.V1, e.TemperaturaFinal, e.T1,
                            e.EntalpiaFinal, e.h1, e.EntropiaFinal, e.S1);
-        Compresion(e, dlg, g, e.ModeloCompresion, X, e.PasoVolumen, 1, kDibujar);
+        Compresion(e, dlg, g, e.ModeloCompresion, X, e.PasoVolumen, 1, Dibujo::Dibujar);
     } else {
         PuntoEn(g, e.V4, e.T4, e.p4, e.S4, e.h4);
         CopiarCincoValores(e.PresionFinal, e.p4, e.VolumenFinal, e.V4, e.TemperaturaFinal, e.T4,
@@ -124,12 +124,12 @@ void Recorrer(Estado& e, Dialogos& dlg, Diagramas& g, bool compresion, double X)
 Punto RamaCarreras(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, float X, float Y) {
     const double x = X;
     Punto c{TextoModelo(e.ModeloCompresion, kCompresionMedio, kCompresionPolitropica, kCompresionVariable)};
-    c.fluido = kFluidoAire;
-    if (e.ModeloCompresion == kModeloGammaVariable) {
+    c.fluido = Fluido::Aire;
+    if (e.ModeloCompresion == Modelo::GammaVariable) {
         Recorrer(e, dlg, g, true, x);
         c.T = e.TemperaturaFinal, c.p = e.PresionFinal;
     } else {
-        const double n = e.ModeloCompresion == kModeloGammaMedio ? e.GammaMedioCompresion : e.nCompresion;
+        const double n = e.ModeloCompresion == Modelo::GammaMedio ? e.GammaMedioCompresion : e.nCompresion;
         c.T = e.T1 * std::pow(e.V1 / x, n - 1), c.p = e.p1 * std::pow(e.V1 / x, n);
     }
     const double d1 = std::fabs(Y + d.Q(c.p, c.T));
@@ -138,17 +138,17 @@ Punto RamaCarreras(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, float X, 
     Punto x2;
     if (S(e.V4) <= X) {
         x2.texto = TextoModelo(e.ModeloExpansion, kExpansionMedio, kExpansionPolitropica, kExpansionVariable);
-        x2.fluido = kFluidoHumos;
-        if (e.ModeloExpansion == kModeloGammaVariable) {
+        x2.fluido = Fluido::Humos;
+        if (e.ModeloExpansion == Modelo::GammaVariable) {
             Recorrer(e, dlg, g, false, x);
             x2.T = e.TemperaturaFinal, x2.p = e.PresionFinal;
         } else {
-            const double n = e.ModeloExpansion == kModeloGammaMedio ? e.GammaMedioExpansion : e.nExpansion;
+            const double n = e.ModeloExpansion == Modelo::GammaMedio ? e.GammaMedioExpansion : e.nExpansion;
             x2.T = e.T4 * std::pow(e.V4 / x, n - 1), x2.p = e.p4 * std::pow(e.V4 / x, n);
         }
     } else {
         x2.texto = kCombustionP;
-        x2.fluido = kFluidoAireHumos;
+        x2.fluido = Fluido::AireHumos;
         x2.T = x * e.T3 / e.V3, x2.p = e.p3;
         x2.x = e.T4 == e.T3 ? 1 : (x2.T - e.T3) * (1 - e.FraccionQuemada) / (e.T4 - e.T3) + e.FraccionQuemada;
     }
@@ -186,15 +186,15 @@ void Lectura(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, bool visible, f
     e.Presion = r.p;
     double h = 0, s = 0;
     switch (e.TipoFluido) {
-        case kFluidoAire:
+        case Fluido::Aire:
             PropiedadesAire(e, dlg);
             h = e.hAire, s = e.SAire;
             break;
-        case kFluidoHumos:
+        case Fluido::Humos:
             PropiedadesHumos(e, dlg);
             h = e.hHumos, s = e.SHumos;
             break;
-        case kFluidoAireHumos:
+        case Fluido::AireHumos:
             if (X <= S(e.V2))
                 PropiedadesAireHumosFraccion(e, dlg, r.x);
             else if (S(e.V4) <= X)

@@ -27,22 +27,22 @@ constexpr std::string_view kCausaExponente =
 
 // The fluid of TipoFluido, evaluated: cp, h, cv and s. False for a kind that
 // is none of the three.
-struct Fluido {
+struct Propiedades {
     double cp, h, cv, s;
     bool conCv;  // the blend has no cv of its own
 };
 
-bool Evaluar(Estado& e, Dialogos& dlg, Fluido& f) {
+bool Evaluar(Estado& e, Dialogos& dlg, Propiedades& f) {
     switch (e.TipoFluido) {
-        case kFluidoAire:
+        case Fluido::Aire:
             PropiedadesAire(e, dlg);
             f = {e.CpAire, e.hAire, e.CvAire, e.SAire, true};
             return true;
-        case kFluidoHumos:
+        case Fluido::Humos:
             PropiedadesHumos(e, dlg);
             f = {e.CpHumos, e.hHumos, e.CvHumos, e.SHumos, true};
             return true;
-        case kFluidoAireHumos:
+        case Fluido::AireHumos:
             PropiedadesAireHumos(e, dlg);
             f = {e.CpMezcla, e.hMezcla, 0, e.SMezcla, false};
             return true;
@@ -80,7 +80,7 @@ void VolumenIsobarico(Estado& e, double V1, double T1, double T2) {
 void PropiedadesInicio(Estado& e, Dialogos& dlg) {
     if (e.ErrorCalculo) return;
     e.Qtransformacion = 0;
-    Fluido f{};
+    Propiedades f{};
     if (Evaluar(e, dlg, f)) {
         e.CpInicial = f.cp;
         e.hInicial = f.h;
@@ -95,7 +95,7 @@ void PropiedadesInicio(Estado& e, Dialogos& dlg) {
 void PropiedadesFin(Estado& e, Dialogos& dlg, double Calor, double Trabajo) {
     if (e.ErrorCalculo) return;
     e.Temperatura = e.TemperaturaFinal;
-    Fluido f{};
+    Propiedades f{};
     if (Evaluar(e, dlg, f)) {
         e.CpFinal = f.cp;
         e.hFinal = f.h;
@@ -158,7 +158,7 @@ void CopiarCincoValores(double& d1, double s1, double& d2, double s2, double& d3
     d5 = s5;
 }
 
-void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2, double T1, int Fluido) {
+void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2, double T1, Fluido fluido) {
     if (e.ErrorCalculo) return;
     PropiedadesInicio(e, dlg);
     e.hInicioBusqueda = e.hInicial;
@@ -176,10 +176,10 @@ void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2,
             return;
         }
         e.TemperaturaAnterior = e.TemperaturaPolitropica;
-        if (Fluido == 1) {
+        if (fluido == Fluido::Aire) {
             PropiedadesAire(e, dlg);
             e.hBusqueda = e.hAire;
-        } else if (Fluido == 2) {
+        } else if (fluido == Fluido::Humos) {
             PropiedadesHumos(e, dlg);
             e.hBusqueda = e.hHumos;
         }

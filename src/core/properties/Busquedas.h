@@ -10,11 +10,6 @@
 
 namespace vanta {
 
-// Kinds of fluid of a transformation (TipoFluido).
-inline constexpr Booleano16 kFluidoAire = 1;
-inline constexpr Booleano16 kFluidoHumos = 2;
-inline constexpr Booleano16 kFluidoAireHumos = 3;
-
 inline constexpr std::string_view kMensajeFluidoInicio =
     " Debe especificar si al comienzo de la transformación es aire, humo o aire con humos";
 inline constexpr std::string_view kMensajeFluidoFin =
@@ -49,8 +44,8 @@ void CopiarCincoValores(double& d1, double s1, double& d2, double s2, double& d3
                         double s4, double& d5, double s5);
 
 // The mean adiabatic exponent between the start of the record and V2, by
-// fixed-point iteration on the mean cp. Fluido 1 air, 2 gases.
-void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2, double T1, int Fluido);
+// fixed-point iteration on the mean cp, of air or of the gases.
+void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2, double T1, Fluido fluido);
 
 // Raises the maxima of p, T, h and s (single precision, strictly) with the
 // start and the end of the transformation.

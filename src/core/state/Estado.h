@@ -18,6 +18,20 @@ using Booleano16 = int16_t;
 inline constexpr Booleano16 Verdadero = -1;
 inline constexpr Booleano16 Falso = 0;
 
+// Models of compression and expansion.
+enum class Modelo : int {
+    GammaMedio = 1,     // "Exponente adiabático medio"
+    Politropico = 2,    // "Politrópica"
+    GammaVariable = 3,  // "Exponente adiabático variable"
+};
+
+// Kind of fluid of the current transformation (TipoFluido).
+enum class Fluido : int16_t {
+    Aire = 1,       // the humid comburent
+    Humos = 2,      // the combustion gases
+    AireHumos = 3,  // air with gases, while the heat is released
+};
+
 // The transformation record: the current state of the process, its start and
 // its end. Every property evaluation works at Temperatura and Presion.
 #define VANTA_CAMPOS_REGISTRO(X)  \
@@ -241,7 +255,7 @@ inline constexpr Booleano16 Falso = 0;
     X(double, TemperaturaQuemado)        \
     X(double, Wciclo)                    \
     X(double, VolumenIsobaro)            \
-    X(Booleano16, TipoFluido)            \
+    X(Fluido, TipoFluido)                \
     X(double, MolesSuperior)             \
     X(double, MolesInferior)             \
     X(double, TemperaturaSuperior)       \
@@ -254,8 +268,8 @@ inline constexpr Booleano16 Falso = 0;
     X(Booleano16, TablaAireDisponible)
 
 #define VANTA_CAMPOS_DIAGRAMA_TVPV(X) \
-    X(double, ModeloExpansion)        \
-    X(double, ModeloCompresion)
+    X(Modelo, ModeloExpansion)        \
+    X(Modelo, ModeloCompresion)
 
 // The running text position of the composition charts.
 #define VANTA_CAMPOS_GRAFICAS(X) \

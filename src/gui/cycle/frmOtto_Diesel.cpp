@@ -394,42 +394,42 @@ void frmOtto_Diesel::optGmedioCom_Click() {
     txtGammaMedioComp_->show();
     txt_nCom_->hide();
     lbl_n_comp_->hide();
-    ElegirModeloCompresion(e_, 1);
+    ElegirModeloCompresion(e_, Modelo::GammaMedio);
 }
 
 void frmOtto_Diesel::optPolitropicaCom_Click() {
     txtGammaMedioComp_->hide();
     txt_nCom_->show();
     lbl_n_comp_->show();
-    ElegirModeloCompresion(e_, 2);
+    ElegirModeloCompresion(e_, Modelo::Politropico);
 }
 
 void frmOtto_Diesel::optGvariable_Click() {
     txt_nCom_->hide();
     lbl_n_comp_->hide();
     txtGammaMedioComp_->hide();
-    ElegirModeloCompresion(e_, 3);
+    ElegirModeloCompresion(e_, Modelo::GammaVariable);
 }
 
 void frmOtto_Diesel::optGmedioExp_Click() {
     txtGMedioExp_->show();
     txt_nExp_->hide();
     lbl_nExp_->hide();
-    ElegirModeloExpansion(e_, 1);
+    ElegirModeloExpansion(e_, Modelo::GammaMedio);
 }
 
 void frmOtto_Diesel::optPolitropica_Click() {
     txtGMedioExp_->hide();
     txt_nExp_->show();
     lbl_nExp_->show();
-    ElegirModeloExpansion(e_, 2);
+    ElegirModeloExpansion(e_, Modelo::Politropico);
 }
 
 void frmOtto_Diesel::optGvariableExp_Click() {
     txt_nExp_->hide();
     lbl_nExp_->hide();
     txtGMedioExp_->hide();
-    ElegirModeloExpansion(e_, 3);
+    ElegirModeloExpansion(e_, Modelo::GammaVariable);
 }
 
 void frmOtto_Diesel::optProporcion_Click() {
