@@ -298,6 +298,12 @@ bool DefinirFluido(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, Superfic
 
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
                      std::ostream& out) {
+    std::string informe;
+    return EjecutarCalcular(e, o, dlg, s, out, informe);
+}
+
+int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
+                     std::ostream& out, std::string& informe) {
     VentanaPrincipalSimple v;
     v.tipoCombustible = TextoListaCombustible(o);
     bool bien = DefinirFluido(e, o, dlg, s, true) && EtapaCiclo(e, o, dlg, s, v);
@@ -308,6 +314,7 @@ int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, Superf
         out << v.informe << "\r\n";
         if (o.Tiene("rpm")) bien = EscribirPotencia(e, o, dlg, v.resultados, out);
     }
+    informe = v.informe;
     return bien ? kSalidaBien : kSalidaFallo;
 }
 

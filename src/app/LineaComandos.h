@@ -58,6 +58,9 @@ std::string TextoListaCombustible(const OpcionesCalcular& o);
 // the exit status. Messages go through dlg.
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
                      std::ostream& out);
+// The same, keeping the text report of a calculation that ended well.
+int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
+                     std::ostream& out, std::string& informe);
 
 // Every variable of the state as one JSON object, full precision.
 std::string EstadoJSON(const Estado& e);

@@ -2,6 +2,7 @@
 // `vanta tablas …` the same logic headless.
 #include <QApplication>
 #include <QDir>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -17,6 +18,7 @@
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/reports/PaginaWeb.h"
 #include "gui/resources/Programa.h"
+#include "gui/services/SuperficiesSinVentana.h"
 
 namespace {
 
@@ -41,24 +43,22 @@ int Calcular(const std::vector<std::string>& argumentos) {
         cli::SuperficiesCalculo s{pct1, pct2, pct3, diagramas.Todos()};
         return cli::EjecutarCalcular(e, o, dlg, s, std::cout);
     }
-    // The pictures are drawn offscreen on the surfaces of a main window at
-    // the overview of a 1024 x 768 screen, the size the layout was made for.
+    // The pictures are drawn offscreen, at the sizes of the main window's
+    // boxes in the overview of a 1024 x 768 screen, the size the layout was
+    // made for.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     int argc = 1;
     char nombre[] = "vanta";
     char* argv[] = {nombre, nullptr};
-    QApplication aplicacion(argc, argv);
+    QGuiApplication aplicacion(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
-    frmFase1 ventana(e, &dlg, QSize(1024, 768));
-    ventana.PonerGraficosTodos();
-    cli::SuperficiesCalculo s{*ventana.pct1(), *ventana.pct2(), *ventana.pct3(), ventana.diagramas()};
-    const int salida = cli::EjecutarCalcular(e, o, dlg, s, std::cout);
+    SuperficiesSinVentana cajas;
+    cli::SuperficiesCalculo s{cajas.pct1, cajas.pct2, cajas.pct3, cajas.diagramas()};
+    std::string informe;
+    const int salida = cli::EjecutarCalcular(e, o, dlg, s, std::cout, informe);
     if (salida != cli::kSalidaBien) return salida;
     const std::string tipo = cli::TextoListaCombustible(o);
-    const std::array<QImage, 7> imagenes = {ventana.pct1()->Imagen(),  ventana.pct2()->Imagen(),
-                                            ventana.pct3()->Imagen(),  ventana.pctPV()->Imagen(),
-                                            ventana.pctTV()->Imagen(), ventana.pctTS()->Imagen(),
-                                            ventana.pctHS()->Imagen()};
+    const std::array<QImage, 7> imagenes = cajas.Imagenes();
     if (!o.html.empty()) {
         const QString carpeta = QString::fromStdString(o.html);
         QDir().mkpath(carpeta);
@@ -68,8 +68,7 @@ int Calcular(const std::vector<std::string>& argumentos) {
         }
     }
     if (!o.guardar.empty()) {
-        if (!GuardarRegistro(e, o.guardar, tipo, ventana.InformeF1(), imagenes, dlg))
-            return cli::kSalidaFallo;
+        if (!GuardarRegistro(e, o.guardar, tipo, informe, imagenes, dlg)) return cli::kSalidaFallo;
     }
     return cli::kSalidaBien;
 }

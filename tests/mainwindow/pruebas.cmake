@@ -6,5 +6,4 @@ list(APPEND VANTA_GUI_TESTS
   ${CMAKE_CURRENT_LIST_DIR}/test_Capturas.cpp
   ${CMAKE_CURRENT_LIST_DIR}/test_Vistas.cpp)
 list(APPEND VANTA_CORE_TESTS
-  ${CMAKE_CURRENT_LIST_DIR}/test_LecturaRaton.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/test_Ampliacion.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/test_LecturaRaton.cpp)

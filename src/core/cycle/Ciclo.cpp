@@ -46,6 +46,14 @@ constexpr std::string_view kCausaPotencia =
 constexpr std::string_view kCausaCierre =
     "el trabajo o el combustible del ciclo son cero y el consumo no se puede calcular";
 
+// The frames of Otto and Diesel: everything but the mixed cycle's options.
+constexpr Marcos kMarcosOttoDiesel{.compresion = true,
+                                   .expansion = true,
+                                   .aire = true,
+                                   .opcion = false,
+                                   .datos = true,
+                                   .seleccionar = false};
+
 // With Rc above this the focus goes to the compression ratio instead of Pmax.
 constexpr double kRcFocoPmax = 30;
 constexpr double kPmaxOtto = 9e9;
@@ -336,21 +344,26 @@ void imgOtto_Click(Estado& e, FormularioCiclo& f) {
     e.TipoCiclo = kCicloOtto;
     e.Pmax = kPmaxOtto;
     e.OpcionProporcion = Falso;
-    f.MostrarMarcos(true, true, true, false, true, false);
-    f.ResaltarCiclo(true, false, false);
+    f.MostrarMarcos(kMarcosOttoDiesel);
+    f.ResaltarCiclo({.otto = true, .diesel = false, .mixto = false});
 }
 
 void imgDiesel_Click(Estado& e, FormularioCiclo& f) {
     e.TipoCiclo = kCicloDiesel;
     e.OpcionProporcion = Falso;
-    f.MostrarMarcos(true, true, true, false, true, false);
-    f.ResaltarCiclo(false, true, false);
+    f.MostrarMarcos(kMarcosOttoDiesel);
+    f.ResaltarCiclo({.otto = false, .diesel = true, .mixto = false});
 }
 
 void imgMixto_Click(Estado& e, FormularioCiclo& f) {
     e.TipoCiclo = kCicloMixto;
-    f.MostrarMarcos(true, true, true, true, true, false);
-    f.ResaltarCiclo(false, false, true);
+    f.MostrarMarcos({.compresion = true,
+                     .expansion = true,
+                     .aire = true,
+                     .opcion = true,
+                     .datos = true,
+                     .seleccionar = false});
+    f.ResaltarCiclo({.otto = false, .diesel = false, .mixto = true});
 }
 
 void ElegirModeloCompresion(Estado& e, Modelo modelo) {
@@ -381,7 +394,7 @@ void txtPropVcte_Change(Estado& e, Dialogos& dlg, ControlesCiclo& c) {
 
 void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, VentanaPrincipal& v) {
     // Preparation.
-    v.Ocultabotones(true, false, true, true, true, true);
+    v.Ocultabotones(kAlCalcular);
     e.ErrorCalculo = Falso;
     e.PresionMaxima = 0;
     e.TemperaturaMaxima = 0;
@@ -450,7 +463,7 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     e.W45 = Round(e.W45acumulado, 1);
     if (e.ErrorCalculo) {
         dlg.MsgBox(kMensajeErrorCalculo);
-        v.Ocultabotones(true, true, true, true, false, false);
+        v.Ocultabotones(kAlFallarCalculo);
         // pctHS keeps its old picture.
         g.pctTV.Cls();
         g.pctPV.Cls();

@@ -8,6 +8,7 @@
 #include "core/services/Puertos.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
+#include "core/workflow/Flujo.h"
 
 namespace vanta {
 
@@ -49,7 +50,7 @@ struct TextosResultados {
 class VentanaPrincipal {
 public:
     virtual ~VentanaPrincipal() = default;
-    virtual void Ocultabotones(bool b1, bool b2, bool b3, bool b4, bool b5, bool b6) = 0;
+    virtual void Ocultabotones(const Botones& b) = 0;
     // The text of the fuel list of the fuel window (the report's TipoCombustible).
     virtual std::string TipoCombustible() const = 0;
     // The report's working buffer: the text report of the last success.
@@ -64,17 +65,31 @@ public:
     std::string tipoCombustible = "Gasolina";
     std::string informe;
     TextosResultados resultados;
-    bool botones[6] = {true, false, false, false, false, false};
+    Botones botones{.comburente = true,
+                    .combustible = false,
+                    .combustion = false,
+                    .ciclo = false,
+                    .resultados = false,
+                    .informe = false};
     int llamadasOcultabotones = 0;
 
-    void Ocultabotones(bool b1, bool b2, bool b3, bool b4, bool b5, bool b6) override {
-        const bool b[6] = {b1, b2, b3, b4, b5, b6};
-        for (int i = 0; i < 6; ++i) botones[i] = b[i];
+    void Ocultabotones(const Botones& b) override {
+        botones = b;
         ++llamadasOcultabotones;
     }
     std::string TipoCombustible() const override { return tipoCombustible; }
     void PonerInforme(const std::string& texto) override { informe = texto; }
     void MostrarResultados(const TextosResultados& textos) override { resultados = textos; }
+};
+
+// The frames of the cycle window that MostrarMarcos shows or hides.
+struct Marcos {
+    bool compresion, expansion, aire, opcion, datos, seleccionar;
+};
+
+// Which of the three pictures of cycles is highlighted.
+struct CiclosResaltados {
+    bool otto, diesel, mixto;
 };
 
 // The pictures the cycle window shows (variant 1 idle, variant 2 chosen) and
@@ -83,11 +98,10 @@ class FormularioCiclo {
 public:
     virtual ~FormularioCiclo() = default;
     // Sets the visibility of fraCompresion, fraExpansion, fraAire, fraOpcion,
-    // fraDTecnicos and imgSeleccinar, and of cmdCal to the first flag.
-    virtual void MostrarMarcos(bool compresion, bool expansion, bool aire, bool opcion, bool datos,
-                               bool seleccionar) = 0;
+    // fraDTecnicos and imgSeleccinar, and of cmdCal as that of fraCompresion.
+    virtual void MostrarMarcos(const Marcos& m) = 0;
     // Highlights the frame of the chosen cycle and shows its chosen picture.
-    virtual void ResaltarCiclo(bool otto, bool diesel, bool mixto) = 0;
+    virtual void ResaltarCiclo(const CiclosResaltados& c) = 0;
 };
 
 // ---- Events of the cycle window ----------------------------------------------

@@ -22,8 +22,8 @@ inline constexpr const char* kTextoGammaMedioExp = "Gamma medioExp";
 // The frames and pictures do nothing without a screen.
 class FormularioCicloNulo : public FormularioCiclo {
 public:
-    void MostrarMarcos(bool, bool, bool, bool, bool, bool) override {}
-    void ResaltarCiclo(bool, bool, bool) override {}
+    void MostrarMarcos(const Marcos&) override {}
+    void ResaltarCiclo(const CiclosResaltados&) override {}
 };
 
 struct PantallaCicloSimple {
@@ -38,17 +38,27 @@ struct PantallaCicloSimple {
     FormularioCicloNulo formulario;
 
     ControlesCiclo Controles() {
-        return {txtCilindrada,   txtRc,
-                txtP1,           txtT1,
-                txtPropVcte,     txtPMax,
-                txtPropPcte,     txt_nExp,
-                txt_nCom,        txtGammaMedioComp,
-                txtGMedioExp,    optProporcion,
-                optPmax,         optGvariable,
-                optGmedioCom,    optPolitropicaCom,
-                optGvariableExp, optGmedioExp,
-                optPolitropica,  chkOcultar,
-                ventana};
+        return {.txtCilindrada = txtCilindrada,
+                .txtRc = txtRc,
+                .txtP1 = txtP1,
+                .txtT1 = txtT1,
+                .txtPropVcte = txtPropVcte,
+                .txtPMax = txtPMax,
+                .txtPropPcte = txtPropPcte,
+                .txt_nExp = txt_nExp,
+                .txt_nCom = txt_nCom,
+                .txtGammaMedioComp = txtGammaMedioComp,
+                .txtGMedioExp = txtGMedioExp,
+                .optProporcion = optProporcion,
+                .optPmax = optPmax,
+                .optGvariable = optGvariable,
+                .optGmedioCom = optGmedioCom,
+                .optPolitropicaCom = optPolitropicaCom,
+                .optGvariableExp = optGvariableExp,
+                .optGmedioExp = optGmedioExp,
+                .optPolitropica = optPolitropica,
+                .chkOcultar = chkOcultar,
+                .ventana = ventana};
     }
 };
 

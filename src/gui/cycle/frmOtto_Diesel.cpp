@@ -85,17 +85,27 @@ struct frmOtto_Diesel::Puertos {
           optPolitropica(f.optPolitropica_),
           chkOcultar(f.chkOcultar_),
           ventana(&f),
-          controles{txtCilindrada,   txtRc,
-                    txtP1,           txtT1,
-                    txtPropVcte,     txtPMax,
-                    txtPropPcte,     txt_nExp,
-                    txt_nCom,        txtGammaMedioComp,
-                    txtGMedioExp,    optProporcion,
-                    optPmax,         optGvariable,
-                    optGmedioCom,    optPolitropicaCom,
-                    optGvariableExp, optGmedioExp,
-                    optPolitropica,  chkOcultar,
-                    ventana} {}
+          controles{.txtCilindrada = txtCilindrada,
+                    .txtRc = txtRc,
+                    .txtP1 = txtP1,
+                    .txtT1 = txtT1,
+                    .txtPropVcte = txtPropVcte,
+                    .txtPMax = txtPMax,
+                    .txtPropPcte = txtPropPcte,
+                    .txt_nExp = txt_nExp,
+                    .txt_nCom = txt_nCom,
+                    .txtGammaMedioComp = txtGammaMedioComp,
+                    .txtGMedioExp = txtGMedioExp,
+                    .optProporcion = optProporcion,
+                    .optPmax = optPmax,
+                    .optGvariable = optGvariable,
+                    .optGmedioCom = optGmedioCom,
+                    .optPolitropicaCom = optPolitropicaCom,
+                    .optGvariableExp = optGvariableExp,
+                    .optGmedioExp = optGmedioExp,
+                    .optPolitropica = optPolitropica,
+                    .chkOcultar = chkOcultar,
+                    .ventana = ventana} {}
 
     CajaTextoQt txtCilindrada, txtRc, txtP1, txtT1, txtPropVcte, txtPMax, txtPropPcte, txt_nExp, txt_nCom,
         txtGammaMedioComp, txtGMedioExp;
@@ -332,19 +342,18 @@ ControlesCiclo& frmOtto_Diesel::Controles() {
 
 // ---- What the logic does to the window ---------------------------------------------------
 
-void frmOtto_Diesel::MostrarMarcos(bool compresion, bool expansion, bool aire, bool opcion, bool datos,
-                                   bool seleccionar) {
-    fraCompresion_->setVisible(compresion);
-    fraExpansion_->setVisible(expansion);
-    fraAire_->setVisible(aire);
-    fraOpcion_->setVisible(opcion);
-    fraDTecnicos_->setVisible(datos);
-    imgSeleccinar_->setVisible(seleccionar);
-    cmdCal_->setVisible(compresion);
+void frmOtto_Diesel::MostrarMarcos(const Marcos& m) {
+    fraCompresion_->setVisible(m.compresion);
+    fraExpansion_->setVisible(m.expansion);
+    fraAire_->setVisible(m.aire);
+    fraOpcion_->setVisible(m.opcion);
+    fraDTecnicos_->setVisible(m.datos);
+    imgSeleccinar_->setVisible(m.seleccionar);
+    cmdCal_->setVisible(m.compresion);
 }
 
-void frmOtto_Diesel::ResaltarCiclo(bool otto, bool diesel, bool mixto) {
-    const bool elegido[3] = {otto, diesel, mixto};
+void frmOtto_Diesel::ResaltarCiclo(const CiclosResaltados& c) {
+    const bool elegido[3] = {c.otto, c.diesel, c.mixto};
     QLabel* imagenes[3] = {imgOtto_, imgDiesel_, imgMixto_};
     Forma* formas[3] = {shpOtto_, shpDiesel_, shpMixto_};
     for (int i = 0; i < 3; ++i) {

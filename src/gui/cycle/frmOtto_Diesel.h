@@ -48,9 +48,8 @@ public:
                    QWidget* padre = nullptr);
     ~frmOtto_Diesel() override;
 
-    void MostrarMarcos(bool compresion, bool expansion, bool aire, bool opcion, bool datos,
-                       bool seleccionar) override;
-    void ResaltarCiclo(bool otto, bool diesel, bool mixto) override;
+    void MostrarMarcos(const Marcos& m) override;
+    void ResaltarCiclo(const CiclosResaltados& c) override;
 
     ControlesCiclo& Controles();
 

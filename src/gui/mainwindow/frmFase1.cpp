@@ -356,43 +356,15 @@ void frmFase1::CrearMenus() {
 
 void frmFase1::Form_Load() {
     GuardarColoresDiagramas(e_);
-    PonerGraficosTodos();
-    LugaresIniciales();
-    for (QWidget* w : std::initializer_list<QWidget*>{fraPotencia_, fraPuntos_, fraTransformaciones_, pct1_,
-                                                      pct2_, pct3_, pctPV_, pctTV_, pctTS_})
-        w->hide();
-    mnuVerCiclo_->menuAction()->setEnabled(false);
-    mnuVerTodo_->setEnabled(false);
-    mnuCalcular_->setEnabled(false);
-    imgPresentacion_->show();
-    imgPresentacion_->raise();
-    fraBotonera_->raise();
+    // Two twips of the design's unit, in this window's pixels.
+    flujo_ = vanta::Form_Load({.W = width(), .H = height(), .dosTwips = 2.0 * logicalDpiX() / 1440.0});
+    Mostrar();
+    PresentacionInicial();
 }
 
-void frmFase1::Ocultabotones(bool b1, bool b2, bool b3, bool b4, bool b5, bool b6) {
-    imgPresentacion_->hide();
-    cmdElegirComburente_->setEnabled(b1);
-    cmdCombustible_->setEnabled(b2);
-    cmdCarCombustion_->setEnabled(b3);
-    cmdCarCiclo_->setEnabled(b4);
-    cmdEnvBaseDatos_->setVisible(b5);
-    cmdInforme_->setVisible(b6);
-    mnuBDatos_->setEnabled(b5);
-    mnuInforme_->setEnabled(b6);
-    mnuTablasActual_->setEnabled(b4);
-    fraPuntos_->setVisible(b5);
-    fraTransformaciones_->setVisible(b5);
-    fraEstadoActual_->setVisible(b5);
-    mnuCalcular_->setEnabled(b4);
-    mnuVerTodo_->setEnabled(b5);
-    mnuVerCiclo_->menuAction()->setEnabled(b5);
-    pct2_->setVisible(b3);
-    pct3_->setVisible(b4);
-    pctTV_->setVisible(b5);
-    pctPV_->setVisible(b5);
-    pctTS_->setVisible(b5);
-    mnuGuardar_->menuAction()->setEnabled(b5);
-    fraPotencia_->setVisible(b5);
+void frmFase1::Ocultabotones(const Botones& b) {
+    vanta::Ocultabotones(flujo_, b);
+    Mostrar();
 }
 
 std::string frmFase1::TipoCombustible() const {
@@ -440,19 +412,20 @@ void frmFase1::MostrarModal(QDialog& ventana) {
 // ---- Events ------------------------------------------------------------------------
 
 void frmFase1::cmdElegirComburente_Click() {
-    PonerGraficosTodos();
-    pct1_->show();
-    Ocultabotones(true, true, false, false, false, false);
+    vanta::cmdElegirComburente_Click(flujo_);
+    Mostrar();
     MostrarModal(*frmAireHumedad_);
 }
 
 void frmFase1::cmdCombustible_Click() {
-    Ocultabotones(true, true, true, false, false, false);
+    vanta::cmdCombustible_Click(flujo_);
+    Mostrar();
     MostrarModal(*frmCombustible_);
 }
 
 void frmFase1::cmdCarCombustion_Click() {
-    Ocultabotones(false, true, true, true, false, false);
+    vanta::cmdCarCombustion_Click(flujo_);
+    Mostrar();
     MostrarModal(*frmGasesCombustion_);
 }
 
@@ -482,18 +455,19 @@ void frmFase1::cmdEnvBaseDatos_Click() {
 }
 
 void frmFase1::chkVerHs_Click() {
-    pctHS_->setVisible(chkVerHs_->isChecked());
+    vanta::chkVerHs_Click(flujo_, chkVerHs_->isChecked());
+    Mostrar();
 }
 
 void frmFase1::pctPV_DblClick() {
-    if (cmdCarCiclo_->isEnabled())
+    if (EtapaCicloAbierta(flujo_))
         MostrarModal(*frmOtto_Diesel_);
     else
         dlg_->MsgBox(kMensajeFaltanEtapas);
 }
 
 void frmFase1::pctTV_KeyPress(int) {
-    if (cmdCarCiclo_->isEnabled()) MostrarModal(*frmOtto_Diesel_);
+    if (EtapaCicloAbierta(flujo_)) MostrarModal(*frmOtto_Diesel_);
 }
 
 void frmFase1::txtCilindrada_Click() {
@@ -508,43 +482,40 @@ void frmFase1::txtRpm_Click() {
     if (txtRpm_->text() == QLatin1String(kTextoRpm)) txtRpm_->clear();
 }
 
-// Enlarging a diagram by a click comes with the enlarged views.
 void frmFase1::pctPV_Click() {
-    ClickDiagrama(DiagramaAmpliable::PV);
+    ClickDiagrama(flujo_, Diagrama::PV, CalcularCicloActual());
+    Mostrar();
 }
 void frmFase1::pctTV_Click() {
-    ClickDiagrama(DiagramaAmpliable::TV);
+    ClickDiagrama(flujo_, Diagrama::TV, CalcularCicloActual());
+    Mostrar();
 }
 void frmFase1::pctTS_Click() {
-    ClickDiagrama(DiagramaAmpliable::TS);
+    ClickDiagrama(flujo_, Diagrama::TS, CalcularCicloActual());
+    Mostrar();
 }
 void frmFase1::pctHS_Click() {
-    ClickDiagrama(DiagramaAmpliable::HS);
+    ClickDiagrama(flujo_, Diagrama::HS, CalcularCicloActual());
+    Mostrar();
 }
 
-void frmFase1::CalcularCicloActual() {
-    frmOtto_Diesel_->cmdCal_Click();
-}
-
-void frmFase1::ClickDiagrama(DiagramaAmpliable d) {
-    if (cmdCarCiclo_->isEnabled()) CalcularCicloActual();
-    PonerGraficos(d);
-}
-
-void frmFase1::MenuDiagrama(DiagramaAmpliable d, QAction* entrada) {
-    PonerGraficos(d);
-    for (QAction* a : {mnuPV_, mnuTV_, mnuTS_, mnuHS_, mnuVerTodo_}) a->setChecked(a == entrada);
+CalculoCiclo frmFase1::CalcularCicloActual() {
+    return [this] {
+        // The surfaces take their new places before the cycle is drawn on them.
+        Mostrar();
+        frmOtto_Diesel_->cmdCal_Click();
+    };
 }
 
 // The readout of the state under the pointer; only while a cycle is on show
 // (the button of the report is not hidden).
 void frmFase1::pctPV_MouseMove(int, int, float x, float y) {
-    vanta::pctPV_MouseMove(e_, *dlg_, diagramas_, !cmdInforme_->isHidden(), x, y, lectura_);
+    vanta::pctPV_MouseMove(e_, *dlg_, diagramas_, CicloEnPantalla(flujo_), x, y, lectura_);
     MostrarLectura();
 }
 
 void frmFase1::pctTV_MouseMove(int, int, float x, float y) {
-    vanta::pctTV_MouseMove(e_, *dlg_, diagramas_, !cmdInforme_->isHidden(), x, y, lectura_);
+    vanta::pctTV_MouseMove(e_, *dlg_, diagramas_, CicloEnPantalla(flujo_), x, y, lectura_);
     MostrarLectura();
 }
 
@@ -569,8 +540,8 @@ bool frmFase1::eventFilter(QObject* objeto, QEvent* evento) {
 // ---- Menus ----------------------------------------------------------------------------
 
 void frmFase1::mnuNuevo_Click() {
-    pct1_->show();
-    Ocultabotones(true, true, false, false, false, false);
+    vanta::mnuNuevo_Click(flujo_);
+    Mostrar();
     MostrarModal(*frmAireHumedad_);
 }
 
@@ -594,22 +565,25 @@ void frmFase1::mnuGuardarHTML_Click() {
 }
 
 void frmFase1::mnuVerTodo_Click() {
-    PonerGraficosTodos();
-    mnuVerTodo_->setChecked(true);
-    for (QAction* a : {mnuPV_, mnuTV_, mnuTS_, mnuHS_}) a->setChecked(false);
+    vanta::mnuVerTodo_Click(flujo_);
+    Mostrar();
 }
 
 void frmFase1::mnuPV_Click() {
-    MenuDiagrama(DiagramaAmpliable::PV, mnuPV_);
+    MenuDiagrama(flujo_, Diagrama::PV, CalcularCicloActual());
+    Mostrar();
 }
 void frmFase1::mnuTV_Click() {
-    MenuDiagrama(DiagramaAmpliable::TV, mnuTV_);
+    MenuDiagrama(flujo_, Diagrama::TV, CalcularCicloActual());
+    Mostrar();
 }
 void frmFase1::mnuTS_Click() {
-    MenuDiagrama(DiagramaAmpliable::TS, mnuTS_);
+    MenuDiagrama(flujo_, Diagrama::TS, CalcularCicloActual());
+    Mostrar();
 }
 void frmFase1::mnuHS_Click() {
-    MenuDiagrama(DiagramaAmpliable::HS, mnuHS_);
+    MenuDiagrama(flujo_, Diagrama::HS, CalcularCicloActual());
+    Mostrar();
 }
 
 void frmFase1::mnuCalcular_Click() {
@@ -637,7 +611,8 @@ void frmFase1::mnuTablasActual_Click() {
 }
 
 void frmFase1::mnuTablas_Click() {
-    Ocultabotones(true, false, false, false, false, false);
+    vanta::mnuTablas_Click(flujo_);
+    Mostrar();
     Herramientas().MostrarParaDefinir();
 }
 

@@ -3,8 +3,9 @@
 // cycle), shows the composition charts, the four diagrams, the table of states
 // and the table of processes, and gives access to reports, the results
 // database and the property tables. It computes nothing itself: each stage
-// window does its own calculation on the shared state, and Ocultabotones
-// decides what may be used when.
+// window does its own calculation on the shared state. What may be used when,
+// what is in view and where it stands is the workflow's value (Flujo); the
+// window renders it after every event.
 #pragma once
 
 #include <QImage>
@@ -18,7 +19,7 @@
 #include "core/diagrams/LecturaRaton.h"
 #include "core/services/Puertos.h"
 #include "core/state/Estado.h"
-#include "core/workflow/Ampliacion.h"
+#include "core/workflow/Flujo.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/services/SuperficieQt.h"
 
@@ -53,14 +54,13 @@ public:
     ~frmFase1() override;
 
     // ---- What the calculation reaches ----
-    void Ocultabotones(bool b1, bool b2, bool b3, bool b4, bool b5, bool b6) override;
+    void Ocultabotones(const Botones& b) override;
     std::string TipoCombustible() const override;
     void PonerInforme(const std::string& texto) override;
     void MostrarResultados(const TextosResultados& textos) override;
 
-    // ---- Layout of the overview, by the window's proportions ----
-    void PonerGraficosTodos();
-    void CambiarTamaño();
+    // The workflow as the window shows it.
+    const Flujo& flujo() const { return flujo_; }
 
     // The text report of the last success (the hidden store txtInformeF1).
     const std::string& InformeF1() const { return txtInformeF1_; }
@@ -138,22 +138,10 @@ private:
     void Form_Load();
     void AbrirAyuda();
     void MostrarModal(QDialog& ventana);
-    // The enlarged view of a diagram, or the return to the overview, by the
-    // diagram's own test on the current geometry; each ends in a calculation.
-    void PonerGraficos(DiagramaAmpliable d);
-    GeometriaDiagramas GeometriaActual() const;
-    SuperficieQt* SuperficieDe(DiagramaAmpliable d) const;
-    void PonerGraficosPV() { PonerGraficos(DiagramaAmpliable::PV); }
-    void PonerGraficosTV() { PonerGraficos(DiagramaAmpliable::TV); }
-    void PonerGraficosTS() { PonerGraficos(DiagramaAmpliable::TS); }
-    void PonerGraficosHS() { PonerGraficos(DiagramaAmpliable::HS); }
-    // A click on a diagram: a calculation when the cycle stage is open, then
-    // the switch of that diagram; the menu's marks stay as they were.
-    void ClickDiagrama(DiagramaAmpliable d);
-    // A menu entry of a diagram: the switch, then that entry marked alone.
-    void MenuDiagrama(DiagramaAmpliable d, QAction* entrada);
-    // CalcularCiclo with the cycle window's inputs as they stand.
-    void CalcularCicloActual();
+    SuperficieQt* SuperficieDe(Diagrama d) const;
+    // What the workflow's transitions run: the places shown, then CalcularCiclo
+    // with the cycle window's inputs as they stand.
+    CalculoCiclo CalcularCicloActual();
     void MostrarLectura();
     // The seven pictures, in the order of pct1, pct2, pct3, pctPV, pctTV,
     // pctTS, pctHS.
@@ -167,7 +155,9 @@ private:
     void DistribuirEstadoActual();
     // The places that only the start gives: the splash, and pctHS until an
     // enlarged view places it.
-    void LugaresIniciales();
+    void PresentacionInicial();
+    // Shows the workflow's value: places, what is enabled, in view and marked.
+    void Mostrar();
 
     Estado& e_;
     std::unique_ptr<Dialogos> dlgPropios_;
@@ -246,9 +236,7 @@ private:
     frmGasesCombustion* frmGasesCombustion_ = nullptr;
     frmOtto_Diesel* frmOtto_Diesel_ = nullptr;
 
-    // Whether the view is an enlarged diagram; nothing reads it.
-    bool DiagramaAmpliado_ = false;
-
+    Flujo flujo_;
     LecturaEstado lectura_;
     std::unique_ptr<frmHerramientas> frmHerramientas_;
     std::unique_ptr<frmBaseDatos> frmBaseDatos_;

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/resources/Dibujos.h"
@@ -18,44 +19,10 @@ namespace vanta {
 
 namespace {
 
-// A control's place as fractions: Left and Width of the width given, Top and
-// Height of the height given.
-struct Lugar {
-    double izquierda, arriba, alto, ancho;
-};
-
-QRect Rectangulo(const Lugar& l, double W, double H) {
-    return {qRound(l.izquierda * W), qRound(l.arriba * H), qRound(l.ancho * W), qRound(l.alto * H)};
+void Colocar(QWidget* w, const Lugar& l) {
+    const QRect r(l.Left, l.Top, l.Width, l.Height);
+    if (w->geometry() != r) w->setGeometry(r);
 }
-
-void Colocar(QWidget* w, const Lugar& l, double W, double H) {
-    w->setGeometry(Rectangulo(l, W, H));
-}
-
-// The overview.
-constexpr Lugar kPct1{0.001, 0, 0.25, 0.499};
-constexpr Lugar kPct2{0.501, 0, 0.25, 0.4995};
-constexpr Lugar kPct3{0.501, 0.251, 0.25, 0.4995};
-constexpr Lugar kPctPV{0.001, 0.529, 0.32, 0.345};
-constexpr Lugar kPctTV{0.65, 0.529, 0.32, 0.35};
-// pctTS is an inset at the top right of pctPV, by fractions of pctPV.
-constexpr double kRecuadroIzquierda = 0.65, kRecuadroAlto = 0.3, kRecuadroAncho = 0.3;
-
-constexpr Lugar kFraBotonera{0.00391, 0.23958, 0.21484, 0.106445};
-constexpr Lugar kFraPuntos{0.109375, 0.23958, 0.21484, 0.38378906};
-constexpr Lugar kFraPotencia{0.00391, 0.453125, 0.069, 0.489258};
-constexpr Lugar kFraTransformaciones{0.351562, 0.52083, 0.28776, 0.301758};
-
-// The stage buttons, inside fraBotonera: their Top is a factor of the frame's
-// Top (not of its Height).
-constexpr double kBotonAlto = 0.2, kBotonAncho = 0.91743;
-constexpr double kBotonArriba[4] = {0.0652174, 0.266304, 0.472826, 0.673913};
-
-// CambiarTamaño.
-constexpr Lugar kCmdInforme{0.351562, 0.8125, 0.03776, 0.137695};
-constexpr Lugar kCmdEnvBaseDatos{0.515625, 0.8125, 0.03776, 0.137695};
-constexpr Lugar kChkVerHs{0.703125, 0.822917, 0.0221354, 0.204101};
-constexpr Lugar kFraEstadoActual{0.00390625, 0.84986, 0.05868, 0.985351};
 
 // The table of states, by fractions of fraPuntos.
 constexpr double kPuntosCabezaArriba = 0.07227;
@@ -81,56 +48,90 @@ enum Columna { kColQ, kColW, kColN, kColGamma };
 
 }  // namespace
 
-void frmFase1::PonerGraficosTodos() {
-    const double W = width(), H = height();
-    Colocar(pct1_, kPct1, W, H);
-    Colocar(pct2_, kPct2, W, H);
-    Colocar(pct3_, kPct3, W, H);
-    Colocar(pctPV_, kPctPV, W, H);
-    Colocar(pctTV_, kPctTV, W, H);
-    const QRect pv = pctPV_->geometry();
-    pctTS_->setGeometry(pv.left() + qRound(kRecuadroIzquierda * pv.width()), pv.top(),
-                        qRound(kRecuadroAncho * pv.width()), qRound(kRecuadroAlto * pv.height()));
-    pctTS_->raise();
+void frmFase1::Mostrar() {
+    const Flujo& f = flujo_;
+    const Lugares& l = f.lugar;
+    const std::pair<QWidget*, const Lugar*> lugares[] = {
+        {pct1_, &l.pct1},
+        {pct2_, &l.pct2},
+        {pct3_, &l.pct3},
+        {pctPV_, &l.pctPV},
+        {pctTV_, &l.pctTV},
+        {pctTS_, &l.pctTS},
+        {pctHS_, &l.pctHS},
+        {fraBotonera_, &l.fraBotonera},
+        {fraPuntos_, &l.fraPuntos},
+        {fraPotencia_, &l.fraPotencia},
+        {fraTransformaciones_, &l.fraTransformaciones},
+        {cmdInforme_, &l.cmdInforme},
+        {cmdEnvBaseDatos_, &l.cmdEnvBaseDatos},
+        {chkVerHs_, &l.chkVerHs},
+        {fraEstadoActual_, &l.fraEstadoActual},
+    };
+    for (auto [w, lugar] : lugares) Colocar(w, *lugar);
+    const std::pair<QPushButton*, const Lugar*> botones[] = {{cmdElegirComburente_, &l.cmdElegirComburente},
+                                                             {cmdCombustible_, &l.cmdCombustible},
+                                                             {cmdCarCombustion_, &l.cmdCarCombustion},
+                                                             {cmdCarCiclo_, &l.cmdCarCiclo}};
+    for (auto [boton, lugar] : botones) Colocar(boton, *lugar);
 
-    for (QWidget* w :
-         {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_),
-          static_cast<QWidget*>(pctTV_), static_cast<QWidget*>(pctTS_)})
-        w->show();
-    pctHS_->hide();
-    fraBotonera_->show();
-    fraPuntos_->show();
-    fraPotencia_->show();
-    chkVerHs_->hide();
-    chkVerHs_->setChecked(false);
+    const Habilitados& h = f.habilitado;
+    cmdElegirComburente_->setEnabled(h.cmdElegirComburente);
+    cmdCombustible_->setEnabled(h.cmdCombustible);
+    cmdCarCombustion_->setEnabled(h.cmdCarCombustion);
+    cmdCarCiclo_->setEnabled(h.cmdCarCiclo);
+    mnuInforme_->setEnabled(h.mnuInforme);
+    mnuBDatos_->setEnabled(h.mnuBDatos);
+    mnuGuardar_->menuAction()->setEnabled(h.mnuGuardar);
+    mnuTablasActual_->setEnabled(h.mnuTablasActual);
+    mnuCalcular_->setEnabled(h.mnuCalcular);
+    mnuVerTodo_->setEnabled(h.mnuVerTodo);
+    mnuVerCiclo_->menuAction()->setEnabled(h.mnuVerCiclo);
 
-    Colocar(fraBotonera_, kFraBotonera, W, H);
-    Colocar(fraPuntos_, kFraPuntos, W, H);
-    Colocar(fraPotencia_, kFraPotencia, W, H);
-    Colocar(fraTransformaciones_, kFraTransformaciones, W, H);
+    const Marcas& m = f.marcado;
+    mnuVerTodo_->setChecked(m.mnuVerTodo);
+    mnuPV_->setChecked(m.mnuPV);
+    mnuTV_->setChecked(m.mnuTV);
+    mnuTS_->setChecked(m.mnuTS);
+    mnuHS_->setChecked(m.mnuHS);
+    {
+        const QSignalBlocker callado(chkVerHs_);
+        chkVerHs_->setChecked(m.chkVerHs);
+    }
 
-    const QRect b = fraBotonera_->geometry();
-    QPushButton* botones[4] = {cmdElegirComburente_, cmdCombustible_, cmdCarCombustion_, cmdCarCiclo_};
-    for (int i = 0; i < 4; ++i)
-        botones[i]->setGeometry(b.left(), qRound(kBotonArriba[i] * b.top()), qRound(kBotonAncho * b.width()),
-                                qRound(kBotonAlto * b.height()));
+    const Visibles& v = f.visible;
+    const std::pair<QWidget*, bool> visibles[] = {
+        {imgPresentacion_, v.imgPresentacion},
+        {fraBotonera_, v.fraBotonera},
+        {pct1_, v.pct1},
+        {pct2_, v.pct2},
+        {pct3_, v.pct3},
+        {pctPV_, v.pctPV},
+        {pctTV_, v.pctTV},
+        {pctTS_, v.pctTS},
+        {pctHS_, v.pctHS},
+        {fraPuntos_, v.fraPuntos},
+        {fraTransformaciones_, v.fraTransformaciones},
+        {fraPotencia_, v.fraPotencia},
+        {fraEstadoActual_, v.fraEstadoActual},
+        {cmdInforme_, v.cmdInforme},
+        {cmdEnvBaseDatos_, v.cmdEnvBaseDatos},
+        {chkVerHs_, v.chkVerHs},
+    };
+    for (auto [w, visible] : visibles) w->setVisible(visible);
+    SuperficieDe(f.encima)->raise();
+    if (v.imgPresentacion) {
+        imgPresentacion_->raise();
+        fraBotonera_->raise();
+    }
 
+    // Room for the caption inside the button's frame.
+    constexpr int kMargenBoton = 12;
+    for (QPushButton* boton : {cmdInforme_, cmdEnvBaseDatos_})
+        AjustarLetra(boton, boton->text(), boton->width() - kMargenBoton);
     DistribuirPuntos();
     DistribuirTransformaciones();
     DistribuirPotencia();
-    CambiarTamaño();
-}
-
-void frmFase1::CambiarTamaño() {
-    const double W = width(), H = height();
-    Colocar(cmdInforme_, kCmdInforme, W, H);
-    Colocar(cmdEnvBaseDatos_, kCmdEnvBaseDatos, W, H);
-    Colocar(chkVerHs_, kChkVerHs, W, H);
-    Colocar(fraEstadoActual_, kFraEstadoActual, W, H);
-    // Room for the caption inside the button's frame.
-    constexpr int kMargenBoton = 12;
-    for (QPushButton* b : {cmdInforme_, cmdEnvBaseDatos_})
-        AjustarLetra(b, b->text(), b->width() - kMargenBoton);
     DistribuirEstadoActual();
 }
 
@@ -255,12 +256,7 @@ void frmFase1::DistribuirEstadoActual() {
     }
 }
 
-void frmFase1::LugaresIniciales() {
-    // pctHS stands as an inset at the top left of T-V, as pctTS does on p-V.
-    const QRect tv = pctTV_->geometry();
-    pctHS_->setGeometry(tv.left(), tv.top(), qRound(kRecuadroAncho * tv.width()),
-                        qRound(kRecuadroAlto * tv.height()));
-
+void frmFase1::PresentacionInicial() {
     // The splash fills the window right of the stage buttons.
     const QRect b = fraBotonera_->geometry();
     const int izquierda = b.right() + 8;
@@ -274,77 +270,18 @@ void frmFase1::LugaresIniciales() {
 
 namespace vanta {
 
-namespace {
-LugarDiagrama LugarDe(const QWidget* w) {
-    const QRect r = w->geometry();
-    return {double(r.left()), double(r.top()), double(r.width()), double(r.height())};
-}
-void Poner(QWidget* w, const LugarDiagrama& l) {
-    w->setGeometry(qRound(l.Left), qRound(l.Top), qRound(l.Width), qRound(l.Height));
-}
-}  // namespace
-
-SuperficieQt* frmFase1::SuperficieDe(DiagramaAmpliable d) const {
+SuperficieQt* frmFase1::SuperficieDe(Diagrama d) const {
     switch (d) {
-        case DiagramaAmpliable::PV:
+        case Diagrama::PV:
             return pctPV_;
-        case DiagramaAmpliable::TV:
+        case Diagrama::TV:
             return pctTV_;
-        case DiagramaAmpliable::TS:
+        case Diagrama::TS:
             return pctTS_;
-        case DiagramaAmpliable::HS:
+        case Diagrama::HS:
             return pctHS_;
     }
     return pctPV_;
-}
-
-GeometriaDiagramas frmFase1::GeometriaActual() const {
-    GeometriaDiagramas actual;
-    actual.W = width(), actual.H = height();
-    actual.pctPV = LugarDe(pctPV_), actual.pctTV = LugarDe(pctTV_);
-    actual.pctTS = LugarDe(pctTS_), actual.pctHS = LugarDe(pctHS_);
-    return actual;
-}
-
-void frmFase1::PonerGraficos(DiagramaAmpliable d) {
-    // Two twips of the design's unit, in this window's pixels.
-    const double dosTwips = 2.0 * logicalDpiX() / 1440.0;
-    if (!DebeAmpliar(d, GeometriaActual(), dosTwips)) {
-        PonerGraficosTodos();
-        CalcularCicloActual();
-        DiagramaAmpliado_ = false;
-        return;
-    }
-    const GeometriaDiagramas g = DistribucionAmpliada(d, width(), height());
-    Poner(pctPV_, g.pctPV);
-    Poner(pctTV_, g.pctTV);
-    Poner(pctTS_, g.pctTS);
-    Poner(pctHS_, g.pctHS);
-    // In whole pixels the main surface may fall a hair short of 0.7 W, and a
-    // second click on it would enlarge it again instead of returning: it
-    // takes the next pixel.
-    SuperficieQt* principal = SuperficieDe(d);
-    if (DebeAmpliar(d, GeometriaActual(), dosTwips))
-        principal->resize(principal->width() + 1, principal->height());
-    // The inset stands over the main surface.
-    (d == DiagramaAmpliable::HS ? pctTS_ : pctHS_)->raise();
-    for (QWidget* w :
-         {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_)})
-        w->hide();
-    pctTS_->show();
-    if (d == DiagramaAmpliable::HS) pctHS_->show();
-    fraBotonera_->hide();
-    fraPotencia_->hide();
-    CalcularCicloActual();
-    DiagramaAmpliado_ = true;
-    fraPotencia_->hide();
-    chkVerHs_->show();
-    fraPuntos_->hide();
-    CambiarTamaño();
-    for (QWidget* w :
-         {static_cast<QWidget*>(pct1_), static_cast<QWidget*>(pct2_), static_cast<QWidget*>(pct3_),
-          static_cast<QWidget*>(fraPuntos_), static_cast<QWidget*>(fraTransformaciones_)})
-        w->hide();
 }
 
 }  // namespace vanta

@@ -1,274 +1,45 @@
 #include "gui/services/SuperficieQt.h"
 
-#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
-#include <algorithm>
-#include <cmath>
-
-#include "gui/services/PuertosQt.h"
 
 namespace vanta {
 
 namespace {
-
-// How far outside the picture a line is still drawn, in pixels. Lines are cut
-// to this margin first, so that a curve gone far off the scale (a failed
-// calculation) never hands the painter coordinates beyond what it can raster.
-constexpr double kMargenRecorte = 16.0;
-
-// Cuts the segment p-q to the rectangle r (Liang-Barsky). False when nothing
-// of it lies inside.
-bool Recortar(QPointF& p, QPointF& q, const QRectF& r) {
-    double t0 = 0, t1 = 1;
-    const double dx = q.x() - p.x(), dy = q.y() - p.y();
-    const double lados[4][2] = {
-        {-dx, p.x() - r.left()}, {dx, r.right() - p.x()}, {-dy, p.y() - r.top()}, {dy, r.bottom() - p.y()}};
-    for (const auto& [a, b] : lados) {
-        if (a == 0) {
-            if (b < 0) return false;
-            continue;
-        }
-        const double t = b / a;
-        if (a < 0) {
-            if (t > t1) return false;
-            t0 = std::max(t0, t);
-        } else {
-            if (t < t0) return false;
-            t1 = std::min(t1, t);
-        }
-    }
-    const QPointF inicio = p;
-    p = inicio + t0 * QPointF(dx, dy);
-    q = inicio + t1 * QPointF(dx, dy);
-    return true;
-}
-
-constexpr qreal kPuntosLetra = 8;
-
-bool Finito(QPointF p) {
-    return std::isfinite(p.x()) && std::isfinite(p.y());
-}
-
+constexpr int kBorde = 1;
 }  // namespace
 
-QColor ColorQt(int32_t color) {
-    return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+QSize DentroDe(const Lugar& l) {
+    return {l.Width - 2 * kBorde, l.Height - 2 * kBorde};
 }
 
-SuperficieQt::SuperficieQt(QWidget* padre, int32_t fondo) : QFrame(padre), fondo_(fondo) {
+SuperficieQt::SuperficieQt(QWidget* padre, int32_t fondo) : QFrame(padre), SuperficieImagen(fondo) {
     setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    setLineWidth(1);
+    setLineWidth(kBorde);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    // The charts and diagrams were laid out for a small letter of 8 points:
-    // their texts stand at fixed places in the scale and longer ones would
-    // run past the edge.
-    QFont letra = font();
-    letra.setPointSizeF(kPuntosLetra);
-    setFont(letra);
+    setFont(LetraSuperficie(font()));
+    PonerLetra(font());
 }
 
-SuperficieQt::~SuperficieQt() {
-    CerrarPintor();
-}
-
-const SuperficieQt::Medida& SuperficieQt::Medir(bool otraVez) const {
-    if (otraVez || size() != medida_.widget) medida_ = {size(), contentsRect().size(), devicePixelRatioF()};
+const Medida& SuperficieQt::Medir(bool otraVez) const {
+    if (otraVez || size() != medidoCon_) {
+        medidoCon_ = size();
+        medida_ = {contentsRect().size(), devicePixelRatioF(), logicalDpiX(), logicalDpiY()};
+    }
     return medida_;
 }
 
-QSize SuperficieQt::TamanoDispositivo() const {
-    const Medida& m = Medir();
-    if (m.dentro.isEmpty()) return {};
-    return {qMax(1, qRound(m.dentro.width() * m.dpr)), qMax(1, qRound(m.dentro.height() * m.dpr))};
-}
-
-void SuperficieQt::AjustarImagenes() {
-    const QSize tamano = TamanoDispositivo();
-    const qreal dpr = Medir().dpr;
-    if (imagen_.size() == tamano && imagen_.devicePixelRatio() == dpr) return;
-    CerrarPintor();
-    capa_ = QImage();
-    capaVacia_ = true;
-    // Only the screen's pixel ratio changed (the window went to another
-    // screen): the same picture, at the new density.
-    if (!imagen_.isNull() && !tamano.isEmpty() &&
-        imagen_.deviceIndependentSize().toSize() == Medir().dentro) {
-        imagen_ = imagen_.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        imagen_.setDevicePixelRatio(dpr);
-        return;
-    }
-    if (tamano.isEmpty()) {
-        imagen_ = QImage();
-        return;
-    }
-    QImage nueva(tamano, QImage::Format_RGB32);
-    nueva.setDevicePixelRatio(dpr);
-    // The picture measures text as the widget does.
-    nueva.setDotsPerMeterX(qRound(logicalDpiX() / 0.0254));
-    nueva.setDotsPerMeterY(qRound(logicalDpiY() / 0.0254));
-    nueva.fill(ColorQt(fondo_));
-    // A new size keeps what was drawn for the old one, from the top left,
-    // until the next drawing clears it: after the return from an enlarged
-    // view without a calculation the diagrams show a part of their large
-    // pictures.
-    if (!imagen_.isNull() && imagen_.devicePixelRatio() == dpr) {
-        QPainter pintor(&nueva);
-        pintor.drawImage(QPointF(0, 0), imagen_);
-    }
-    imagen_ = std::move(nueva);
-}
-
-void SuperficieQt::CerrarPintor() {
-    pintor_.reset();
-    destinoPintor_ = nullptr;
-    colorPluma_ = -1;
-}
-
-void SuperficieQt::Pluma(QPainter* pintor) {
-    if (colorPluma_ == ForeColor()) return;
-    pintor->setPen(QPen(ColorQt(ForeColor()), 1));
-    colorPluma_ = ForeColor();
-}
-
-QPainter* SuperficieQt::Pintor() {
-    AjustarImagenes();
-    if (imagen_.isNull()) return nullptr;
-    QImage* destino = &imagen_;
-    if (!AutoRedraw()) {
-        if (capa_.isNull()) {
-            capa_ = QImage(imagen_.size(), QImage::Format_ARGB32_Premultiplied);
-            capa_.setDevicePixelRatio(imagen_.devicePixelRatio());
-            capa_.setDotsPerMeterX(imagen_.dotsPerMeterX());
-            capa_.setDotsPerMeterY(imagen_.dotsPerMeterY());
-            capa_.fill(Qt::transparent);
-        }
-        capaVacia_ = false;
-        destino = &capa_;
-    }
-    if (destinoPintor_ != destino) {
-        CerrarPintor();
-        pintor_ = std::make_unique<QPainter>(destino);
-        pintor_->setFont(font());
-        destinoPintor_ = destino;
-    }
-    Repintar();
-    return pintor_.get();
+QFontMetricsF SuperficieQt::Metricas() const {
+    return QFontMetricsF(font(), this);
 }
 
 void SuperficieQt::Repintar() {
     if (repintoPendiente_) return;
     repintoPendiente_ = true;
     update();
-}
-
-QImage SuperficieQt::Imagen() {
-    AjustarImagenes();
-    CerrarPintor();
-    return imagen_;
-}
-
-QPointF SuperficieQt::APixel(double x, double y) const {
-    const QSizeF t = Medir().dentro;
-    return {(x - ScaleLeft()) * t.width() / ScaleWidth(), (y - ScaleTop()) * t.height() / ScaleHeight()};
-}
-
-QPointF SuperficieQt::AUsuario(QPointF pixel) const {
-    const QSizeF t = Medir().dentro;
-    if (t.isEmpty()) return {ScaleLeft(), ScaleTop()};
-    return {ScaleLeft() + pixel.x() * ScaleWidth() / t.width(),
-            ScaleTop() + pixel.y() * ScaleHeight() / t.height()};
-}
-
-float SuperficieQt::TextWidth(std::string_view texto) const {
-    const int ancho = Medir().dentro.width();
-    if (ancho <= 0) return 0;
-    const QFontMetricsF medidas(font(), this);
-    return static_cast<float>(medidas.horizontalAdvance(ATexto(texto)) * std::fabs(ScaleWidth()) / ancho);
-}
-
-float SuperficieQt::TextHeight(std::string_view) const {
-    const int alto = Medir().dentro.height();
-    if (alto <= 0) return 0;
-    const QFontMetricsF medidas(font(), this);
-    return static_cast<float>(medidas.height() * std::fabs(ScaleHeight()) / alto);
-}
-
-void SuperficieQt::AlLimpiar() {
-    Medir(true);
-    AjustarImagenes();
-    CerrarPintor();
-    // Clearing the persistent picture wipes what was shown over it as well;
-    // with AutoRedraw off only the overlay goes.
-    if (AutoRedraw() && !imagen_.isNull()) imagen_.fill(ColorQt(fondo_));
-    if (!capa_.isNull()) capa_.fill(Qt::transparent);
-    capaVacia_ = true;
-    Repintar();
-}
-
-void SuperficieQt::Refresh() {
-    if (!capaVacia_) {
-        if (destinoPintor_ == &capa_) CerrarPintor();
-        capa_.fill(Qt::transparent);
-        capaVacia_ = true;
-    }
-    Repintar();
-}
-
-void SuperficieQt::AlPunto(float x, float y) {
-    const QPointF p = APixel(x, y);
-    const QSizeF t = Medir().dentro;
-    if (!Finito(p) || p.x() < -1 || p.y() < -1 || p.x() > t.width() + 1 || p.y() > t.height() + 1) return;
-    if (QPainter* pintor = Pintor()) {
-        Pluma(pintor);
-        pintor->drawPoint(p);
-    }
-}
-
-void SuperficieQt::AlLinea(float x1, float y1, float x2, float y2) {
-    QPointF p = APixel(x1, y1), q = APixel(x2, y2);
-    if (!Finito(p) || !Finito(q)) return;
-    const QRectF limite = QRectF(QPointF(0, 0), QSizeF(Medir().dentro))
-                              .adjusted(-kMargenRecorte, -kMargenRecorte, kMargenRecorte, kMargenRecorte);
-    if (!Recortar(p, q, limite)) return;
-    if (QPainter* pintor = Pintor()) {
-        Pluma(pintor);
-        pintor->drawLine(p, q);
-    }
-}
-
-void SuperficieQt::AlCaja(float x1, float y1, float x2, float y2, int32_t color) {
-    const QPointF p = APixel(x1, y1), q = APixel(x2, y2);
-    if (!Finito(p) || !Finito(q)) return;
-    const QRectF limite = QRectF(QPointF(0, 0), QSizeF(Medir().dentro))
-                              .adjusted(-kMargenRecorte, -kMargenRecorte, kMargenRecorte, kMargenRecorte);
-    const QRectF caja = QRectF(p, q).normalized().intersected(limite);
-    if (caja.isEmpty() && caja.width() <= 0 && caja.height() <= 0) return;
-    if (QPainter* pintor = Pintor()) {
-        // The box takes its edge in its own colour, so a box of no height is
-        // still a line.
-        pintor->setPen(QPen(ColorQt(color), 1));
-        pintor->setBrush(ColorQt(color));
-        pintor->drawRect(caja);
-        pintor->setBrush(Qt::NoBrush);
-        colorPluma_ = -1;
-    }
-}
-
-void SuperficieQt::AlTexto(float x, float y, std::string_view texto) {
-    const QPointF p = APixel(x, y);
-    if (!Finito(p) || texto.empty()) return;
-    const QSizeF t = Medir().dentro;
-    // Text that starts far outside the picture cannot reach into it.
-    if (std::fabs(p.x()) > 4 * t.width() + 1000 || std::fabs(p.y()) > 4 * t.height() + 1000) return;
-    if (QPainter* pintor = Pintor()) {
-        Pluma(pintor);
-        const QFontMetricsF medidas(pintor->font(), pintor->device());
-        pintor->drawText(QPointF(p.x(), p.y() + medidas.ascent()), ATexto(texto));
-    }
 }
 
 void SuperficieQt::paintEvent(QPaintEvent* evento) {
@@ -279,9 +50,9 @@ void SuperficieQt::paintEvent(QPaintEvent* evento) {
     QFrame::paintEvent(evento);
     QPainter p(this);
     const QPoint origen = contentsRect().topLeft();
-    if (imagen_.isNull()) return;
-    p.drawImage(origen, imagen_);
-    if (!capaVacia_) p.drawImage(origen, capa_);
+    if (Persistente().isNull()) return;
+    p.drawImage(origen, Persistente());
+    if (!TransitoriaVacia()) p.drawImage(origen, Transitoria());
 }
 
 void SuperficieQt::resizeEvent(QResizeEvent* evento) {
@@ -292,7 +63,7 @@ void SuperficieQt::resizeEvent(QResizeEvent* evento) {
 
 void SuperficieQt::changeEvent(QEvent* evento) {
     QFrame::changeEvent(evento);
-    if (evento->type() == QEvent::FontChange) CerrarPintor();
+    if (evento->type() == QEvent::FontChange) PonerLetra(font());
 }
 
 void SuperficieQt::DatosRaton(const QMouseEvent* evento, int& boton, int& mayusculas, float& x,

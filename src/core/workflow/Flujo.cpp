@@ -1,0 +1,208 @@
+#include "core/workflow/Flujo.h"
+
+namespace vanta {
+
+namespace {
+
+void Contar(const Flujo& f, const std::string& llamada) {
+    if (f.alLlamar) f.alLlamar(llamada);
+}
+
+void CalcularCiclo(Flujo& f, const CalculoCiclo& calcular) {
+    Contar(f, "CalcularCiclo");
+    calcular();
+}
+
+std::string Texto(const Botones& b) {
+    std::string s = "Ocultabotones(";
+    for (bool v : {b.comburente, b.combustible, b.combustion, b.ciclo, b.resultados, b.informe})
+        s += s.back() == '(' ? (v ? "1" : "0") : (v ? " 1" : " 0");
+    return s + ")";
+}
+
+Vista VistaDe(Diagrama d) {
+    switch (d) {
+        case Diagrama::PV:
+            return Vista::PV;
+        case Diagrama::TV:
+            return Vista::TV;
+        case Diagrama::TS:
+            return Vista::TS;
+        case Diagrama::HS:
+            return Vista::HS;
+    }
+    return Vista::General;
+}
+
+void MostrarGraficas(Flujo& f, bool visibles) {
+    f.visible.pct1 = f.visible.pct2 = f.visible.pct3 = visibles;
+}
+
+}  // namespace
+
+void Ocultabotones(Flujo& f, const Botones& b) {
+    Contar(f, Texto(b));
+    Habilitados& h = f.habilitado;
+    Visibles& v = f.visible;
+    v.imgPresentacion = false;
+    h.cmdElegirComburente = b.comburente;
+    h.cmdCombustible = b.combustible;
+    h.cmdCarCombustion = b.combustion;
+    h.cmdCarCiclo = b.ciclo;
+    v.cmdEnvBaseDatos = b.resultados;
+    v.cmdInforme = b.informe;
+    h.mnuBDatos = b.resultados;
+    h.mnuInforme = b.informe;
+    h.mnuTablasActual = b.ciclo;
+    v.fraPuntos = v.fraTransformaciones = v.fraEstadoActual = b.resultados;
+    h.mnuCalcular = b.ciclo;
+    h.mnuVerTodo = h.mnuVerCiclo = b.resultados;
+    v.pct2 = b.combustion;
+    v.pct3 = b.ciclo;
+    v.pctTV = v.pctPV = v.pctTS = b.resultados;
+    h.mnuGuardar = b.resultados;
+    v.fraPotencia = b.resultados;
+}
+
+void PonerGraficosTodos(Flujo& f) {
+    Contar(f, "PonerGraficosTodos");
+    ColocarTodos(f.lugar, f.ventana);
+    f.encima = Diagrama::TS;
+    f.vista = Vista::General;
+    Visibles& v = f.visible;
+    MostrarGraficas(f, true);
+    v.pctTV = v.pctTS = true;
+    v.pctHS = false;
+    v.fraBotonera = v.fraPuntos = v.fraPotencia = true;
+    v.chkVerHs = false;
+    chkVerHs_Click(f, false);
+    CambiarTamaño(f);
+}
+
+void CambiarTamaño(Flujo& f) {
+    Contar(f, "CambiarTamaño");
+    ColocarCambiarTamaño(f.lugar, f.ventana);
+}
+
+Flujo Form_Load(const TamanoVentana& ventana) {
+    Flujo f;
+    f.ventana = ventana;
+    PonerGraficosTodos(f);
+    ColocarHSInicial(f.lugar);
+    Visibles& v = f.visible;
+    v.fraPotencia = v.fraPuntos = v.fraTransformaciones = false;
+    MostrarGraficas(f, false);
+    v.pctPV = v.pctTV = v.pctTS = false;
+    f.habilitado.mnuVerCiclo = f.habilitado.mnuVerTodo = f.habilitado.mnuCalcular = false;
+    v.imgPresentacion = true;
+    return f;
+}
+
+void cmdElegirComburente_Click(Flujo& f) {
+    PonerGraficosTodos(f);
+    f.visible.pct1 = true;
+    Ocultabotones(f, {.comburente = true,
+                      .combustible = true,
+                      .combustion = false,
+                      .ciclo = false,
+                      .resultados = false,
+                      .informe = false});
+    f.etapa = Etapa::Comburente;
+}
+
+void mnuNuevo_Click(Flujo& f) {
+    f.visible.pct1 = true;
+    Ocultabotones(f, {.comburente = true,
+                      .combustible = true,
+                      .combustion = false,
+                      .ciclo = false,
+                      .resultados = false,
+                      .informe = false});
+    f.etapa = Etapa::Comburente;
+}
+
+void cmdCombustible_Click(Flujo& f) {
+    Ocultabotones(f, {.comburente = true,
+                      .combustible = true,
+                      .combustion = true,
+                      .ciclo = false,
+                      .resultados = false,
+                      .informe = false});
+    f.etapa = Etapa::Combustible;
+}
+
+void cmdCarCombustion_Click(Flujo& f) {
+    Ocultabotones(f, {.comburente = false,
+                      .combustible = true,
+                      .combustion = true,
+                      .ciclo = true,
+                      .resultados = false,
+                      .informe = false});
+    f.etapa = Etapa::Combustion;
+}
+
+void mnuTablas_Click(Flujo& f) {
+    Ocultabotones(f, {.comburente = true,
+                      .combustible = false,
+                      .combustion = false,
+                      .ciclo = false,
+                      .resultados = false,
+                      .informe = false});
+    f.etapa = Etapa::SoloTablas;
+}
+
+void CalculoTerminado(Flujo& f, bool bien) {
+    f.etapa = bien ? Etapa::CicloCalculado : Etapa::ErrorDeCiclo;
+}
+
+void chkVerHs_Click(Flujo& f, bool marcada) {
+    f.marcado.chkVerHs = marcada;
+    f.visible.pctHS = marcada;
+}
+
+void PonerGraficos(Flujo& f, Diagrama d, const CalculoCiclo& calcular) {
+    if (!DebeAmpliar(d, f.lugar, f.ventana)) {
+        PonerGraficosTodos(f);
+        CalcularCiclo(f, calcular);
+        return;
+    }
+    ColocarAmpliado(d, f.lugar, f.ventana);
+    f.encima = RecuadroDe(d);
+    Visibles& v = f.visible;
+    MostrarGraficas(f, false);
+    v.pctTS = true;
+    if (d == Diagrama::HS) v.pctHS = true;
+    v.fraBotonera = v.fraPotencia = false;
+    CalcularCiclo(f, calcular);
+    f.vista = VistaDe(d);
+    v.fraPotencia = false;
+    v.chkVerHs = true;
+    v.fraPuntos = false;
+    CambiarTamaño(f);
+    MostrarGraficas(f, false);
+    v.fraPuntos = v.fraTransformaciones = false;
+}
+
+void ClickDiagrama(Flujo& f, Diagrama d, const CalculoCiclo& calcular) {
+    if (EtapaCicloAbierta(f)) CalcularCiclo(f, calcular);
+    PonerGraficos(f, d, calcular);
+}
+
+void MenuDiagrama(Flujo& f, Diagrama d, const CalculoCiclo& calcular) {
+    PonerGraficos(f, d, calcular);
+    Marcas& m = f.marcado;
+    m.mnuVerTodo = false;
+    m.mnuPV = d == Diagrama::PV;
+    m.mnuTV = d == Diagrama::TV;
+    m.mnuTS = d == Diagrama::TS;
+    m.mnuHS = d == Diagrama::HS;
+}
+
+void mnuVerTodo_Click(Flujo& f) {
+    PonerGraficosTodos(f);
+    Marcas& m = f.marcado;
+    m.mnuVerTodo = true;
+    m.mnuPV = m.mnuTV = m.mnuTS = m.mnuHS = false;
+}
+
+}  // namespace vanta
