@@ -69,7 +69,14 @@ void BM_TablaAireComoTexto(benchmark::State& estado) {
     FluidoDeLasPantallas(e, dlg);
     CajaTextoSimple at("0.1"), ti(kTextoTinicial), tf(kTextoTfinal), cbo(kTextoElegir);
     InterruptorSimple mol(true), kg(false), aire(true), humos(false);
-    ControlesHerramientas c{at, ti, tf, mol, kg, aire, humos, cbo};
+    ControlesHerramientas c{.txtAT = at,
+                            .txtTinicial = ti,
+                            .txtTfinal = tf,
+                            .optMol = mol,
+                            .optKg = kg,
+                            .optAire = aire,
+                            .optHumos = humos,
+                            .cboElemento = cbo};
     MiembrosHerramientas m;
     for (auto _ : estado) {
         VisorTablasTexto v;

@@ -165,7 +165,12 @@ bool EtapaAire(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesC
         txtHum(o.Valor("humedad"));
     InterruptorSimple chkOcultar(true);
     VentanaSimple ventana;
-    ControlesAire c{txtPreAmb, txtTemAmb, txtHum, chkOcultar, ventana, s.pct1};
+    ControlesAire c{.txtPreAmb = txtPreAmb,
+                    .txtTemAmb = txtTemAmb,
+                    .txtHum = txtHum,
+                    .chkOcultar = chkOcultar,
+                    .ventana = ventana,
+                    .pct1 = s.pct1};
     return CalcularAire(e, dlg, c) && !e.ErrorCalculo;
 }
 

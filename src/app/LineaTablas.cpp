@@ -166,7 +166,14 @@ int EjecutarTablas(const std::vector<std::string>& argumentos, std::ostream& out
     CajaTextoSimple txtAT(o.paso), txtTinicial(o.desde), txtTfinal(o.hasta);
     CajaTextoSimple cboElemento(aire || humos ? kTextoElegir : o.fluido);
     InterruptorSimple optMol(o.por == kPorMol), optKg(o.por == kPorKg), optAire(aire), optHumos(humos);
-    ControlesHerramientas c{txtAT, txtTinicial, txtTfinal, optMol, optKg, optAire, optHumos, cboElemento};
+    ControlesHerramientas c{.txtAT = txtAT,
+                            .txtTinicial = txtTinicial,
+                            .txtTfinal = txtTfinal,
+                            .optMol = optMol,
+                            .optKg = optKg,
+                            .optAire = optAire,
+                            .optHumos = optHumos,
+                            .cboElemento = cboElemento};
     MiembrosHerramientas m;
     VisorFlujo visor(out);
     const bool bien = aire || humos

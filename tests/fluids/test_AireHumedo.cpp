@@ -13,7 +13,14 @@ struct PantallaAire {
     InterruptorSimple chkOcultar{true};
     VentanaSimple ventana;
     SuperficieNula pct1;
-    ControlesAire Controles() { return {txtPreAmb, txtTemAmb, txtHum, chkOcultar, ventana, pct1}; }
+    ControlesAire Controles() {
+        return {.txtPreAmb = txtPreAmb,
+                .txtTemAmb = txtTemAmb,
+                .txtHum = txtHum,
+                .chkOcultar = chkOcultar,
+                .ventana = ventana,
+                .pct1 = pct1};
+    }
 
     Estado e;
     DialogosGrabados dlg;

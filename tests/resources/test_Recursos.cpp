@@ -263,17 +263,6 @@ private slots:
 
     // The check of an ISBN: both lengths, the X of ISBN-10, hyphens and
     // blanks ignored; a wrong check digit, length or character refused.
-    void isbn() {
-        QVERIFY(IsbnValido(QStringLiteral("0-07-028637-X")));
-        QVERIFY(IsbnValido(QStringLiteral("0 07 028637 x")));
-        QVERIFY(IsbnValido(QStringLiteral("978-1-260-11610-6")));
-        QVERIFY(!IsbnValido(QStringLiteral("0-07-028637-9")));
-        QVERIFY(!IsbnValido(QStringLiteral("978-1-260-11610-7")));
-        QVERIFY(!IsbnValido(QStringLiteral("978-1-260-1161X-6")));
-        QVERIFY(!IsbnValido(QStringLiteral("X-07-028637-0")));
-        QVERIFY(!IsbnValido(QStringLiteral("0-07-028637")));
-        QVERIFY(!IsbnValido(QString()));
-    }
 };
 
 namespace {

@@ -110,8 +110,14 @@ std::vector<std::string> Ejecutar(const CasoTablas& c, int& enteras) {
         CajaTextoSimple txtAT(t.incremento), txtTinicial(t.inicial), txtTfinal(t.final),
             cboElemento(t.elemento);
         InterruptorSimple optMol(t.mol), optKg(t.kg), optAire(t.aire), optHumos(t.humos);
-        ControlesHerramientas controles{txtAT, txtTinicial, txtTfinal, optMol,
-                                        optKg, optAire,     optHumos,  cboElemento};
+        ControlesHerramientas controles{.txtAT = txtAT,
+                                        .txtTinicial = txtTinicial,
+                                        .txtTfinal = txtTfinal,
+                                        .optMol = optMol,
+                                        .optKg = optKg,
+                                        .optAire = optAire,
+                                        .optHumos = optHumos,
+                                        .cboElemento = cboElemento};
         VisorTablasTexto visor;
         const bool entera = t.especies ? cmdTab_Click(e, dlg, controles, m, visor)
                                        : cmdTablas_Click(e, dlg, controles, m, visor, "Gasoil");

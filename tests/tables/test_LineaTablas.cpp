@@ -62,7 +62,14 @@ TEST(LineaTablasTest, ASpeciesTableIsTheViewersTextClosedByALineEnd) {
     DialogosGrabados dlg;
     CajaTextoSimple txtAT("150,5"), txtTinicial("300"), txtTfinal("1200"), cbo("H2O");
     InterruptorSimple mol(false), kg(true), aire(false), humos(false);
-    ControlesHerramientas c{txtAT, txtTinicial, txtTfinal, mol, kg, aire, humos, cbo};
+    ControlesHerramientas c{.txtAT = txtAT,
+                            .txtTinicial = txtTinicial,
+                            .txtTfinal = txtTfinal,
+                            .optMol = mol,
+                            .optKg = kg,
+                            .optAire = aire,
+                            .optHumos = humos,
+                            .cboElemento = cbo};
     MiembrosHerramientas m;
     VisorTablasTexto v;
     ASSERT_TRUE(cmdTab_Click(e, dlg, c, m, v));

@@ -25,7 +25,14 @@ struct Herramienta {
     CajaTextoSimple txtAT{kTextoIncremento}, txtTinicial{kTextoTinicial}, txtTfinal{kTextoTfinal};
     CajaTextoSimple cboElemento{kTextoElegir};
     InterruptorSimple optMol{true}, optKg{false}, optAire{true}, optHumos{false};
-    ControlesHerramientas c{txtAT, txtTinicial, txtTfinal, optMol, optKg, optAire, optHumos, cboElemento};
+    ControlesHerramientas c{.txtAT = txtAT,
+                            .txtTinicial = txtTinicial,
+                            .txtTfinal = txtTfinal,
+                            .optMol = optMol,
+                            .optKg = optKg,
+                            .optAire = optAire,
+                            .optHumos = optHumos,
+                            .cboElemento = cboElemento};
     MiembrosHerramientas m;
     VisorTablasTexto v;
 

@@ -73,7 +73,14 @@ struct Herramienta {
             cbo(Hijo<QComboBox>(&f, "cboElemento")->currentText().toStdString());
         InterruptorSimple mol(Opcion("optMol")->isChecked()), kg(Opcion("optKg")->isChecked()),
             aire(Opcion("optAire")->isChecked()), humos(Opcion("optHumos")->isChecked());
-        ControlesHerramientas c{at, ti, tf, mol, kg, aire, humos, cbo};
+        ControlesHerramientas c{.txtAT = at,
+                                .txtTinicial = ti,
+                                .txtTfinal = tf,
+                                .optMol = mol,
+                                .optKg = kg,
+                                .optAire = aire,
+                                .optHumos = humos,
+                                .cboElemento = cbo};
         MiembrosHerramientas m;
         VisorTablasTexto v;
         if (especie)

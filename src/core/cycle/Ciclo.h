@@ -51,6 +51,8 @@ class VentanaPrincipal {
 public:
     virtual ~VentanaPrincipal() = default;
     virtual void Ocultabotones(const Botones& b) = 0;
+    // How a calculation ended (the workflow's stage), after it.
+    virtual void CalculoTerminado(bool bien) = 0;
     // The text of the fuel list of the fuel window (the report's TipoCombustible).
     virtual std::string TipoCombustible() const = 0;
     // The report's working buffer: the text report of the last success.
@@ -77,6 +79,7 @@ public:
         botones = b;
         ++llamadasOcultabotones;
     }
+    void CalculoTerminado(bool) override {}
     std::string TipoCombustible() const override { return tipoCombustible; }
     void PonerInforme(const std::string& texto) override { informe = texto; }
     void MostrarResultados(const TextosResultados& textos) override { resultados = textos; }

@@ -162,6 +162,22 @@ void Cruz(Superficie& s, double x, double y) {
     s.Line(s.ScaleLeft(), S(y), s.ScaleLeft() + s.ScaleWidth(), S(y));
 }
 
+// What a move leaves in the state: the record's Temperatura and Presion, the
+// kind of fluid, and what a run of the variable-exponent model adds to the
+// work sums and writes into the gammas. Nothing else: the cycle's closing
+// figures, Wciclo among them, stay as the calculation left them.
+void DevolverLectura(const Estado& copia, Estado& e) {
+    e.Temperatura = copia.Temperatura;
+    e.Presion = copia.Presion;
+    e.TipoFluido = copia.TipoFluido;
+    e.W12acumulado = copia.W12acumulado;
+    e.W45acumulado = copia.W45acumulado;
+    e.gamma1 = copia.gamma1;
+    e.Gamma2 = copia.Gamma2;
+    e.Gamma4 = copia.Gamma4;
+    e.Gamma5 = copia.Gamma5;
+}
+
 void Lectura(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, bool visible, float X, float Y,
              LecturaEstado& lectura) {
     if (!visible) return;
@@ -169,54 +185,63 @@ void Lectura(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, bool visible, f
         s->SetAutoRedraw(false);
         s->Refresh();
     }
+    // The move works on a scratch copy of the state.
+    Estado c = e;
     Punto r;
     double volumen = X;
-    if (X <= S(e.V2)) {
-        r = RamaIsocora(e, d, Y);
-        volumen = e.V2;
-    } else if (X < S(e.V1)) {
-        r = RamaCarreras(e, dlg, g, d, X, Y);
+    if (X <= S(c.V2)) {
+        r = RamaIsocora(c, d, Y);
+        volumen = c.V2;
+    } else if (X < S(c.V1)) {
+        r = RamaCarreras(c, dlg, g, d, X, Y);
     } else {
-        r = RamaEscape(e, d, Y);
-        volumen = e.V1;
+        r = RamaEscape(c, d, Y);
+        volumen = c.V1;
     }
-    e.TipoFluido = r.fluido;
+    c.TipoFluido = r.fluido;
 
-    e.Temperatura = r.T;
-    e.Presion = r.p;
+    c.Temperatura = r.T;
+    c.Presion = r.p;
     double h = 0, s = 0;
-    switch (e.TipoFluido) {
+    switch (c.TipoFluido) {
         case Fluido::Aire:
-            PropiedadesAire(e, dlg);
-            h = e.hAire, s = e.SAire;
+            PropiedadesAire(c, dlg);
+            h = c.hAire, s = c.SAire;
             break;
         case Fluido::Humos:
-            PropiedadesHumos(e, dlg);
-            h = e.hHumos, s = e.SHumos;
+            PropiedadesHumos(c, dlg);
+            h = c.hHumos, s = c.SHumos;
             break;
         case Fluido::AireHumos:
-            if (X <= S(e.V2))
-                PropiedadesAireHumosFraccion(e, dlg, r.x);
-            else if (S(e.V4) <= X)
-                PropiedadesAireHumosLineal(e, dlg, e.T5, e.T1, r.T);
+            if (X <= S(c.V2))
+                PropiedadesAireHumosFraccion(c, dlg, r.x);
+            else if (S(c.V4) <= X)
+                PropiedadesAireHumosLineal(c, dlg, c.T5, c.T1, r.T);
             else
-                PropiedadesAireHumosFraccion(e, dlg, r.x);
-            h = e.hMezcla, s = e.SMezcla;
+                PropiedadesAireHumosFraccion(c, dlg, r.x);
+            h = c.hMezcla, s = c.SMezcla;
             break;
         default:
             dlg.MsgBox(kMensajeFluidoInicio);
     }
+    // An evaluation stopped by the flag of failure left the values of an
+    // earlier one: h and s are not shown, nor crossed.
+    const bool evaluado = !c.ErrorCalculo;
+    DevolverLectura(c, e);
 
     Cruz(g.pctTV, volumen, -r.T);
     Cruz(g.pctPV, volumen, -r.p);
-    Cruz(g.pctTS, s, -r.T);
-    Cruz(g.pctHS, s, -h);
+    if (evaluado) {
+        Cruz(g.pctTS, s, -r.T);
+        Cruz(g.pctHS, s, -h);
+    }
 
-    lectura.lblTmouseVal = Format(r.T, "### ### ### ##0.00", e.SeparadorDecimal);
-    lectura.lblVmouseVal = Format(volumen * 1e6, "0.000", e.SeparadorDecimal);
-    lectura.lblPmouseVal = Format(r.p, "### ### ### ###", e.SeparadorDecimal);
-    lectura.lblhmouseVal = Format(h, "### ### ### ##0.0", e.SeparadorDecimal);
-    lectura.lblSmouseVal = Format(s, "### ### ### ##0.000", e.SeparadorDecimal);
+    const char sep = c.SeparadorDecimal;
+    lectura.lblTmouseVal = Format(r.T, "### ### ### ##0.00", sep);
+    lectura.lblVmouseVal = Format(volumen * 1e6, "0.000", sep);
+    lectura.lblPmouseVal = Format(r.p, "### ### ### ###", sep);
+    lectura.lblhmouseVal = evaluado ? Format(h, "### ### ### ##0.0", sep) : "";
+    lectura.lblSmouseVal = evaluado ? Format(s, "### ### ### ##0.000", sep) : "";
     lectura.txtTransformacion = r.texto;
 }
 

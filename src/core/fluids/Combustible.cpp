@@ -46,10 +46,6 @@ const CombustibleDeLista* BuscarCombustible(std::string_view nombre) {
     return nullptr;
 }
 
-bool EsEntradaListaCombustible(std::string_view nombre) {
-    return nombre == kOtrosCombustibles || BuscarCombustible(nombre) != nullptr;
-}
-
 void optFOR_Click(ControlesCombustible& c) {
     c.optFOR.SetValue(true);
     c.optMasa.SetValue(false);

@@ -62,8 +62,6 @@ inline constexpr std::string_view kElijaCombustible = "Elija combustible";
 
 // The named fuel of that list text, or nullptr (for "Otros combustibles" too).
 const CombustibleDeLista* BuscarCombustible(std::string_view nombre);
-// Whether the text is one of the eight entries of the list.
-bool EsEntradaListaCombustible(std::string_view nombre);
 
 // Background of a locked box of the fuel screen (0xBBGGRR).
 inline constexpr int32_t kColorCajaBloqueada = 0xC0FFC0;
@@ -142,9 +140,28 @@ struct PantallaCombustibleSimple {
     FormularioCombustibleSimple formulario;
 
     ControlesCombustible Controles(Superficie& pct2) {
-        return {cboTipCom, txtC,    txtN,       txtO,      txtS,      txtH,      txtMolC, txtMolH,
-                txtMolN,   txtMolO, txtMolS,    txtmmComb, txtEntPro, txtHcs,    txtHci,  txtQvap,
-                optMasa,   optFOR,  chkOcultar, ventana,   pct2,      formulario};
+        return {.cboTipCom = cboTipCom,
+                .txtC = txtC,
+                .txtN = txtN,
+                .txtO = txtO,
+                .txtS = txtS,
+                .txtH = txtH,
+                .txtMolC = txtMolC,
+                .txtMolH = txtMolH,
+                .txtMolN = txtMolN,
+                .txtMolO = txtMolO,
+                .txtMolS = txtMolS,
+                .txtmmComb = txtmmComb,
+                .txtEntPro = txtEntPro,
+                .txtHcs = txtHcs,
+                .txtHci = txtHci,
+                .txtQvap = txtQvap,
+                .optMasa = optMasa,
+                .optFOR = optFOR,
+                .chkOcultar = chkOcultar,
+                .ventana = ventana,
+                .pct2 = pct2,
+                .formulario = formulario};
     }
 };
 

@@ -62,7 +62,14 @@ struct PantallaCombustionSimple {
     VariablesCombustion variables;
 
     ControlesCombustion Controles(Superficie& pct3) {
-        return {txtFr, txtLambda, optFr, optLambda, chkOcultar, ventana, pct3, variables};
+        return {.txtFr = txtFr,
+                .txtLambda = txtLambda,
+                .optFr = optFr,
+                .optLambda = optLambda,
+                .chkOcultar = chkOcultar,
+                .ventana = ventana,
+                .pct3 = pct3,
+                .variables = variables};
     }
 };
 

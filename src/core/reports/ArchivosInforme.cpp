@@ -85,15 +85,6 @@ std::vector<FiltroArchivo> FiltrosDialogo(std::string_view filtro) {
     return filtros;
 }
 
-std::string FiltrosComoTexto(const std::vector<FiltroArchivo>& filtros) {
-    std::string s;
-    for (const FiltroArchivo& f : filtros) {
-        if (!s.empty()) s += ";;";
-        s += f.etiqueta;
-    }
-    return s;
-}
-
 size_t FiltroInicial(const DialogoArchivo& d, size_t cuantos) {
     if (cuantos == 0) return 0;
     const size_t indice = d.indiceFiltro > 1 ? static_cast<size_t>(d.indiceFiltro - 1) : 0;

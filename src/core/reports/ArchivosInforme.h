@@ -61,9 +61,6 @@ struct FiltroArchivo {
 // pattern from the label ("Página Web (html, htm)") filters by the real one.
 std::vector<FiltroArchivo> FiltrosDialogo(std::string_view filtro);
 
-// The filters joined in the form of a file dialog: "label (*.a);;label (*.b)".
-std::string FiltrosComoTexto(const std::vector<FiltroArchivo>& filtros);
-
 // The filter a dialog starts on, counted from 0 and kept inside the list.
 size_t FiltroInicial(const DialogoArchivo& d, size_t cuantos);
 

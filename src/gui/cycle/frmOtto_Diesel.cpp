@@ -387,6 +387,7 @@ bool frmOtto_Diesel::eventFilter(QObject* objeto, QEvent* evento) {
 
 void frmOtto_Diesel::cmdCal_Click() {
     CalcularCiclo(e_, dlg_, Controles(), diagramas_, principal_);
+    principal_.CalculoTerminado(!e_.ErrorCalculo);
 }
 
 void frmOtto_Diesel::imgOtto_Click() {

@@ -64,7 +64,12 @@ frmAireHumedad::frmAireHumedad(Estado& e, Dialogos& dlg, Superficie& pct1, QWidg
 }
 
 void frmAireHumedad::cmdCal_Click() {
-    ControlesAire c{cajaPreAmb_, cajaTemAmb_, cajaHum_, interruptorOcultar_, ventana_, pct1_};
+    ControlesAire c{.txtPreAmb = cajaPreAmb_,
+                    .txtTemAmb = cajaTemAmb_,
+                    .txtHum = cajaHum_,
+                    .chkOcultar = interruptorOcultar_,
+                    .ventana = ventana_,
+                    .pct1 = pct1_};
     CalcularAire(e_, dlg_, c);
 }
 

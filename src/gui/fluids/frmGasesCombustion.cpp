@@ -24,7 +24,14 @@ struct frmGasesCombustion::Puertos {
           optLambda(f.optLambda_),
           chkOcultar(f.chkOcultar_),
           ventana(&f),
-          controles{txtFr, txtLambda, optFr, optLambda, chkOcultar, ventana, f.pct3_, f.variables_} {}
+          controles{.txtFr = txtFr,
+                    .txtLambda = txtLambda,
+                    .optFr = optFr,
+                    .optLambda = optLambda,
+                    .chkOcultar = chkOcultar,
+                    .ventana = ventana,
+                    .pct3 = f.pct3_,
+                    .variables = f.variables_} {}
 
     CajaTextoQt txtFr, txtLambda;
     InterruptorQt optFr, optLambda, chkOcultar;

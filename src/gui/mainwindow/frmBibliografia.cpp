@@ -53,35 +53,6 @@ const std::vector<Libro>& Bibliografia() {
     return libros;
 }
 
-bool IsbnValido(const QString& isbn) {
-    QString d;
-    for (const QChar c : isbn)
-        if (c != QLatin1Char('-') && c != QLatin1Char(' ')) d += c.toUpper();
-    if (d.size() == 10) {
-        int suma = 0;
-        for (int i = 0; i < 10; ++i) {
-            int v;
-            if (d[i].isDigit())
-                v = d[i].digitValue();
-            else if (i == 9 && d[i] == QLatin1Char('X'))
-                v = 10;
-            else
-                return false;
-            suma += (10 - i) * v;
-        }
-        return suma % 11 == 0;
-    }
-    if (d.size() == 13) {
-        int suma = 0;
-        for (int i = 0; i < 13; ++i) {
-            if (!d[i].isDigit()) return false;
-            suma += d[i].digitValue() * (i % 2 == 0 ? 1 : 3);
-        }
-        return suma % 10 == 0;
-    }
-    return false;
-}
-
 frmBibliografia::frmBibliografia(QWidget* padre) : QDialog(padre) {
     setObjectName(QStringLiteral("frmBibliografia"));
     setWindowTitle(QStringLiteral("Bibliografía"));

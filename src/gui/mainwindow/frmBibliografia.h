@@ -26,10 +26,6 @@ struct Libro {
 // The books, in the order the window lists them.
 const std::vector<Libro>& Bibliografia();
 
-// Tells whether a text is a well-formed ISBN-10 or ISBN-13 (hyphens and
-// blanks ignored, check digit verified).
-bool IsbnValido(const QString& isbn);
-
 // Not modal: the user may keep it open beside the main window.
 class frmBibliografia : public QDialog {
     Q_OBJECT

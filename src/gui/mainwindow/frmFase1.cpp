@@ -367,6 +367,10 @@ void frmFase1::Ocultabotones(const Botones& b) {
     Mostrar();
 }
 
+void frmFase1::CalculoTerminado(bool bien) {
+    vanta::CalculoTerminado(flujo_, bien);
+}
+
 std::string frmFase1::TipoCombustible() const {
     return frmCombustible_->TipoCombustible();
 }

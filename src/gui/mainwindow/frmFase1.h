@@ -55,6 +55,7 @@ public:
 
     // ---- What the calculation reaches ----
     void Ocultabotones(const Botones& b) override;
+    void CalculoTerminado(bool bien) override;
     std::string TipoCombustible() const override;
     void PonerInforme(const std::string& texto) override;
     void MostrarResultados(const TextosResultados& textos) override;

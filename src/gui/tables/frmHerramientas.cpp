@@ -48,8 +48,14 @@ struct frmHerramientas::Puertos {
     CajaTextoQt txtAT, txtTinicial, txtTfinal;
     InterruptorQt optMol, optKg, optAire, optHumos;
     CajaElementoQt cboElemento;
-    ControlesHerramientas controles{txtAT, txtTinicial, txtTfinal, optMol,
-                                    optKg, optAire,     optHumos,  cboElemento};
+    ControlesHerramientas controles{.txtAT = txtAT,
+                                    .txtTinicial = txtTinicial,
+                                    .txtTfinal = txtTfinal,
+                                    .optMol = optMol,
+                                    .optKg = optKg,
+                                    .optAire = optAire,
+                                    .optHumos = optHumos,
+                                    .cboElemento = cboElemento};
 };
 
 frmHerramientas::frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas enlaces, QWidget* padre,
@@ -89,7 +95,7 @@ frmHerramientas::frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas e
     // The fluid is defined through these buttons only when the main window
     // shows them; TABLAS waits for a fluid.
     for (QPushButton* b : {cmdComburente_, cmdCombustible_, cmdCombustion_}) b->setVisible(false);
-    PonerBotones(true, false, false, false);
+    PonerBotones({.comburente = true, .combustible = false, .combustion = false, .tablas = false});
 
     // The range and the units.
     auto* rango = new QGridLayout;
@@ -151,42 +157,44 @@ void frmHerramientas::MostrarCicloActual() {
     show();
     raise();
     activateWindow();
-    MostrarBotonesTablas(false, false, false, true);
+    MostrarBotonesTablas({.comburente = false, .combustible = false, .combustion = false, .tablas = true});
     e_.TablaAireDisponible = Verdadero;
     e_.TablaHumosDisponible = Verdadero;
 }
 
-void frmHerramientas::MostrarBotonesTablas(bool a, bool, bool c, bool d) {
-    cmdComburente_->setVisible(a);
-    cmdCombustible_->setVisible(a);
-    cmdCombustion_->setVisible(c);
-    cmdTablas_->setEnabled(d);
+void frmHerramientas::MostrarBotonesTablas(const BotonesVisibles& b) {
+    cmdComburente_->setVisible(b.comburente);
+    cmdCombustible_->setVisible(b.comburente);
+    cmdCombustion_->setVisible(b.combustion);
+    cmdTablas_->setEnabled(b.tablas);
 }
 
-void frmHerramientas::PonerBotones(bool, bool combustible, bool combustion, bool tablas) {
-    cmdCombustible_->setEnabled(combustible);
-    cmdCombustion_->setEnabled(combustion);
-    cmdTablas_->setEnabled(tablas);
+void frmHerramientas::PonerBotones(const BotonesHabilitados& b) {
+    cmdCombustible_->setEnabled(b.combustible);
+    cmdCombustion_->setEnabled(b.combustion);
+    cmdTablas_->setEnabled(b.tablas);
 }
 
 void frmHerramientas::cmdComburente_Click() {
     e_.TablaAireDisponible = Verdadero;
     e_.TablaHumosDisponible = Falso;
-    PonerBotones(true, true, false, optAire_->isChecked());
+    PonerBotones(
+        {.comburente = true, .combustible = true, .combustion = false, .tablas = optAire_->isChecked()});
     if (enlaces_.comburente) enlaces_.comburente();
 }
 
 void frmHerramientas::cmdCombustible_Click() {
     e_.TablaAireDisponible = Verdadero;
     e_.TablaHumosDisponible = Falso;
-    PonerBotones(true, true, true, optAire_->isChecked());
+    PonerBotones(
+        {.comburente = true, .combustible = true, .combustion = true, .tablas = optAire_->isChecked()});
     if (enlaces_.combustible) enlaces_.combustible();
 }
 
 void frmHerramientas::cmdCombustion_Click() {
     e_.TablaAireDisponible = Verdadero;
     e_.TablaHumosDisponible = Verdadero;
-    PonerBotones(true, true, true, true);
+    PonerBotones({.comburente = true, .combustible = true, .combustion = true, .tablas = true});
     if (enlaces_.combustion) enlaces_.combustion();
 }
 

@@ -50,13 +50,20 @@ public:
     // current calculation, the definition buttons hidden, TABLAS enabled and
     // both fluids counted as defined.
     void MostrarCicloActual();
-    // Visible of cmdComburente and cmdCombustible = a, of cmdCombustion = c;
-    // Enabled of cmdTablas = d. The second is passed and ignored.
-    void MostrarBotonesTablas(bool a, bool sinUso, bool c, bool d);
+    // Which buttons that define the fluid are in view, and whether TABLAS may
+    // be pressed. The fuel's button goes with the comburent's; the fuel's flag
+    // is passed and has no effect.
+    struct BotonesVisibles {
+        bool comburente, combustible, combustion, tablas;
+    };
+    void MostrarBotonesTablas(const BotonesVisibles& b);
 
-    // Enabled of cmdCombustible, cmdCombustion and cmdTablas from the last
-    // three; the first has no effect.
-    void PonerBotones(bool comburente, bool combustible, bool combustion, bool tablas);
+    // Which buttons may be pressed: the fuel's, the combustion's and TABLAS.
+    // The comburent's flag is passed and has no effect.
+    struct BotonesHabilitados {
+        bool comburente, combustible, combustion, tablas;
+    };
+    void PonerBotones(const BotonesHabilitados& b);
 
     frmTablas* Tablas() const { return frmTablas_; }
     // Whether a table is being made now.
