@@ -9,7 +9,7 @@
 #include <QFileInfo>
 #include <clocale>
 
-#include "../tests/database/Banco.h"
+#include "tests/gui/database/Banco.h"
 
 using namespace vanta;
 

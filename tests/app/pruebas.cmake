@@ -1,1 +1,0 @@
-list(APPEND VANTA_CORE_TESTS ${CMAKE_CURRENT_LIST_DIR}/test_LineaComandos.cpp)

@@ -1,0 +1,311 @@
+// The file of the results database: made when missing, checked before it is
+// trusted, and never losing a record saved before, whatever happens to a save
+// (a full disk, a file that cannot be written, another Vanta holding it, a
+// program killed in the middle). Each failure is a message, never a crash.
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include "gui/database/ControlImagen.h"
+#include "tests/gui/database/Banco.h"
+#include "tests/gui/mainwindow/Pruebas.h"
+
+using namespace vanta;
+using namespace vanta::pruebas;
+
+namespace {
+
+QByteArray Leer(const QString& ruta) {
+    QFile f(ruta);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void Escribir(const QString& ruta, const QByteArray& datos) {
+    QFile f(ruta);
+    if (!f.open(QIODevice::WriteOnly) || f.write(datos) != datos.size())
+        qFatal("no se escribe %s", qPrintable(ruta));
+}
+
+// Runs SQL on a file of its own making.
+void Ejecutar(const QString& ruta, const QStringList& sentencias) {
+    Mirada m(ruta);
+    QSqlQuery q(QSqlDatabase::database(m.nombre, false));
+    for (const QString& s : sentencias)
+        if (!q.exec(s)) qFatal("%s", qPrintable(s));
+}
+
+// The other program, started on the file; its output waited for line by line.
+struct Ayudante {
+    QProcess p;
+    QString salida;
+    explicit Ayudante(const QStringList& argumentos) {
+        p.start(QStringLiteral(VANTA_AYUDANTE_BD), argumentos);
+        if (!p.waitForStarted()) qFatal("no arranca el ayudante");
+    }
+    ~Ayudante() {
+        if (p.state() != QProcess::NotRunning) {
+            p.kill();
+            p.waitForFinished();
+        }
+    }
+    bool Esperar(const QString& texto, int ms = 20000) {
+        QElapsedTimer reloj;
+        reloj.start();
+        while (!salida.contains(texto) && reloj.elapsed() < ms) {
+            p.waitForReadyRead(100);
+            salida += QString::fromUtf8(p.readAllStandardOutput());
+            if (p.state() == QProcess::NotRunning && !p.bytesAvailable()) break;
+        }
+        return salida.contains(texto);
+    }
+    void Matar() {
+        p.kill();
+        p.waitForFinished();
+        salida += QString::fromUtf8(p.readAllStandardOutput());
+    }
+    // The last record it said it had saved.
+    int UltimoGuardado() const {
+        const qsizetype i = salida.lastIndexOf(QStringLiteral("guardado "));
+        return i < 0 ? 0 : salida.mid(i + 9).section(QLatin1Char('\n'), 0, 0).toInt();
+    }
+};
+
+// Every record of the file reads whole; how many there are.
+int RegistrosLegibles(const QString& ruta) {
+    AlmacenResultados almacen(ruta);
+    if (!almacen.Abrir()) return -1;
+    const auto ids = almacen.Identificadores();
+    if (!ids) return -1;
+    for (qint64 id : *ids) {
+        const auto textos = almacen.LeerTextos(id);
+        const auto imagenes = almacen.LeerImagenes(id);
+        if (!textos || !imagenes || (*textos)[0].rfind("registro ", 0) != 0) return -1;
+        for (const QImage& i : *imagenes)
+            if (i.size() != QSize(400, 300)) return -1;
+    }
+    return static_cast<int>(ids->size());
+}
+
+std::string Abre(const QString& ruta, std::string_view causa) {
+    return bd::MsgNoSeAbre(ruta.toStdString(), causa);
+}
+
+}  // namespace
+
+class PruebaBaseDatos : public QObject {
+    Q_OBJECT
+
+private slots:
+    void creaElArchivoConSuMarcaSuTablaYSuDiario() {
+        Banco b;
+        QVERIFY(b.f->Cargar());
+        QVERIFY(b.dlg.mensajes.empty());
+        Mirada m(b.Ruta());
+        QCOMPARE(m.Valor(QStringLiteral("PRAGMA application_id")).toInt(), bd::kIdAplicacion);
+        QSqlQuery q(QSqlDatabase::database(m.nombre, false));
+        QVERIFY(q.exec(QStringLiteral("PRAGMA table_info(ResultadosGuardados)")));
+        QStringList columnas;
+        while (q.next()) columnas << q.value(1).toString() + QLatin1Char(' ') + q.value(2).toString();
+        QCOMPARE(columnas.size(), 68);
+        QCOMPARE(columnas.first(), QStringLiteral("Guardado como TEXT"));
+        QCOMPARE(columnas[60], QStringLiteral("Informe TEXT"));
+        QCOMPARE(columnas[64], QStringLiteral("imgDPV BLOB"));
+        // The store's own connection: rollback journal, full sync.
+        QSqlQuery propia(QSqlDatabase::database(b.f->Almacen()->NombreConexion(), false));
+        QVERIFY(propia.exec(QStringLiteral("PRAGMA journal_mode")) && propia.next());
+        QCOMPARE(propia.value(0).toString(), QStringLiteral("delete"));
+        QVERIFY(propia.exec(QStringLiteral("PRAGMA synchronous")) && propia.next());
+        QCOMPARE(propia.value(0).toInt(), 2);
+
+        // An empty file, as a creation cut short leaves it, is made anew.
+        Banco vacio;
+        Escribir(vacio.Ruta(), {});
+        QVERIFY(vacio.f->Cargar());
+        QCOMPARE(Mirada(vacio.Ruta()).Valor(QStringLiteral("PRAGMA application_id")).toInt(),
+                 bd::kIdAplicacion);
+    }
+
+    void unArchivoQueNoEsNuestroNoSeUsaNiSeToca() {
+        const Calculo& c = TresCiclos()[0];
+        struct Caso {
+            const char* nombre;
+            std::function<void(const QString&)> preparar;
+            std::string_view causa;
+        };
+        const std::string noEsBase = bd::CausaSQLite(26, "");
+        const Caso casos[] = {
+            {"basura", [](const QString& r) { Escribir(r, QByteArray(6000, '\x5a')); }, noEsBase},
+            {"otra base",
+             [](const QString& r) { Ejecutar(r, {QStringLiteral("CREATE TABLE Clientes (Nombre TEXT)")}); },
+             bd::kCausaNoEsDeVanta},
+            {"sin una columna",
+             [](const QString& r) {
+                 QString sql = QString::fromStdString(bd::SQLCrearTabla());
+                 sql.replace(QStringLiteral(", \"Fe\" TEXT"), QString());
+                 Ejecutar(r, {QStringLiteral("PRAGMA application_id = %1").arg(bd::kIdAplicacion), sql});
+             },
+             bd::kCausaSinColumnas},
+            {"carpeta", [](const QString& r) { QDir().mkdir(r); }, bd::kCausaEsCarpeta},
+        };
+        for (const Caso& caso : casos) {
+            Banco b;
+            caso.preparar(b.Ruta());
+            const QByteArray antes = Leer(b.Ruta());
+            b.dlg.respuestas = {"x"};
+            QVERIFY2(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f), caso.nombre);
+            QCOMPARE(b.Mensaje(), Abre(b.Ruta(), caso.causa));
+            QVERIFY(!b.f->isVisible());
+            b.f->MostrarNoModal();
+            QVERIFY(!b.f->isVisible());
+            QCOMPARE(b.dlg.mensajes.size(), size_t(2));
+            b.f.reset();
+            QVERIFY2(Leer(b.Ruta()) == antes, caso.nombre);
+        }
+    }
+
+    void unArchivoDanadoDaUnMensajeYNoSeCae() {
+        Banco b;
+        b.Agregar({"A", "B", "C"});
+        const qint64 pagina = Mirada(b.Ruta()).Valor(QStringLiteral("PRAGMA page_size")).toLongLong();
+        b.f.reset();
+        QByteArray datos = Leer(b.Ruta());
+        // Every page after the first, where the records live, overwritten.
+        for (qint64 i = pagina; i < datos.size(); ++i) datos[i] = static_cast<char>(i * 37);
+        Escribir(b.Ruta(), datos);
+
+        b.f = b.Nuevo();
+        QVERIFY(!b.f->Cargar());
+        QVERIFY(!b.Mensaje().empty());
+        const Calculo& c = TresCiclos()[0];
+        b.dlg.respuestas = {"x"};
+        QVERIFY(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QCOMPARE(b.dlg.mensajes.size(), size_t(2));
+        QVERIFY(Leer(b.Ruta()) == datos);
+    }
+
+    void conElDiscoLlenoNoSeGuardaYNoSePierdeNada() {
+        Banco b;
+        b.Agregar({"A", "B"});
+        QSqlQuery q(QSqlDatabase::database(b.f->Almacen()->NombreConexion(), false));
+        const int paginas = Mirada(b.Ruta()).Valor(QStringLiteral("PRAGMA page_count")).toInt();
+        QVERIFY(q.exec(QStringLiteral("PRAGMA max_page_count = %1").arg(paginas)));
+        const Calculo& c = TresCiclos()[1];
+        b.dlg.respuestas = {"no cabe"};
+        QVERIFY(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QCOMPARE(b.Mensaje(), bd::MsgNoSeGuarda(bd::CausaSQLite(13, "")));
+        QVERIFY(!b.f->isVisible());
+        QCOMPARE(b.f->RecordCount(), 2);
+        QCOMPARE(b.Texto("txtGuardarComo"), QStringLiteral("B"));
+        QCOMPARE(Mirada(b.Ruta()).Nombres(), (QStringList{"A", "B"}));
+        // With room again, the same connection saves.
+        QVERIFY(q.exec(QStringLiteral("PRAGMA max_page_count = 1000000")));
+        b.dlg.respuestas = {"cabe"};
+        QVERIFY(GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QCOMPARE(Mirada(b.Ruta()).Nombres(), (QStringList{"A", "B", "cabe"}));
+    }
+
+    void otraVantaQueTieneElArchivoNoLoPierdeNiCuelga() {
+        Banco b;
+        b.Agregar({"A"});
+        Ayudante otra({QStringLiteral("bloquear"), b.Ruta()});
+        QVERIFY(otra.Esperar(QStringLiteral("bloqueada")));
+        const std::string ocupada = bd::CausaSQLite(5, "");
+
+        QVERIFY(!b.f->AgregarRegistro(TextosDe("B"), {}));
+        QCOMPARE(b.Mensaje(), bd::MsgNoSeGuarda(ocupada));
+        QCOMPARE(b.f->RecordCount(), 1);
+        // A browser that opens meanwhile says so too.
+        auto segundo = b.Nuevo();
+        QVERIFY(!segundo->Cargar());
+        QCOMPARE(b.Mensaje(), Abre(b.Ruta(), ocupada));
+
+        otra.Matar();
+        QVERIFY(b.f->AgregarRegistro(TextosDe("B"), {}));
+        QVERIFY(segundo->Cargar());
+        QCOMPARE(segundo->RecordCount(), 2);
+    }
+
+    void sinPermisoDeEscrituraSoloHayUnMensaje() {
+        Banco b;
+        b.Agregar({"A"});
+        b.f.reset();
+        // The other program runs as an unprivileged user when this one is root.
+        QFile::setPermissions(b.carpeta.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                                    QFile::ReadOther | QFile::ExeOther | QFile::ReadGroup |
+                                                    QFile::ExeGroup);
+        QFile::setPermissions(b.Ruta(), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+        const QByteArray antes = Leer(b.Ruta());
+        Ayudante otra({QStringLiteral("sin-permisos"), b.Ruta()});
+        QVERIFY(otra.p.waitForFinished(20000));
+        otra.salida += QString::fromUtf8(otra.p.readAllStandardOutput());
+        QCOMPARE(otra.p.exitCode(), 1);
+        QCOMPARE(otra.salida.trimmed().toStdString(), bd::MsgNoSeGuarda(bd::CausaSQLite(8, "")));
+        QVERIFY(Leer(b.Ruta()) == antes);
+        QFile::setPermissions(b.Ruta(), QFile::ReadOwner | QFile::WriteOwner);
+    }
+
+    void unaVantaMatadaAMitadDeGuardarDejaLoAnteriorEntero() {
+        Banco b;
+        {
+            Ayudante otra(
+                {QStringLiteral("guardar"), b.Ruta(), QStringLiteral("3"), QStringLiteral("--parar")});
+            QVERIFY(otra.Esperar(QStringLiteral("a mitad")));
+            otra.Matar();
+        }
+        QVERIFY(b.f->Cargar());
+        QCOMPARE(b.f->RecordCount(), 3);
+        QCOMPARE(RegistrosLegibles(b.Ruta()), 3);
+        b.f->MoveLast();
+        QCOMPARE(b.Texto("txtGuardarComo"), QStringLiteral("registro 3"));
+        QCOMPARE(b.Texto("lblT1"), QStringLiteral("303"));
+
+        // Killed at any moment of a run of saves: every record it reported is
+        // there and whole, and at most the one in flight besides.
+        int total = 3;
+        for (int vuelta = 0; vuelta < 3; ++vuelta) {
+            Ayudante otra({QStringLiteral("guardar"), b.Ruta(), QStringLiteral("400")});
+            QVERIFY(otra.Esperar(QStringLiteral("guardado 2")));
+            QTest::qWait(QRandomGenerator::global()->bounded(10, 200));
+            otra.Matar();
+            const int dichos = otra.UltimoGuardado();
+            const int hay = RegistrosLegibles(b.Ruta());
+            QVERIFY2(hay == total + dichos || hay == total + dichos + 1,
+                     qPrintable(QStringLiteral("%1 registros, %2 dichos").arg(hay).arg(total + dichos)));
+            total = hay;
+        }
+        QVERIFY(b.f->AgregarRegistro(TextosDe("registro final"), {}));
+    }
+
+    void laRutaSeFijaAlPrimerUsoYLaLineaDeOrdenesGuardaSinVentana() {
+        Banco b;
+        QDir carpeta(b.carpeta.path());
+        carpeta.mkdir(QStringLiteral("otra"));
+        carpeta.mkdir(QStringLiteral("tercera"));
+        QDir::setCurrent(carpeta.filePath(QStringLiteral("otra")));
+        QVERIFY(b.f->Cargar());
+        QDir::setCurrent(carpeta.filePath(QStringLiteral("tercera")));
+        b.Agregar({"A"});
+        QCOMPARE(Mirada(carpeta.filePath(QStringLiteral("otra/BD.sqlite"))).Nombres(), QStringList{"A"});
+        QVERIFY(!QFile::exists(carpeta.filePath(QStringLiteral("tercera/BD.sqlite"))));
+
+        const Calculo& c = TresCiclos()[0];
+        QGuiApplication::clipboard()->setText(QStringLiteral("intacto"));
+        QVERIFY(
+            GuardarRegistro(c.e, "desde la línea de órdenes", c.combustible, c.informe, c.imagenes, b.dlg));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("intacto"));
+        auto otro = b.Nuevo();
+        QVERIFY(otro->Cargar());
+        QCOMPARE(Banco::Texto(*otro, "txtGuardarComo"), QStringLiteral("desde la línea de órdenes"));
+        QVERIFY(MismaImagen(otro->findChild<ControlImagen*>(QStringLiteral("imgDTV"))->Picture(),
+                            c.imagenes[static_cast<size_t>(CuadroImagen::pctTV)]));
+        QVERIFY(b.dlg.mensajes.empty());
+    }
+};
+
+static Registrar<PruebaBaseDatos> registro;
+
+#include "test_BaseDatos.moc"

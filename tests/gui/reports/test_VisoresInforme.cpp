@@ -1,0 +1,385 @@
+// The saved page with its bitmaps, the text report saved and read back, the
+// report windows and their printing, driven with answered dialogs.
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QImageReader>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <sstream>
+
+#include "app/LineaComandos.h"
+#include "gui/reports/PaginaWeb.h"
+#include "gui/reports/VisoresInforme.h"
+#include "gui/reports/frmInforme.h"
+#include "gui/reports/frmMostrar.h"
+#include "gui/services/SuperficieQt.h"
+#include "tests/gui/mainwindow/Programa.h"
+#include "tests/gui/mainwindow/Pruebas.h"
+
+using namespace vanta;
+
+namespace {
+
+// A cycle calculated as the command line does it, drawn on seven real
+// picture boxes of distinct sizes; the report is what the run printed.
+struct Calculo {
+    Estado e;
+    DialogosGrabados dlg;
+    SuperficieQt pct1, pct2, pct3, pctPV, pctTV, pctTS{nullptr, kFondoGris}, pctHS{nullptr, kFondoGris};
+    std::string informe;
+
+    Calculo() {
+        int i = 0;
+        for (SuperficieQt* s : Todas()) s->resize(180 + 10 * i, 120 + 7 * i), ++i;
+        GuardarColoresDiagramas(e);
+        cli::SuperficiesCalculo s{pct1, pct2, pct3, {pctPV, pctTV, pctTS, pctHS}};
+        std::ostringstream salida;
+        const auto o = cli::ParsearCalcular({});
+        if (!o.opciones || cli::EjecutarCalcular(e, *o.opciones, dlg, s, salida) != cli::kSalidaBien)
+            qFatal("el cálculo de prueba falla");
+        informe = salida.str();
+        while (!informe.empty() && (informe.back() == '\n' || informe.back() == '\r')) informe.pop_back();
+    }
+
+    std::array<SuperficieQt*, 7> Todas() { return {&pct1, &pct2, &pct3, &pctPV, &pctTV, &pctTS, &pctHS}; }
+
+    SuperficieQt& Cuadro(CuadroImagen c) { return *Todas()[static_cast<size_t>(c)]; }
+
+    FuentePagina Fuente() {
+        return {[] { return std::string("Gasolina"); },
+                [this](CuadroImagen c) { return Cuadro(c).Imagen(); }};
+    }
+};
+
+// The names between double quotes of the page's pictures.
+QStringList ImagenesDeLaPagina(const QByteArray& pagina) {
+    QStringList nombres;
+    static const QRegularExpression img(QStringLiteral("<IMG SRC = \"([^\"]+)\">"));
+    for (auto m = img.globalMatch(QString::fromUtf8(pagina)); m.hasNext();) nombres << m.next().captured(1);
+    return nombres;
+}
+
+QByteArray Leer(const QString& archivo) {
+    QFile f(archivo);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+QStringList Contenido(const QString& carpeta) {
+    return QDir(carpeta).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+// The text of a PDF, with its layout; empty when the tool is not there.
+QString TextoPdf(const QString& pdf) {
+    const QString herramienta = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+    if (herramienta.isEmpty()) return {};
+    QProcess p;
+    p.start(herramienta, {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+    p.waitForFinished(30000);
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+bool HayPdfToText() {
+    return !QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty();
+}
+
+QString Q(const std::string& s) {
+    return QString::fromStdString(s);
+}
+
+// The report as a box shows it.
+QString EnCaja(const std::string& informe) {
+    return Q(TextoEnCaja(informe));
+}
+
+}  // namespace
+
+class PruebaVisoresInforme : public QObject {
+    Q_OBJECT
+
+    Calculo c;
+    std::unique_ptr<QTemporaryDir> carpeta;
+    DialogosArchivoGrabados archivos;
+    std::unique_ptr<VisoresInforme> v;
+
+    QString Ruta(const QString& nombre) const { return carpeta->filePath(nombre); }
+    QString Carpeta() const { return carpeta->path(); }
+
+private slots:
+    void init() {
+        carpeta = std::make_unique<QTemporaryDir>();
+        archivos = DialogosArchivoGrabados();
+        c.dlg.mensajes.clear();
+        v = std::make_unique<VisoresInforme>(c.e, c.dlg, c.Fuente(), nullptr, &archivos);
+        v->PonerInformeTexto(c.informe);
+    }
+    void cleanup() {
+        v.reset();
+        carpeta.reset();
+    }
+
+    void laPaginaYSusSieteBitmapsQuedanJuntosYLaPaginaLosEncuentra() {
+        const QString carpeta = Ruta(QStringLiteral("nueva/carpeta"));
+        QVERIFY(EscribirPaginaEnCarpeta(carpeta, c.e, "Gasolina", ImagenesDe(c.Fuente().imagen)));
+
+        // The page: UTF-8 behind its mark, as built; nothing half-written left.
+        const QByteArray pagina = Leer(QDir(carpeta).filePath(QStringLiteral("Index.htm")));
+        QCOMPARE(pagina, QByteArray::fromStdString(BytesPagina(HTMLInforme(c.e, "Gasolina"))));
+        QVERIFY(pagina.contains("Presión ambiente"));
+        QCOMPARE(Contenido(carpeta).size(), 8);
+
+        // Every picture the page names is a file of that very name: a Windows
+        // bitmap of the picture box's size and picture.
+        const QStringList nombres = ImagenesDeLaPagina(pagina);
+        QCOMPARE(nombres.size(), 7);
+        for (size_t i = 0; i < kImagenesPagina.size(); ++i) {
+            const QString archivo = QDir(carpeta).filePath(nombres[static_cast<qsizetype>(i)]);
+            QVERIFY2(Contenido(carpeta).contains(nombres[static_cast<qsizetype>(i)]), qPrintable(archivo));
+            QImageReader lector(archivo);
+            QCOMPARE(lector.format(), QByteArray("bmp"));
+            const QImage leida = lector.read();
+            const QImage original = c.Cuadro(kImagenesPagina[i].cuadro).Imagen();
+            QCOMPARE(leida.size(), original.size());
+            QCOMPARE(leida.convertToFormat(QImage::Format_RGB32),
+                     original.convertToFormat(QImage::Format_RGB32));
+        }
+        QVERIFY(pruebas::Dibujada(&c.pctPV));
+
+        // A box with no picture still gives the page a picture to show.
+        ImagenesPagina vacias;
+        QVERIFY(EscribirImagenesPagina(carpeta, vacias));
+        QCOMPARE(QImage(ArchivoImagenEn(carpeta, kImagenesPagina[0])).size(), QSize(1, 1));
+        QCOMPARE(Contenido(carpeta).size(), 8);
+
+        // A folder that cannot be made, a page that cannot be written.
+        QFile(Ruta(QStringLiteral("archivo"))).open(QIODevice::WriteOnly);
+        QVERIFY(!EscribirPaginaEnCarpeta(Ruta(QStringLiteral("archivo/sub")), c.e, "Gasolina", vacias));
+        QVERIFY(!EscribirPaginaWeb(Ruta(QStringLiteral("falta/Index.htm")), "x", vacias));
+        QVERIFY(!QDir(Ruta(QStringLiteral("falta"))).exists());
+    }
+
+    void guardarComoPaginaAconsejaPreguntaYEscribeElEstadoDeAhora() {
+        const QString primera = Ruta(QStringLiteral("Index.htm"));
+        archivos.respuestas << primera;
+        v->GuardarPaginaWeb(nullptr, kDialogoPaginaPrincipal);
+        QCOMPARE(c.dlg.mensajes, std::vector<std::string>{std::string(kConsejoCarpetaNueva)});
+        QCOMPARE(archivos.pedidos.size(), size_t{1});
+        QCOMPARE(archivos.pedidos[0].nombre, std::string_view("Index"));
+        QCOMPARE(archivos.pedidos[0].filtro, kFiltroPagina);
+        QCOMPARE(v->ArchivoPagina(), primera);
+        QCOMPARE(Leer(primera), QByteArray::fromStdString(BytesPagina(v->rthHTML())));
+        QCOMPARE(Contenido(Carpeta()).size(), 8);
+
+        // From the report window: its own default name; the page shows the
+        // state as it stands now, and the pictures as the boxes stand now,
+        // over those of the former page.
+        c.e.TipoCiclo = "Diesel";
+        c.pctPV.Cls();
+        archivos.respuestas << Ruta(QStringLiteral("Ciclo.htm"));
+        pruebas::Hijo<QAction>(v->Informe(), "mnuHTML")->trigger();
+        QCOMPARE(archivos.pedidos.back().nombre, std::string_view("Ciclo"));
+        QVERIFY(Leer(Ruta(QStringLiteral("Ciclo.htm"))).contains("CICLO: Diesel"));
+        QCOMPARE(c.dlg.mensajes.size(), size_t{2});
+        QCOMPARE(Contenido(Carpeta()).size(), 9);
+        QVERIFY(!pruebas::Dibujada(&c.pctPV));
+        QCOMPARE(QImage(ArchivoImagenEn(Carpeta(), kImagenesPagina[3])).convertToFormat(QImage::Format_RGB32),
+                 c.pctPV.Imagen().convertToFormat(QImage::Format_RGB32));
+    }
+
+    void cancelarNoEscribeNadaYUnFalloTerminaSinDecirNada() {
+        v->GuardarPaginaWeb(nullptr, kDialogoPaginaPrincipal);
+        v->GuardarTexto(nullptr);
+        QCOMPARE(archivos.pedidos.size(), size_t{2});
+        QCOMPARE(c.dlg.mensajes.size(), size_t{1});  // the advice comes before the dialog
+        QVERIFY(Contenido(Carpeta()).isEmpty());
+
+        archivos.respuestas << Ruta(QStringLiteral("falta/Index.htm")) << Ruta(QStringLiteral("falta/a.txt"))
+                            << Carpeta();
+        v->GuardarPaginaWeb(nullptr, kDialogoPaginaPrincipal);
+        v->GuardarTexto(nullptr);
+        v->GuardarTexto(nullptr);  // a folder for a name
+        QCOMPARE(c.dlg.mensajes.size(), size_t{2});
+        QVERIFY(v->ArchivoPagina().isEmpty());
+        QVERIFY(Contenido(Carpeta()).isEmpty());
+        QVERIFY(QDir(Carpeta()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).isEmpty());
+    }
+
+    void elTextoGuardadoSinAbrirLaVentanaSeReabreIgualEnMostrar() {
+        // The report of the last calculation, whatever the filter names.
+        const QString rtf = Ruta(QStringLiteral("informe.rtf"));
+        archivos.respuestas << rtf;
+        v->GuardarTexto(nullptr);
+        QCOMPARE(archivos.pedidos[0].filtro, kFiltroTexto);
+        const QByteArray bytes = Leer(rtf);
+        QCOMPARE(bytes, QByteArray::fromStdString(c.informe));
+        QCOMPARE(bytes.count("\r\n"), bytes.count('\n'));
+        QVERIFY(bytes.count("\r\n") > 50);
+
+        frmMostrar* m = v->Mostrar();
+        v->AbrirInforme();
+        QVERIFY(m->isVisible());
+        QCOMPARE(m->windowTitle(), QStringLiteral("Abre informes"));
+        QVERIFY(!m->isModal());
+        QAction* imprimir = pruebas::Hijo<QAction>(m, "mnuImprimir");
+        QVERIFY(!imprimir->isEnabled());
+        QVERIFY(!m->rtfMostrar()->isVisible());
+
+        archivos.respuestas << rtf;
+        QTest::mouseClick(pruebas::Hijo<QPushButton>(m, "cmdAbriTexto"), Qt::LeftButton);
+        QCOMPARE(archivos.pedidos.back().filtro, kFiltroTextoMostrar);
+        QCOMPARE(archivos.pedidos.back().indiceFiltro, 5);
+        QVERIFY(m->rtfMostrar()->isVisible());
+        QCOMPARE(m->rtfMostrar()->toPlainText(), EnCaja(c.informe));
+        QVERIFY(imprimir->isEnabled());
+
+        // A page goes to the browser; the text stays and printing goes.
+        archivos.respuestas << Ruta(QStringLiteral("Index.htm"));
+        QTest::mouseClick(pruebas::Hijo<QPushButton>(m, "cmdIE"), Qt::LeftButton);
+        QCOMPARE(archivos.pedidos.back().filtro, kFiltroPagina);
+        QCOMPARE(archivos.paginas.size(), size_t{1});
+        QCOMPARE(archivos.paginas[0], QUrl::fromLocalFile(Ruta(QStringLiteral("Index.htm"))));
+        QVERIFY(!imprimir->isEnabled());
+        QCOMPARE(m->rtfMostrar()->toPlainText(), EnCaja(c.informe));
+
+        // A report in the old 8-bit code page; then a cancel and a file that
+        // is not there leave the box and the menu as they were; so does a
+        // browser that does not open.
+        QFile antiguo(Ruta(QStringLiteral("antiguo.txt")));
+        QVERIFY(antiguo.open(QIODevice::WriteOnly));
+        antiguo.write(
+            "Presi\xF3n ambiente\r\nT = 26.85 \xBA"
+            "C");
+        antiguo.close();
+        archivos.respuestas << antiguo.fileName();
+        pruebas::Hijo<QAction>(m, "mnuAbrirTexto")->trigger();
+        QCOMPARE(m->rtfMostrar()->toPlainText(), QStringLiteral("Presión ambiente\nT = 26.85 ºC"));
+        pruebas::Hijo<QAction>(m, "mnuAbrirTexto")->trigger();
+        archivos.respuestas << Ruta(QStringLiteral("falta.txt"));
+        pruebas::Hijo<QAction>(m, "mnuAbrirTexto")->trigger();
+        archivos.navegadorDisponible = false;
+        archivos.respuestas << Ruta(QStringLiteral("Index.htm"));
+        pruebas::Hijo<QAction>(m, "mnuAbrirWeb")->trigger();
+        QCOMPARE(m->rtfMostrar()->toPlainText(), QStringLiteral("Presión ambiente\nT = 26.85 ºC"));
+        QVERIFY(imprimir->isEnabled());
+    }
+
+    void laVentanaAbiertaMuestraLoAnteriorYGuardaLoUltimoCalculado() {
+        v->VerInforme("uno\r\ndos");
+        frmInforme* f = v->Informe();
+        QVERIFY(f->isVisible());
+        QVERIFY(!f->isModal());
+        QCOMPARE(f->windowTitle(), QStringLiteral("Informe"));
+        QCOMPARE(f->txtInforme()->toPlainText(), QStringLiteral("uno\ndos"));
+        const QFontMetrics medidas(f->txtInforme()->font());
+        QCOMPARE(medidas.horizontalAdvance(QLatin1Char('i')), medidas.horizontalAdvance(QLatin1Char('W')));
+        QCOMPARE(v->rthInforme(), std::string("uno\r\ndos"));
+
+        // A new calculation: the buffer changes, the window does not.
+        v->PonerInformeTexto(c.informe);
+        QCOMPARE(f->txtInforme()->toPlainText(), QStringLiteral("uno\ndos"));
+        archivos.respuestas << Ruta(QStringLiteral("informe.txt"));
+        pruebas::Hijo<QAction>(f, "cmdGuardar")->trigger();
+        QCOMPARE(Leer(Ruta(QStringLiteral("informe.txt"))), QByteArray::fromStdString(c.informe));
+
+        // Shown again: the window takes the report; one window all along.
+        v->VerInforme(c.informe);
+        QCOMPARE(v->Informe(), f);
+        QCOMPARE(f->txtInforme()->toPlainText(), EnCaja(c.informe));
+    }
+
+    void imprimirDaElInformeEnteroOLaSeleccionYCancelarNada() {
+        v->VerInforme(c.informe);
+        frmInforme* f = v->Informe();
+        QAction* imprimir = pruebas::Hijo<QAction>(f, "mnuImprimir");
+
+        archivos.pdf = Ruta(QStringLiteral("todo.pdf"));
+        imprimir->trigger();
+        QVERIFY(QFile::exists(archivos.pdf));
+        if (HayPdfToText()) {
+            const QString texto = TextoPdf(archivos.pdf);
+            QVERIFY(texto.contains(QStringLiteral("CICLO: Otto")));
+            QVERIFY(texto.contains(QStringLiteral("RENDIMIENTO")));
+            // The widest lines keep their columns on one line of paper.
+            static const QRegularExpression estado1(QStringLiteral("p1 =.*V1 =.*T 1 =.*ºC\\)"));
+            QVERIFY2(texto.contains(estado1), qPrintable(texto.left(3000)));
+        }
+
+        // A selection in the box prints alone.
+        QTextCursor cursor = f->txtInforme()->document()->find(QStringLiteral("Presión ambiente"));
+        cursor.movePosition(QTextCursor::EndOfLine, QTextCursor::KeepAnchor);
+        f->txtInforme()->setTextCursor(cursor);
+        archivos.pdf = Ruta(QStringLiteral("seleccion.pdf"));
+        imprimir->trigger();
+        QVERIFY(QFile::exists(archivos.pdf));
+        if (HayPdfToText()) {
+            const QString texto = TextoPdf(archivos.pdf);
+            static const QRegularExpression linea(QStringLiteral("Presión ambiente +=  +100 000 Pa"));
+            QVERIFY(texto.contains(linea));
+            QVERIFY(!texto.contains(QStringLiteral("CICLO")));
+        }
+
+        // frmMostrar prints what it opened.
+        QFile guardado(Ruta(QStringLiteral("guardado.txt")));
+        QVERIFY(guardado.open(QIODevice::WriteOnly));
+        guardado.write("Un informe guardado\r\ncon dos líneas");
+        guardado.close();
+        archivos.respuestas << guardado.fileName();
+        frmMostrar* m = v->Mostrar();
+        m->cmdAbriTexto_Click();
+        archivos.pdf = Ruta(QStringLiteral("mostrar.pdf"));
+        pruebas::Hijo<QAction>(m, "mnuImprimir")->trigger();
+        if (HayPdfToText()) QVERIFY(TextoPdf(archivos.pdf).contains(QStringLiteral("con dos líneas")));
+
+        // A cancelled printer dialog prints nothing.
+        archivos.pdf.clear();
+        const int antes = archivos.impresoras;
+        imprimir->trigger();
+        pruebas::Hijo<QAction>(m, "mnuImprimir")->trigger();
+        QCOMPARE(archivos.impresoras, antes + 2);
+        QCOMPARE(Contenido(Carpeta()).size(), 4);
+    }
+
+    void elPunteroAjustaLaCajaALaVentana() {
+        v->VerInforme(c.informe);
+        v->AbrirInforme();
+        frmMostrar* m = v->Mostrar();
+        m->cmdAbriTexto_Click();  // cancelled: the box shows all the same
+
+        struct Caso {
+            QMainWindow* ventana;
+            QWidget* caja;
+            double alto, ancho;
+        };
+        for (const Caso& caso :
+             {Caso{v->Informe(), v->Informe()->txtInforme(), kAjusteInforme, kAjusteInforme},
+              Caso{m, m->rtfMostrar(), kAjusteMostrarAlto, kAjusteMostrarAncho}}) {
+            QVERIFY(QTest::qWaitForWindowExposed(caso.ventana));
+            caso.ventana->resize(520, 430);
+            QTest::qWait(20);
+            QWidget* interior = caso.ventana->centralWidget();
+            // No resize handler: the box keeps its size until the pointer moves.
+            QVERIFY(caso.caja->width() != qRound(interior->width() * caso.ancho));
+            QTest::mouseMove(caso.ventana->windowHandle(),
+                             interior->mapTo(caso.ventana, QPoint(2, interior->height() - 2)));
+            QTRY_COMPARE(caso.caja->size(), QSize(qRound(interior->width() * caso.ancho),
+                                                  qRound(interior->height() * caso.alto)));
+
+            caso.ventana->resize(700, 500);
+            QTest::qWait(20);
+            QTest::mouseMove(caso.ventana->windowHandle(),
+                             caso.caja->mapTo(caso.ventana, caso.caja->rect().center()));
+            QTRY_COMPARE(caso.caja->size(), QSize(qRound(interior->width() * caso.ancho),
+                                                  qRound(interior->height() * caso.alto)));
+            QVERIFY(interior->rect().contains(caso.caja->geometry().topLeft()));
+        }
+    }
+};
+
+static pruebas::Registrar<PruebaVisoresInforme> registro;
+
+#include "test_VisoresInforme.moc"
