@@ -19,7 +19,7 @@ Estado FluidoPorDefecto() {
     DialogosGrabados dlg;
     SuperficieNula a, b, c;
     DiagramasNulos d;
-    cli::SuperficiesCalculo s{a, b, c, d.Todos()};
+    SuperficiesCalculo s{a, b, c, d.Todos()};
     std::ostringstream out;
     cli::EjecutarCalcular(e, *cli::ParsearCalcular({}).opciones, dlg, s, out);
     return e;

@@ -38,8 +38,8 @@ QApplication& Aplicacion() {
 void FluidoDeLasPantallas(Estado& e, Dialogos& dlg) {
     SuperficieNula pct1, pct2, pct3;
     DiagramasNulos d;
-    cli::SuperficiesCalculo s{pct1, pct2, pct3, d.Todos()};
-    cli::DefinirFluido(e, *cli::ParsearCalcular({}).opciones, dlg, s, true);
+    SuperficiesCalculo s{pct1, pct2, pct3, d.Todos()};
+    DefinirFluido(e, *cli::ParsearCalcular({}).opciones, dlg, s, true);
 }
 
 constexpr int kFilas = 47001;

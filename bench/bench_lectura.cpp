@@ -17,7 +17,7 @@ Estado Calculado(const char* modelo) {
     DialogosGrabados dlg;
     SuperficieNula a, b, c;
     DiagramasNulos d;
-    cli::SuperficiesCalculo s{a, b, c, d.Todos()};
+    SuperficiesCalculo s{a, b, c, d.Todos()};
     std::ostringstream out;
     cli::EjecutarCalcular(e, *cli::ParsearCalcular({"--compresion", modelo, "--expansion", modelo}).opciones,
                           dlg, s, out);

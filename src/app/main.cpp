@@ -38,9 +38,8 @@ int Calcular(const std::vector<std::string>& argumentos) {
     GuardarColoresDiagramas(e);
     DialogosConsola dlg;
     if (o.html.empty() && o.guardar.empty()) {
-        SuperficieNula pct1, pct2, pct3;
-        DiagramasNulos diagramas;
-        cli::SuperficiesCalculo s{pct1, pct2, pct3, diagramas.Todos()};
+        SuperficiesNulas nulas;
+        SuperficiesCalculo s = nulas.Todas();
         return cli::EjecutarCalcular(e, o, dlg, s, std::cout);
     }
     // The pictures are drawn offscreen, at the sizes of the main window's
@@ -53,11 +52,11 @@ int Calcular(const std::vector<std::string>& argumentos) {
     QGuiApplication aplicacion(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
     SuperficiesSinVentana cajas;
-    cli::SuperficiesCalculo s{cajas.pct1, cajas.pct2, cajas.pct3, cajas.diagramas()};
+    SuperficiesCalculo s{cajas.pct1, cajas.pct2, cajas.pct3, cajas.diagramas()};
     std::string informe;
     const int salida = cli::EjecutarCalcular(e, o, dlg, s, std::cout, informe);
     if (salida != cli::kSalidaBien) return salida;
-    const std::string tipo = cli::TextoListaCombustible(o);
+    const std::string tipo = TextoListaCombustible(o);
     const std::array<QImage, 7> imagenes = cajas.Imagenes();
     if (!o.html.empty()) {
         const QString carpeta = QString::fromStdString(o.html);

@@ -26,7 +26,7 @@ struct Calculo {
     Calculo& Ejecutar(std::vector<std::string> opciones) {
         const cli::Parseo p = cli::ParsearCalcular(opciones);
         EXPECT_TRUE(p.opciones) << p.error;
-        cli::SuperficiesCalculo s{pct1, pct2, pct3, Diagramas{pv, tv, ts, hs}};
+        SuperficiesCalculo s{pct1, pct2, pct3, Diagramas{pv, tv, ts, hs}};
         std::ostringstream out;
         estado = cli::EjecutarCalcular(e, *p.opciones, dlg, s, out);
         salida = out.str();

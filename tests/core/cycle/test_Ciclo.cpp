@@ -246,7 +246,7 @@ TEST(CalcularCicloTest, AbsurdInputsGetAClearMessageAndNoNaN) {
         EXPECT_EQ(c.estado, 1) << caso[1];
         EXPECT_FALSE(c.dlg.mensajes.empty()) << caso[1];
         EXPECT_EQ(c.e.ErrorCalculo, Verdadero);
-        const std::string json = cli::EstadoJSON(c.e);
+        const std::string json = EstadoJSON(c.e);
         EXPECT_EQ(json.find("null"), std::string::npos) << caso[1] << json;
     }
 }

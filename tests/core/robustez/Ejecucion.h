@@ -35,7 +35,7 @@ struct Ejecucion {
         }
         for (SuperficieVigilada* s : {&pct1, &pct2, &pct3, &pv, &tv, &ts, &hs}) s->Reiniciar();
         dlg.mensajes.clear();
-        cli::SuperficiesCalculo s{pct1, pct2, pct3, Diagramas{pv, tv, ts, hs}};
+        SuperficiesCalculo s{pct1, pct2, pct3, Diagramas{pv, tv, ts, hs}};
         std::ostringstream out;
         vigilante.Empezar(descripcion);
         estado = cli::EjecutarCalcular(e, *p.opciones, dlg, s, out);

@@ -212,7 +212,7 @@ std::vector<std::string> Ejecutar(Estado& e, const std::vector<std::string>& arg
     }
     DialogosGrabados dlg;
     SuperficieVigilada pct1, pct2, pct3, pv(false), tv(false), ts(false), hs(false);
-    cli::SuperficiesCalculo s{pct1, pct2, pct3, Diagramas{pv, tv, ts, hs}};
+    SuperficiesCalculo s{pct1, pct2, pct3, Diagramas{pv, tv, ts, hs}};
     std::ostringstream out;
     const int estado = cli::EjecutarCalcular(e, *p.opciones, dlg, s, out);
     // What was printed, less the line that shows the speed as it was typed;
@@ -247,7 +247,7 @@ std::vector<std::string> Ejecutar(Estado& e, const std::vector<std::string>& arg
         if (e.ErrorCalculo && !conPotencia) fallos.push_back("estado 0 con ErrorCalculo puesto");
         if (salida.empty()) fallos.push_back("estado 0 sin informe");
         if (std::string d = DefectoDeTexto(salida); !d.empty()) fallos.push_back("informe con " + d);
-        const std::string tipo = cli::TextoListaCombustible(*p.opciones);
+        const std::string tipo = TextoListaCombustible(*p.opciones);
         if (std::string d = DefectoDeTexto(HTMLInforme(e, tipo)); !d.empty())
             fallos.push_back("página con " + d);
         const TextosResultados t = TextosDeResultados(e);

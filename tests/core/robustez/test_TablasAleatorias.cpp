@@ -97,8 +97,8 @@ std::vector<std::string> Ejecutar(const CasoTablas& c, int& enteras) {
     SuperficieVigilada pct1, pct2, pct3, pv, tv, ts, hs;
     if (!c.fluido.empty()) {
         const cli::Parseo p = cli::ParsearCalcular(c.fluido);
-        cli::SuperficiesCalculo s{pct1, pct2, pct3, Diagramas{pv, tv, ts, hs}};
-        if (!p.opciones || !cli::DefinirFluido(e, *p.opciones, dlg, s, true)) {
+        SuperficiesCalculo s{pct1, pct2, pct3, Diagramas{pv, tv, ts, hs}};
+        if (!p.opciones || !DefinirFluido(e, *p.opciones, dlg, s, true)) {
             fallos.push_back("el fluido no se pudo definir");
             return fallos;
         }

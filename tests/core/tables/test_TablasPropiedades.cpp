@@ -48,8 +48,8 @@ struct Herramienta {
     void FluidoDeLasPantallas() {
         SuperficieNula pct1, pct2, pct3;
         DiagramasNulos d;
-        cli::SuperficiesCalculo s{pct1, pct2, pct3, d.Todos()};
-        ASSERT_TRUE(cli::DefinirFluido(e, *cli::ParsearCalcular({}).opciones, dlg, s, true));
+        SuperficiesCalculo s{pct1, pct2, pct3, d.Todos()};
+        ASSERT_TRUE(DefinirFluido(e, *cli::ParsearCalcular({}).opciones, dlg, s, true));
     }
 
     bool Mezcla() { return cmdTablas_Click(e, dlg, c, m, v, "Gasolina"); }

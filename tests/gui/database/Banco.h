@@ -39,7 +39,7 @@ inline Calculo Calcular(const std::vector<std::string>& argumentos) {
     for (SuperficieQt* s : {&pct1, &pct2, &pct3}) s->resize(280, 200);
     for (SuperficieQt* s : {&pv, &tv, &ts, &hs}) s->resize(420, 320);
     DialogosGrabados dlg;
-    cli::SuperficiesCalculo superficies{pct1, pct2, pct3, {pv, tv, ts, hs}};
+    SuperficiesCalculo superficies{pct1, pct2, pct3, {pv, tv, ts, hs}};
     const cli::Parseo p = cli::ParsearCalcular(argumentos);
     if (!p.opciones) qFatal("opciones: %s", p.error.c_str());
     std::ostringstream salida;

@@ -38,7 +38,7 @@ struct Calculo {
         int i = 0;
         for (SuperficieQt* s : Todas()) s->resize(180 + 10 * i, 120 + 7 * i), ++i;
         GuardarColoresDiagramas(e);
-        cli::SuperficiesCalculo s{pct1, pct2, pct3, {pctPV, pctTV, pctTS, pctHS}};
+        SuperficiesCalculo s{pct1, pct2, pct3, {pctPV, pctTV, pctTS, pctHS}};
         std::ostringstream salida;
         const auto o = cli::ParsearCalcular({});
         if (!o.opciones || cli::EjecutarCalcular(e, *o.opciones, dlg, s, salida) != cli::kSalidaBien)

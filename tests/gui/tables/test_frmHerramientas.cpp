@@ -60,8 +60,8 @@ struct Herramienta {
     void Fluido() {
         SuperficieNula pct1, pct2, pct3;
         DiagramasNulos d;
-        cli::SuperficiesCalculo s{pct1, pct2, pct3, d.Todos()};
-        if (!cli::DefinirFluido(e, *cli::ParsearCalcular({}).opciones, dlg, s, true)) qFatal("fluido");
+        SuperficiesCalculo s{pct1, pct2, pct3, d.Todos()};
+        if (!DefinirFluido(e, *cli::ParsearCalcular({}).opciones, dlg, s, true)) qFatal("fluido");
     }
 
     // The text the core makes from the same state and boxes.
