@@ -48,6 +48,10 @@ const Caso kCasos[] = {
     {"coma", {"--ciclo", "Diesel", "--humedad", "47,5", "--fr", "0,7", "--rc", "16,5"}, ','},
 };
 
+void PrintTo(const Caso& c, std::ostream* os) {
+    *os << c.nombre;
+}
+
 class Calculos : public ::testing::TestWithParam<Caso> {};
 
 }  // namespace
