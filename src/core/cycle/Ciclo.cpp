@@ -405,11 +405,11 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     e.W45acumulado = 0;
     LeerEntradas(e, dlg, c);
     ComprobarEntradas(e, dlg, c);
-    if (!e.ErrorCalculo) MasasYVolumenes(e, dlg);
-    if (!e.ErrorCalculo) {
-        EstadoUno(e, dlg);
-        ActualizarMaximos(e);
-    }
+    // A refused text does not stop the steps up to state 1: the first test of
+    // the flag comes after them (the maxima take p1 and T1 all the same).
+    MasasYVolumenes(e, dlg);
+    EstadoUno(e, dlg);
+    ActualizarMaximos(e);
     if (e.ErrorCalculo) return;
 
     // First pass: no drawing; finds the maxima of states 1 to 4.

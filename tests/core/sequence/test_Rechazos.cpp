@@ -4,6 +4,8 @@
 // golden file. A refused run leaves no number that is not finite.
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "tests/Dorados.h"
 #include "tests/core/Calculos.h"
 
@@ -78,6 +80,7 @@ const std::vector<std::vector<std::string>> kFilas = {
     {"--rc", "300"},
     {"--rc", "60", "--temperatura-ambiente", "1500"},
     {"--ciclo", "Diesel", "--t1", "4000"},
+    {"--t1", "2500"},
     {"--compresion", "politropica", "--n-compresion", "1e300"},
 };
 
@@ -88,7 +91,11 @@ std::string Fila(const std::vector<std::string>& opciones) {
     s += c->bien ? "-> bien\n" : "-> falla\n";
     for (const std::string& m : c->dlg.mensajes) s += "  " + m + "\n";
     for (const std::string& v : NoFinitas(c->e)) s += "  NO FINITA: " + v + "\n";
-    return s;
+    // Where a refused run leaves the record and the maxima.
+    char b[200];
+    std::snprintf(b, sizeof b, "  T=%.17g p=%.17g x=%.17g pmax=%.9g Tmax=%.9g\n", c->e.Temperatura, c->e.Presion,
+                  c->e.FraccionQuemada, c->e.PresionMaxima, c->e.TemperaturaMaxima);
+    return c->bien ? s : s + b;
 }
 
 }  // namespace
