@@ -482,13 +482,13 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     if (c.chkOcultar.Value()) c.ventana.Hide();
 }
 
-void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPotencia,
+void txtRpm_Change(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm, CajaTexto& txtPotencia,
                    CajaTexto& txtPotenciaCV) {
     if (txtRpm.Text().empty()) return;
     double rpm = 0;
     ValidarNumero(e, dlg, txtRpm, rpm, " rpm ");
     // One power stroke in two revolutions.
-    const double potencia = e.Wciclo * rpm * 0.5 / 60;
+    const double potencia = Wciclo * rpm * 0.5 / 60;
     if (!std::isfinite(potencia)) return FalloAritmetico(e, dlg, kCausaPotencia);
     txtPotencia.SetText(Format(Round(potencia, 1), kMascaraPotencia, e.SeparadorDecimal));
     txtPotenciaCV.SetText(Format(Round(potencia / kVatiosCV, 1), kMascaraPotencia, e.SeparadorDecimal));

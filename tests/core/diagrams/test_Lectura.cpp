@@ -107,7 +107,7 @@ TEST(Lectura, LasCifrasDelCierreNoCambianConLosMovimientos) {
     auto potencia = [&e] {
         CajaTextoSimple rpm("3000"), w, cv;
         DialogosGrabados dlg;
-        txtRpm_Change(e, dlg, rpm, w, cv);
+        txtRpm_Change(e, dlg, e.Wciclo, rpm, w, cv);
         return w.Text() + " / " + cv.Text();
     };
     const std::string antes = potencia();

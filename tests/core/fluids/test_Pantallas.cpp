@@ -189,7 +189,7 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
     for (const char* t : {"3000", "", "rpm", "-1200", "1e306"}) {
         CajaTextoSimple rpm(t), w("antes"), cv("antes");
         e.ErrorCalculo = Falso;
-        txtRpm_Change(e, r.dlg, rpm, w, cv);
+        txtRpm_Change(e, r.dlg, e.Wciclo, rpm, w, cv);
         r(std::string("txtRpm_Change ") + t, {{"W", w.Text()}, {"CV", cv.Text()}});
     }
     EXPECT_EQ(CompararDorado("pantallas.txt", r.s), "");

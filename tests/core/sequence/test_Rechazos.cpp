@@ -93,8 +93,8 @@ std::string Fila(const std::vector<std::string>& opciones) {
     for (const std::string& v : NoFinitas(c->e)) s += "  NO FINITA: " + v + "\n";
     // Where a refused run leaves the record and the maxima.
     char b[200];
-    std::snprintf(b, sizeof b, "  T=%.17g p=%.17g x=%.17g pmax=%.9g Tmax=%.9g\n", c->e.Temperatura, c->e.Presion,
-                  c->e.FraccionQuemada, c->e.PresionMaxima, c->e.TemperaturaMaxima);
+    std::snprintf(b, sizeof b, "  T=%.17g p=%.17g x=%.17g pmax=%.9g Tmax=%.9g\n", c->e.Temperatura,
+                  c->e.Presion, c->e.FraccionQuemada, c->e.PresionMaxima, c->e.TemperaturaMaxima);
     return c->bien ? s : s + b;
 }
 

@@ -79,6 +79,34 @@ std::string Hacer(const Tabla& t) {
 
 }  // namespace
 
+TEST(Tablas, UnaTablaRechazadaNoCallaLaSiguiente) {
+    Estado e;
+    DialogosGrabados dlg;
+    SuperficiesNulas nulas;
+    SuperficiesCalculo s = nulas.Todas();
+    ASSERT_TRUE(DefinirFluido(e, Opciones({}), dlg, s, false));
+    CajaTextoSimple at("100"), ti("300"), tf("5000"), cbo("Elegir");
+    InterruptorSimple mol(true), kg(false), aire(true), gases(false);
+    ControlesHerramientas c{.txtAT = at,
+                            .txtTinicial = ti,
+                            .txtTfinal = tf,
+                            .optMol = mol,
+                            .optKg = kg,
+                            .optAire = aire,
+                            .optHumos = gases,
+                            .cboElemento = cbo};
+    MiembrosHerramientas m;
+    VisorTablasTexto v;
+    tf.SetText("5OOO");  // a typo: letters O
+    EXPECT_FALSE(cmdTablas_Click(e, dlg, c, m, v, "Gasolina"));
+    tf.SetText("700");
+    EXPECT_TRUE(cmdTablas_Click(e, dlg, c, m, v, "Gasolina"));
+    // The figures of 700 K and of 600 K differ: none is a stale copy.
+    const auto filas = Lineas(v.texto);
+    ASSERT_GE(filas.size(), 4u);
+    EXPECT_NE(filas[filas.size() - 2].substr(18), filas[filas.size() - 4].substr(18));
+}
+
 TEST(Tablas, CadaTablaContraSuArchivo) {
     std::string s;
     for (const Tabla& t : kTablas) s += Hacer(t);

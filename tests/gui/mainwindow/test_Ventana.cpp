@@ -176,12 +176,20 @@ private slots:
             QVERIFY(!p.Etiqueta("lblSmouseVal").isEmpty());
         }
         p.Menu("mnuVerTodo")->trigger();
+        // A calculation that fails leaves the figures of the last one on
+        // screen, and the power follows them, not the work the failure left.
+        const double wciclo = p.e.Wciclo;
+        QVERIFY(p.AbrirCiclo("imgDiesel"));
+        Hijo<QLineEdit>(p.f.Otto_Diesel(), "txtRc")->setText(QStringLiteral("2"));
+        QVERIFY(p.Calcular());
+        QVERIFY(p.e.ErrorCalculo && p.e.Wciclo != wciclo);
+        p.f.Otto_Diesel()->hide();
         auto* rpm = Hijo<QLineEdit>(&p.f, "txtRpm");
         QTest::mouseClick(rpm, Qt::LeftButton);  // the prompt "rpm" goes
         QTest::keyClicks(rpm, QStringLiteral("3000"));
         CajaTextoSimple r("3000"), w, cv;
         DialogosGrabados dlg;
-        txtRpm_Change(p.e, dlg, r, w, cv);
+        txtRpm_Change(p.e, dlg, wciclo, r, w, cv);
         QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotencia")->text(), Q(w.Text()));
         QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotenciaCV")->text(), Q(cv.Text()));
     }
