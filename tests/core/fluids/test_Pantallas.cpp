@@ -8,6 +8,7 @@
 #include "core/fluids/AireHumedo.h"
 #include "core/fluids/Combustible.h"
 #include "core/fluids/Combustion.h"
+#include "core/sequence/Secuencia.h"
 #include "core/services/Numeros.h"
 #include "tests/Dorados.h"
 
@@ -183,6 +184,26 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
     }
     optPmax_Click(e);
     ciclo("optPmax");
+
+    // A maximum pressure below the compression's: the focus goes to the
+    // pressure up to a compression ratio of 30, beyond it to the ratio.
+    for (const char* rc : {"30", "30.0001"}) {
+        Estado m;
+        SuperficiesNulas nulas;
+        SuperficiesCalculo s = nulas.Todas();
+        VentanaPrincipalSimple v;
+        OpcionesCalculo o;
+        o.valores = {{"ciclo", "Mixto"}, {"pmax", "1000"}, {"rc", rc}};
+        CalcularTodo(m, o, r.dlg, s, v);
+        PantallaCicloSimple q;
+        ControlesCiclo cq = q.Controles();
+        imgMixto_Click(m, q.formulario);
+        q.optProporcion.SetValue(false), q.optPmax.SetValue(true), q.txtPMax.SetText("1000"),
+            q.txtRc.SetText(rc);
+        CalcularCiclo(m, r.dlg, cq, s.diagramas, v);
+        r(std::string("CalcularCiclo Mixto Pmax 1000 Rc ") + rc,
+          {{"foco Pmax", std::to_string(q.txtPMax.focos)}, {"foco Rc", std::to_string(q.txtRc.focos)}});
+    }
 
     // The power block, on a calculated cycle's work.
     e.Wciclo = 149.4567;

@@ -54,6 +54,23 @@ TEST(Propiedades, ElLimiteSeMiraAntesQueElFalloYLaEvaluacionQueLoPasaSumaLoAnter
     EXPECT_EQ(e.hAire, h7500);  // stopped while the flag stands
 }
 
+TEST(Propiedades, UnosGasesQueLosLogaritmosNoAdmitenSeRechazan) {
+    for (int caso = 0; caso < 4; ++caso) {
+        Estado e;
+        DialogosGrabados dlg;
+        e.xArHumos = 0.01, e.xCO2Humos = 0.1, e.xN2Humos = 0.89, e.Temperatura = 500, e.Presion = 1e5;
+        if (caso == 0) e.xCO2Humos = 0;
+        if (caso == 1) e.xArHumos = 0;
+        if (caso == 2) e.xN2Humos = 0;
+        if (caso == 3) e.Presion = -1;
+        PropiedadesHumos(e, dlg);
+        ASSERT_EQ(dlg.mensajes.size(), 1u) << caso;
+        EXPECT_NE(dlg.mensajes[0].find(caso == 3 ? "negativa" : "fracción"), std::string::npos)
+            << dlg.mensajes[0];
+        EXPECT_EQ(e.hHumos, 0);
+    }
+}
+
 namespace {
 
 std::string Cifras(const char* que, std::initializer_list<double> v) {

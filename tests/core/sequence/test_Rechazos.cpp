@@ -26,6 +26,7 @@ const std::vector<std::vector<std::string>> kFilas = {
     {"--humedad", "x"},
     {"--humedad", "100", "--temperatura-ambiente", "380"},
     {"--humedad", "-10"},
+    {"--presion-ambiente", "3.5e-304", "--humedad", "100"},
     // The fuel.
     {"--formula", "0,0,0,0,0", "--entalpia-formacion", "-100000"},
     {"--formula", ",,,,", "--entalpia-formacion", "0"},
@@ -38,6 +39,7 @@ const std::vector<std::vector<std::string>> kFilas = {
     {"--masa", "a,0,0,0", "--masa-molecular", "0.1"},
     {"--masa", "80,0,0,0", "--masa-molecular", "0"},
     {"--masa", "80,0,0,0", "--masa-molecular", "peso"},
+    {"--formula", "0,2,0,0,0", "--entalpia-formacion", "-241984"},
     // The combustion.
     {"--fr", "-1"},
     {"--fr", "0"},

@@ -165,5 +165,16 @@ TEST(Flujo, LosGuionesDeLaVentanaContraSuArchivo) {
         g("mnuHS_Click", [&g](Flujo& f) { MenuDiagrama(f, Diagrama::HS, g.Calcular()); });
         s += g.texto;
     }
+    // Every enlarged view and its return at other sizes of the window: the
+    // proportions of each place, and where whole pixels fall.
+    for (auto [W, H] : {std::pair{1499, 1001}, {1366, 705}, {800, 600}, {1920, 1080}}) {
+        Guion g(W, H);
+        g("cmdElegirComburente_Click", [](Flujo& f) { cmdElegirComburente_Click(f); });
+        for (Diagrama d : {Diagrama::PV, Diagrama::TV, Diagrama::TS, Diagrama::HS})
+            for (int vez = 0; vez < 2; ++vez)
+                g("mnu " + std::to_string(static_cast<int>(d)),
+                  [&g, d](Flujo& f) { MenuDiagrama(f, d, g.Calcular()); });
+        s += g.texto;
+    }
     EXPECT_EQ(CompararDorado("flujo.txt", s), "");
 }
