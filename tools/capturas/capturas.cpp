@@ -26,7 +26,7 @@ void Guardar(QWidget* w, const char* nombre) {
     }
 }
 
-void QVERIFY(bool cierto) {
+void Comprobar(bool cierto) {
     if (!cierto) {
         std::fprintf(stderr, "vanta_capturas: la ventana no respondió como se esperaba\n");
         bien = false;
@@ -34,23 +34,23 @@ void QVERIFY(bool cierto) {
 }
 
 void LasVentanasDelCiclo() {
-    Programa p;
+    Programa p{QSize()};  // the size the program starts with on this screen
     Guardar(&p.f, "ventana-principal-inicio.png");
-    QVERIFY(p.Pulsar("cmdElegirComburente"));
+    Comprobar(p.Pulsar("cmdElegirComburente"));
     Guardar(p.f.AireHumedad(), "aire.png");
-    QVERIFY(p.Pulsar(Hijo<QPushButton>(p.f.AireHumedad(), "cmdCal")));
-    QVERIFY(p.Pulsar("cmdCombustible"));
+    Comprobar(p.Pulsar(Hijo<QPushButton>(p.f.AireHumedad(), "cmdCal")));
+    Comprobar(p.Pulsar("cmdCombustible"));
     Programa::ElegirCombustible(p.f.Combustible(), QStringLiteral("Gasolina"));
-    QVERIFY(p.Pulsar("cmdCarCombustion"));
+    Comprobar(p.Pulsar("cmdCarCombustion"));
     Guardar(p.f.GasesCombustion(), "gases.png");
-    QVERIFY(p.Pulsar(Hijo<QPushButton>(p.f.GasesCombustion(), "cmdCalcular")));
+    Comprobar(p.Pulsar(Hijo<QPushButton>(p.f.GasesCombustion(), "cmdCalcular")));
     Guardar(&p.f, "ventana-principal-combustion.png");
-    QVERIFY(p.Pulsar("cmdCarCiclo"));
+    Comprobar(p.Pulsar("cmdCarCiclo"));
     Guardar(p.f.Otto_Diesel(), "ciclo-elegir.png");
     QTest::mouseClick(Hijo<QLabel>(p.f.Otto_Diesel(), "imgMixto"), Qt::LeftButton);
     Programa::Elegir(Hijo<QRadioButton>(p.f.Otto_Diesel(), "optProporcion"));
     Guardar(p.f.Otto_Diesel(), "ciclo.png");
-    QVERIFY(p.Calcular());
+    Comprobar(p.Calcular());
     Hijo<QLineEdit>(&p.f, "txtRpm")->setText(QStringLiteral("3000"));
     Guardar(&p.f, "ventana-principal.png");
 

@@ -33,6 +33,14 @@ void Imprimir(Superficie& sup, double x, double y, std::string_view texto) {
     sup.Print(texto);
 }
 
+// A line of a chart's right-hand column starts early enough to end inside
+// the chart, though never left of its left edge: a long figure is not cut.
+void ImprimirDentro(Superficie& sup, double x, double y, std::string_view texto) {
+    const std::string_view visible = texto.substr(0, texto.find_last_not_of(' ') + 1);
+    const double fin = static_cast<double>(sup.ScaleLeft()) + sup.ScaleWidth() - sup.TextWidth(visible);
+    Imprimir(sup, std::max<double>(sup.ScaleLeft(), std::min(x, fin)), y, texto);
+}
+
 // The text position one line and a half lower, as the charts step it.
 void SiguienteLinea(Estado& e, Superficie& sup) {
     e.CursorGrafica += sup.TextHeight("C") * 1.5;
@@ -75,17 +83,17 @@ void GraficaAire(Estado& e, Superficie& pct1) {
              " AIRE (ISA)   " + TextoGeneral(e.Humedad, e.SeparadorDecimal) +
                  " % humedad relativa   (valores gráfica en fracción molar)");
     e.CursorGrafica = pct1.TextHeight("C") * 1.5 + 0.08;
-    Imprimir(pct1, 3.4, e.CursorGrafica,
-             "Masa molecular = " + Redondeado(e, e.MasaMolecularAire, 5) + " kg/mol");
+    ImprimirDentro(pct1, 3.4, e.CursorGrafica,
+                   "Masa molecular = " + Redondeado(e, e.MasaMolecularAire, 5) + " kg/mol");
     SiguienteLinea(e, pct1);
-    Imprimir(pct1, 3.4, e.CursorGrafica,
-             "Temperatura ambiente = " + TextoGeneral(e.Tambiente, e.SeparadorDecimal) + "   K");
+    ImprimirDentro(pct1, 3.4, e.CursorGrafica,
+                   "Temperatura ambiente = " + TextoGeneral(e.Tambiente, e.SeparadorDecimal) + "   K");
     SiguienteLinea(e, pct1);
-    Imprimir(pct1, 3.4, e.CursorGrafica,
-             "Presión ambiente " + TextoGeneral(e.Pambiente, e.SeparadorDecimal) + " Pa");
+    ImprimirDentro(pct1, 3.4, e.CursorGrafica,
+                   "Presión ambiente " + TextoGeneral(e.Pambiente, e.SeparadorDecimal) + " Pa");
     SiguienteLinea(e, pct1);
-    Imprimir(pct1, 3.4, e.CursorGrafica,
-             "Presión de saturación del H2O = " + Redondeado(e, e.Psaturacion, 0) + " Pa");
+    ImprimirDentro(pct1, 3.4, e.CursorGrafica,
+                   "Presión de saturación del H2O = " + Redondeado(e, e.Psaturacion, 0) + " Pa");
 }
 
 void GraficaCombustible(Estado& e, Superficie& pct2, std::string_view tipoCombustible) {
@@ -141,10 +149,11 @@ void GraficaCombustible(Estado& e, Superficie& pct2, std::string_view tipoCombus
     e.PosicionFormula += pct2.TextWidth(" S");
     subindice(e.PosicionFormula, vS);
 
-    Imprimir(pct2, 5.8, 50,
-             "HCI = " + Format(e.HCI, "### ### ### ### ###", e.SeparadorDecimal) + "   J / kg");
-    Imprimir(pct2, 5.8, pct2.TextHeight("HCI") * 1.5 + 50,
-             "Mcombustible = " + TextoGeneral(e.MasaMolecularCombustible, e.SeparadorDecimal) + " kg / mol ");
+    ImprimirDentro(pct2, 5.8, 50,
+                   "HCI = " + Format(e.HCI, "### ### ### ### ###", e.SeparadorDecimal) + "   J / kg");
+    ImprimirDentro(
+        pct2, 5.8, pct2.TextHeight("HCI") * 1.5 + 50,
+        "Mcombustible = " + TextoGeneral(e.MasaMolecularCombustible, e.SeparadorDecimal) + " kg / mol ");
 }
 
 void GraficaHumos(Estado& e, Superficie& pct3) {
@@ -168,16 +177,18 @@ void GraficaHumos(Estado& e, Superficie& pct3) {
 
     Imprimir(pct3, 0.08, 0.1, "  GASES DE COMBUSTIÓN  (valores gráfica en fracción molar)");
     e.CursorGrafica = pct3.TextHeight("C") * 1.5 + 0.08;
-    Imprimir(pct3, 6.5, e.CursorGrafica,
-             "Fr = " + Redondeado(e, e.Fr, 2) + "     Lambda = " + Redondeado(e, 1 / e.Fr, 2));
+    ImprimirDentro(pct3, 6.5, e.CursorGrafica,
+                   "Fr = " + Redondeado(e, e.Fr, 2) + "     Lambda = " + Redondeado(e, 1 / e.Fr, 2));
     SiguienteLinea(e, pct3);
-    Imprimir(pct3, 6.5, e.CursorGrafica,
-             "HCI (humos) = " + Format(e.HCIhumos, "### ### ### ### ###", e.SeparadorDecimal) + "   J / kg");
+    ImprimirDentro(
+        pct3, 6.5, e.CursorGrafica,
+        "HCI (humos) = " + Format(e.HCIhumos, "### ### ### ### ###", e.SeparadorDecimal) + "   J / kg");
     SiguienteLinea(e, pct3);
-    Imprimir(pct3, 6.5, e.CursorGrafica,
-             "M humos = " + Redondeado(e, e.MasaMolecularHumos, 5) + " kg / mol  ");
+    ImprimirDentro(pct3, 6.5, e.CursorGrafica,
+                   "M humos = " + Redondeado(e, e.MasaMolecularHumos, 5) + " kg / mol  ");
     SiguienteLinea(e, pct3);
-    Imprimir(pct3, 6.5, e.CursorGrafica, "Fe = " + Redondeado(e, e.Fe, 6) + " kg combustible / kg aire  ");
+    ImprimirDentro(pct3, 6.5, e.CursorGrafica,
+                   "Fe = " + Redondeado(e, e.Fe, 6) + " kg combustible / kg aire  ");
 }
 
 }  // namespace vanta

@@ -198,7 +198,7 @@ void frmOtto_Diesel::CrearControles() {
     txt_nCom_ = NuevaCaja(fraCompresion_, "txt_nCom", kTextoNCompresion);
     lbl_n_comp_ = NuevaEtiqueta(fraCompresion_, "lbl_n_comp", "n =");
 
-    cmdCal_ = NuevoBoton(this, "cmdCal", kCalcular);
+    cmdCal_ = NuevoBotonCalcular(this, "cmdCal");
 
     // The pictures, framed by their shapes; the two hidden samples of border.
     const qreal dpr = devicePixelRatioF();

@@ -31,7 +31,7 @@ frmAireHumedad::frmAireHumedad(Estado& e, Dialogos& dlg, Superficie& pct1, QWidg
       Label5_(NuevaEtiqueta(Frame1_, "Label5", "Presión ")),
       Label6_(NuevaEtiqueta(Frame1_, "Label6", "Pa")),
       chkOcultar_(NuevaCasilla(this, "chkOcultar", kOcultarAutomaticamente, true)),
-      cmdCal_(NuevoBoton(this, "cmdCal", kCalcular)),
+      cmdCal_(NuevoBotonCalcular(this, "cmdCal")),
       cajaTemAmb_(txtTemAmb_),
       cajaPreAmb_(txtPreAmb_),
       cajaHum_(txtHum_),

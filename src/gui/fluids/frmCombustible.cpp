@@ -192,7 +192,7 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
     txtQvap_ = fila(3, "txtQvap", "Calor de vaporización del agua formada", "", "J/kg", true);
 
     chkOcultar_ = NuevaCasilla(this, "chkOcultar", kOcultarAutomaticamente, true);
-    cmdCal_ = NuevoBoton(this, "cmdCal", kCalcular);
+    cmdCal_ = NuevoBotonCalcular(this, "cmdCal");
 
     auto* arriba = new QHBoxLayout;
     arriba->addWidget(Label2);

@@ -60,7 +60,7 @@ frmGasesCombustion::frmGasesCombustion(Estado& e, Dialogos& dlg, Superficie& pct
     rejilla->addWidget(txtLambda_, 1, 3);
 
     chkOcultar_ = NuevaCasilla(this, "chkOcultar", kOcultarAutomaticamente, true);
-    cmdCalcular_ = NuevoBoton(this, "cmdCalcular", kCalcular);
+    cmdCalcular_ = NuevoBotonCalcular(this, "cmdCalcular");
     auto* abajo = new QHBoxLayout;
     abajo->addWidget(chkOcultar_);
     abajo->addStretch(1);

@@ -43,12 +43,8 @@ constexpr int kAltoDiseno = 768;
 // Share of the screen's free area that the window takes at most.
 constexpr double kFraccionPantalla = 0.92;
 
-// A cell of a table of results: the figure as Format wrote it, blanks and all.
-QLabel* Celda(QWidget* padre, const QString& nombre) {
-    auto* l = new QLabel(padre);
-    l->setObjectName(nombre);
-    l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    return l;
+CeldaCifra* Celda(QWidget* padre, const QString& nombre) {
+    return new CeldaCifra(padre, nombre);
 }
 
 // A rule of a table: a line of one pixel.
@@ -385,24 +381,24 @@ void frmFase1::MostrarResultados(const TextosResultados& t) {
     // another calculation ends well.
     wcicloEnPantalla_ = e_.Wciclo;
     for (int i = 0; i < 5; ++i) {
-        celdaPuntos_[0][i]->setText(ATexto(t.lblP[i]));
-        celdaPuntos_[1][i]->setText(ATexto(t.lblV[i]));
-        celdaPuntos_[2][i]->setText(ATexto(t.lblT[i]));
-        celdaPuntos_[3][i]->setText(ATexto(t.lblH[i]));
-        celdaPuntos_[4][i]->setText(ATexto(t.lblS[i]));
+        celdaPuntos_[0][i]->PonerCifra(ATexto(t.lblP[i]));
+        celdaPuntos_[1][i]->PonerCifra(ATexto(t.lblV[i]));
+        celdaPuntos_[2][i]->PonerCifra(ATexto(t.lblT[i]));
+        celdaPuntos_[3][i]->PonerCifra(ATexto(t.lblH[i]));
+        celdaPuntos_[4][i]->PonerCifra(ATexto(t.lblS[i]));
     }
-    lblW12_->setText(ATexto(t.lblW12));
-    lblW34_->setText(ATexto(t.lblW34));
-    lblW45_->setText(ATexto(t.lblW45));
-    lblQ23_->setText(ATexto(t.lblQ23));
-    lblQ34_->setText(ATexto(t.lblQ34));
-    lblWciclo_->setText(ATexto(t.lblWciclo));
-    lblQciclo_->setText(ATexto(t.lblQciclo));
-    lblRen_->setText(ATexto(t.lblRen));
-    lblG12_->setText(ATexto(t.lblG12));
-    lblG2_->setText(ATexto(t.lblG2));
-    lblG45_->setText(ATexto(t.lblG45));
-    lblG5_->setText(ATexto(t.lblG5));
+    lblW12_->PonerCifra(ATexto(t.lblW12));
+    lblW34_->PonerCifra(ATexto(t.lblW34));
+    lblW45_->PonerCifra(ATexto(t.lblW45));
+    lblQ23_->PonerCifra(ATexto(t.lblQ23));
+    lblQ34_->PonerCifra(ATexto(t.lblQ34));
+    lblWciclo_->PonerCifra(ATexto(t.lblWciclo));
+    lblQciclo_->PonerCifra(ATexto(t.lblQciclo));
+    lblRen_->PonerCifra(ATexto(t.lblRen));
+    lblG12_->PonerCifra(ATexto(t.lblG12));
+    lblG2_->PonerCifra(ATexto(t.lblG2));
+    lblG45_->PonerCifra(ATexto(t.lblG45));
+    lblG5_->PonerCifra(ATexto(t.lblG5));
     txtConsumoMJ_->setText(ATexto(t.txtConsumoMJ));
     txtConsumoKwh_->setText(ATexto(t.txtConsumoKwh));
     txtCilindrada_->setText(ATexto(t.txtCilindrada));
@@ -529,7 +525,7 @@ void frmFase1::pctTV_MouseMove(int, int, float x, float y) {
 void frmFase1::MostrarLectura() {
     const std::string* valores[5] = {&lectura_.lblPmouseVal, &lectura_.lblVmouseVal, &lectura_.lblTmouseVal,
                                      &lectura_.lblhmouseVal, &lectura_.lblSmouseVal};
-    for (int i = 0; i < 5; ++i) valorEstado_[i]->setText(ATexto(*valores[i]));
+    for (int i = 0; i < 5; ++i) valorEstado_[i]->PonerCifra(ATexto(*valores[i]));
     // A name longer than the box shows its beginning, and whole as a tip.
     txtTransformacion_->setText(ATexto(lectura_.txtTransformacion));
     txtTransformacion_->setCursorPosition(0);

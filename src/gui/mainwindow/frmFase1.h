@@ -35,6 +35,7 @@ class QPushButton;
 
 namespace vanta {
 
+class CeldaCifra;
 class frmAireHumedad;
 class frmBaseDatos;
 class VisoresInforme;
@@ -150,6 +151,7 @@ private:
     frmHerramientas& Herramientas();
     frmBaseDatos& BaseDatos();
     // The inner layouts of the frames, in proportion to their own size.
+    void DistribuirBotonesResultados();
     void DistribuirPuntos();
     void DistribuirTransformaciones();
     void DistribuirPotencia();
@@ -191,11 +193,11 @@ private:
 
     // Table of states.
     QGroupBox* fraPuntos_ = nullptr;
-    QLabel* cabezaPuntos_[5] = {};    // lblP, lblV, lblT, lblH, lblS
-    QLabel* filaPuntos_[5] = {};      // lbl1 … lbl5
-    QLabel* celdaPuntos_[5][5] = {};  // [column p, V, T, h, s][state 1 … 5]
-    QFrame* lv_[5] = {};              // lv1 … lv5
-    QFrame* lh_[5] = {};              // lh1 … lh5
+    QLabel* cabezaPuntos_[5] = {};        // lblP, lblV, lblT, lblH, lblS
+    QLabel* filaPuntos_[5] = {};          // lbl1 … lbl5
+    CeldaCifra* celdaPuntos_[5][5] = {};  // [column p, V, T, h, s][state 1 … 5]
+    QFrame* lv_[5] = {};                  // lv1 … lv5
+    QFrame* lh_[5] = {};                  // lh1 … lh5
 
     // Table of processes.
     QGroupBox* fraTransformaciones_ = nullptr;
@@ -203,9 +205,9 @@ private:
     QLabel* cabezaTransformaciones_[5] = {};  // Label12 Q, Label13 W, Label14 n, Label23 gamma, Label15 Rend.
     QLabel* unidadQ_ = nullptr;               // Label20
     QLabel* unidadW_ = nullptr;               // Label22
-    QLabel *lblW12_ = nullptr, *lblG12_ = nullptr, *lblG2_ = nullptr, *lblQ23_ = nullptr, *lblQ34_ = nullptr,
-           *lblW34_ = nullptr, *lblW45_ = nullptr, *lblG45_ = nullptr, *lblG5_ = nullptr,
-           *lblQciclo_ = nullptr, *lblWciclo_ = nullptr, *lblRen_ = nullptr;
+    CeldaCifra *lblW12_ = nullptr, *lblG12_ = nullptr, *lblG2_ = nullptr, *lblQ23_ = nullptr,
+               *lblQ34_ = nullptr, *lblW34_ = nullptr, *lblW45_ = nullptr, *lblG45_ = nullptr,
+               *lblG5_ = nullptr, *lblQciclo_ = nullptr, *lblWciclo_ = nullptr, *lblRen_ = nullptr;
     QFrame* lhT_[5] = {};  // lh6 … lh10
     QFrame* lvT_[4] = {};  // lv6 … lv9
 
@@ -219,9 +221,9 @@ private:
 
     // The readout of the state under the pointer.
     QGroupBox* fraEstadoActual_ = nullptr;
-    QLabel* nombreEstado_[5] = {};  // "p = " … "s ="
-    QLabel* valorEstado_[5] = {};   // lblPmouseVal … lblSmouseVal
-    QLabel* unidadEstado_[5] = {};  // "Pa" … "J/(mol·K)"
+    QLabel* nombreEstado_[5] = {};     // "p = " … "s ="
+    CeldaCifra* valorEstado_[5] = {};  // lblPmouseVal … lblSmouseVal
+    QLabel* unidadEstado_[5] = {};     // "Pa" … "J/(mol·K)"
     QLineEdit* txtTransformacion_ = nullptr;
 
     // Menus.

@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/resources/Dibujos.h"
@@ -25,6 +26,8 @@ void Colocar(QWidget* w, const Lugar& l) {
 }
 
 // The table of states, by fractions of fraPuntos.
+// Room for a caption inside its button's frame.
+constexpr int kMargenBoton = 12;
 constexpr double kPuntosCabezaArriba = 0.07227;
 constexpr double kPuntosCabezaIzquierda[5] = {0.10178, 0.34606, 0.53944, 0.6819, 0.84478};
 constexpr double kPuntosCeldaIzquierda[5] = {0.0407, 0.2646, 0.46819, 0.63104, 0.8};
@@ -73,7 +76,10 @@ void frmFase1::Mostrar() {
                                                              {cmdCombustible_, &l.cmdCombustible},
                                                              {cmdCarCombustion_, &l.cmdCarCombustion},
                                                              {cmdCarCiclo_, &l.cmdCarCiclo}};
-    for (auto [boton, lugar] : botones) Colocar(boton, *lugar);
+    for (auto [boton, lugar] : botones) {
+        Colocar(boton, *lugar);
+        AjustarLetra(boton, boton->text(), boton->width() - kMargenBoton);
+    }
 
     const Habilitados& h = f.habilitado;
     cmdElegirComburente_->setEnabled(h.cmdElegirComburente);
@@ -125,14 +131,22 @@ void frmFase1::Mostrar() {
         fraBotonera_->raise();
     }
 
-    // Room for the caption inside the button's frame.
-    constexpr int kMargenBoton = 12;
-    for (QPushButton* boton : {cmdInforme_, cmdEnvBaseDatos_})
-        AjustarLetra(boton, boton->text(), boton->width() - kMargenBoton);
+    DistribuirBotonesResultados();
     DistribuirPuntos();
     DistribuirTransformaciones();
     DistribuirPotencia();
     DistribuirEstadoActual();
+}
+
+// The two buttons under the results share one letter, the largest that
+// fits both captions in their places.
+void frmFase1::DistribuirBotonesResultados() {
+    for (QPushButton* boton : {cmdInforme_, cmdEnvBaseDatos_})
+        AjustarLetra(boton, boton->text(), boton->width() - kMargenBoton);
+    if (cmdEnvBaseDatos_->font().pointSizeF() < cmdInforme_->font().pointSizeF())
+        cmdInforme_->setFont(cmdEnvBaseDatos_->font());
+    else
+        cmdEnvBaseDatos_->setFont(cmdInforme_->font());
 }
 
 void frmFase1::DistribuirPuntos() {

@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "gui/services/TextosVentanas.h"
+
 namespace vanta {
 
 namespace {
@@ -40,8 +42,8 @@ QCheckBox* NuevaCasilla(QWidget* padre, const char* nombre, const char* texto, b
 
 QPushButton* NuevoBoton(QWidget* padre, const char* nombre, const char* texto) {
     auto* b = Nombrar(new QPushButton(QString::fromUtf8(texto), padre), nombre);
-    // Enter in a box does not press the button: the windows have no default
-    // button.
+    // Enter in a box presses no button but a window's default one
+    // (NuevoBotonCalcular).
     b->setAutoDefault(false);
     return b;
 }
@@ -50,12 +52,43 @@ QRadioButton* NuevaOpcion(QWidget* padre, const char* nombre, const char* texto)
     return Nombrar(new QRadioButton(QString::fromUtf8(texto), padre), nombre);
 }
 
-void AjustarLetra(QWidget* control, const QString& texto, int ancho) {
+QPushButton* NuevoBotonCalcular(QWidget* padre, const char* nombre) {
+    QPushButton* b = NuevoBoton(padre, nombre, kCalcular);
+    b->setDefault(true);
+    return b;
+}
+
+bool AjustarLetra(QWidget* control, const QString& texto, int ancho) {
     constexpr qreal kPuntosMinimos = 6.0;
     QFont letra = control->parentWidget() ? control->parentWidget()->font() : control->font();
-    while (QFontMetrics(letra).horizontalAdvance(texto) > ancho && letra.pointSizeF() > kPuntosMinimos)
-        letra.setPointSizeF(letra.pointSizeF() - 0.5);
+    auto cabe = [&] { return QFontMetrics(letra).horizontalAdvance(texto) <= ancho; };
+    while (!cabe() && letra.pointSizeF() > kPuntosMinimos) letra.setPointSizeF(letra.pointSizeF() - 0.5);
     control->setFont(letra);
+    return cabe();
+}
+
+CeldaCifra::CeldaCifra(QWidget* padre, const QString& nombre) : QLabel(padre) {
+    setObjectName(nombre);
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void CeldaCifra::PonerCifra(const QString& cifra) {
+    cifra_ = cifra;
+    Ajustar();
+}
+
+void CeldaCifra::resizeEvent(QResizeEvent* evento) {
+    QLabel::resizeEvent(evento);
+    Ajustar();
+}
+
+void CeldaCifra::Ajustar() {
+    // Before the window places it, a cell has no width to judge by.
+    const int ancho = contentsRect().width();
+    const QString visible = cifra_.trimmed();
+    const bool cabe = ancho <= 0 || AjustarLetra(this, visible, ancho);
+    setText(cabe ? cifra_ : QString::fromUtf8(kNoCabe));
+    setToolTip(cabe ? QString() : visible);
 }
 
 }  // namespace vanta

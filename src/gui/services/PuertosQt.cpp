@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
 
 namespace vanta {
 
@@ -13,10 +16,28 @@ void DialogosQt::MsgBox(std::string_view mensaje) {
 }
 
 std::string DialogosQt::InputBox(std::string_view prompt, std::string_view porDefecto) {
-    bool aceptado = false;
-    const QString r = QInputDialog::getText(padre_, QApplication::applicationName(), ATexto(prompt),
-                                            QLineEdit::Normal, ATexto(porDefecto), &aceptado);
-    return aceptado ? r.toStdString() : std::string();
+    QInputDialog dialogo(padre_);
+    dialogo.setWindowTitle(QApplication::applicationName());
+    dialogo.setLabelText(ATexto(prompt));
+    dialogo.setTextValue(ATexto(porDefecto));
+    MostrarEntera(dialogo);
+    return dialogo.exec() == QDialog::Accepted ? dialogo.textValue().toStdString() : std::string();
+}
+
+// The suggestion shows from its start: the box grows to hold it (within the
+// screen) and the whole text is selected with the cursor at its left end, so
+// that typing replaces it and nothing of it scrolls out of sight.
+void DialogosQt::MostrarEntera(QInputDialog& dialogo) {
+    constexpr int kMarco = 48;
+    auto* caja = dialogo.findChild<QLineEdit*>();
+    if (!caja) return;
+    const int largo = static_cast<int>(caja->text().size());
+    const int ancho = caja->fontMetrics().horizontalAdvance(caja->text()) + kMarco;
+    const QScreen* pantalla = padre_ ? padre_->screen() : QApplication::primaryScreen();
+    const int maximo = pantalla ? pantalla->availableGeometry().width() : ancho;
+    dialogo.resize(std::min(std::max(ancho, dialogo.sizeHint().width()), maximo),
+                   dialogo.sizeHint().height());
+    QTimer::singleShot(0, caja, [caja, largo] { caja->setSelection(largo, -largo); });
 }
 
 void CajaTextoQt::SetText(std::string_view texto) {

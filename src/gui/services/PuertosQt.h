@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QPointer>
 #include <QWidget>
@@ -19,6 +20,8 @@ public:
     std::string InputBox(std::string_view prompt, std::string_view porDefecto) override;
 
 private:
+    void MostrarEntera(QInputDialog& dialogo);
+
     QPointer<QWidget> padre_;
 };
 

@@ -11,6 +11,8 @@
 #include "core/diagrams/LecturaRaton.h"
 #include "core/sequence/Secuencia.h"
 #include "core/services/Numeros.h"
+#include "gui/services/Controles.h"
+#include "gui/services/TextosVentanas.h"
 #include "tests/gui/mainwindow/Programa.h"
 #include "tests/gui/mainwindow/Pruebas.h"
 
@@ -192,6 +194,38 @@ private slots:
         txtRpm_Change(p.e, dlg, wciclo, r, w, cv);
         QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotencia")->text(), Q(w.Text()));
         QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotenciaCV")->text(), Q(cv.Text()));
+    }
+
+    // Return in a stage window's box presses its CALCULAR; a figure too wide
+    // for its cell shows whole in a smaller letter or says that it does not
+    // fit, never with its left digits cut.
+    void introCalculaYUnaCifraNoSeCorta() {
+        Programa p;
+        auto intro = [](QDialog* v) {
+            if (!Programa::Abierta(v)) return false;
+            for (QLineEdit* caja : v->findChildren<QLineEdit*>())
+                if (caja->isVisible() && caja->isEnabled()) {
+                    QTest::keyClick(caja, Qt::Key_Return);
+                    return !v->isVisible();
+                }
+            return false;
+        };
+        QVERIFY(p.Pulsar("cmdElegirComburente") && intro(p.f.AireHumedad()));
+        QVERIFY(p.Etapa2());
+        QVERIFY(p.Pulsar("cmdCarCombustion") && intro(p.f.GasesCombustion()));
+        QVERIFY(p.AbrirCiclo() && intro(p.f.Otto_Diesel()));
+        QVERIFY(p.f.flujo().visible.cmdInforme);
+
+        auto* celda = Hijo<CeldaCifra>(&p.f, "lblP1");
+        for (const QString& cifra :
+             {QStringLiteral("100 000 000 000 000"), QStringLiteral("1 000 000 000")}) {
+            celda->PonerCifra(cifra);
+            const bool entera = celda->text() == cifra && celda->fontMetrics().horizontalAdvance(cifra) <=
+                                                              celda->contentsRect().width();
+            const bool avisa = celda->text() == QString::fromUtf8(kNoCabe) && celda->toolTip() == cifra;
+            QVERIFY2(entera != avisa, qPrintable(celda->text()));
+        }
+        QCOMPARE(celda->text(), QStringLiteral("1 000 000 000"));
     }
 };
 
