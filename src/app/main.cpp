@@ -1,5 +1,5 @@
-// Vanta: with no arguments the main window; `vanta calcular …` and
-// `vanta tablas …` the same logic headless.
+// Vanta: with no arguments the main window; `vanta calcular …`,
+// `vanta tablas …` and `vanta validar` the same logic headless.
 #include <QApplication>
 #include <QDir>
 #include <QGuiApplication>
@@ -13,6 +13,7 @@
 
 #include "app/LineaComandos.h"
 #include "app/LineaTablas.h"
+#include "app/LineaValidacion.h"
 #include "core/services/Numeros.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/mainwindow/frmFase1.h"
@@ -111,6 +112,8 @@ int main(int argc, char** argv) {
     if (argumentos[0] == "calcular") return Calcular({argumentos.begin() + 1, argumentos.end()});
     if (argumentos[0] == "tablas")
         return vanta::cli::EjecutarTablas({argumentos.begin() + 1, argumentos.end()}, std::cout, std::cerr);
+    if (argumentos[0] == "validar")
+        return vanta::cli::EjecutarValidar({argumentos.begin() + 1, argumentos.end()}, std::cout, std::cerr);
     std::cerr << vanta::cli::TextoUso();
     return vanta::cli::kSalidaUso;
 }
