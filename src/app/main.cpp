@@ -41,7 +41,7 @@ int Calcular(const std::vector<std::string>& argumentos) {
     if (o.html.empty() && o.guardar.empty()) {
         SuperficiesNulas nulas;
         SuperficiesCalculo s = nulas.Todas();
-        return cli::EjecutarCalcular(e, o, dlg, s, std::cout);
+        return cli::EjecutarCalcular(e, o, dlg, s, std::cout, &std::cerr);
     }
     // The pictures are drawn offscreen, at the sizes of the main window's
     // boxes in the overview of a 1024 x 768 screen, the size the layout was
@@ -55,7 +55,7 @@ int Calcular(const std::vector<std::string>& argumentos) {
     SuperficiesSinVentana cajas;
     SuperficiesCalculo s{cajas.pct1, cajas.pct2, cajas.pct3, cajas.diagramas()};
     std::string informe;
-    const int salida = cli::EjecutarCalcular(e, o, dlg, s, std::cout, informe);
+    const int salida = cli::EjecutarCalcular(e, o, dlg, s, std::cout, informe, &std::cerr);
     if (salida != cli::kSalidaBien) return salida;
     const std::string tipo = TextoListaCombustible(o);
     const std::array<QImage, 7> imagenes = cajas.Imagenes();
