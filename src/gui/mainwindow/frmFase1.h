@@ -42,6 +42,7 @@ class frmHerramientas;
 class frmCombustible;
 class frmGasesCombustion;
 class frmOtto_Diesel;
+class PanelConfianza;
 
 class frmFase1 : public QMainWindow, public VentanaPrincipal {
     Q_OBJECT
@@ -154,6 +155,8 @@ private:
     void DistribuirTransformaciones();
     void DistribuirPotencia();
     void DistribuirEstadoActual();
+    // The strip of the warnings and the efficiencies, under the readout.
+    void DistribuirConfianza();
     // The places that only the start gives: the splash, and pctHS until an
     // enlarged view places it.
     void PresentacionInicial();
@@ -222,6 +225,9 @@ private:
     QLabel* valorEstado_[5] = {};   // lblPmouseVal … lblSmouseVal
     QLabel* unidadEstado_[5] = {};  // "Pa" … "J/(mol·K)"
     QLineEdit* txtTransformacion_ = nullptr;
+
+    // The validity warnings and the distance to the ideal cycle.
+    PanelConfianza* panelConfianza_ = nullptr;
 
     // Menus.
     QMenu *mnuArchivo_ = nullptr, *mnuGuardar_ = nullptr, *mnuVer_ = nullptr, *mnuVerCiclo_ = nullptr,

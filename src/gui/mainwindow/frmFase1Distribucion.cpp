@@ -14,6 +14,7 @@
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/resources/Dibujos.h"
 #include "gui/services/Controles.h"
+#include "gui/validation/PanelConfianza.h"
 
 namespace vanta {
 
@@ -133,6 +134,7 @@ void frmFase1::Mostrar() {
     DistribuirTransformaciones();
     DistribuirPotencia();
     DistribuirEstadoActual();
+    DistribuirConfianza();
 }
 
 void frmFase1::DistribuirPuntos() {
@@ -254,6 +256,17 @@ void frmFase1::DistribuirEstadoActual() {
         fila->addWidget(valorEstado_[i]);
         fila->addWidget(unidadEstado_[i]);
     }
+}
+
+void frmFase1::DistribuirConfianza() {
+    // The free band between the readout and the window's bottom edge.
+    constexpr int kMargen = 2, kAltoMinimo = 24;
+    const QRect lectura = fraEstadoActual_->geometry();
+    const int arriba = lectura.bottom() + 1 + kMargen;
+    const QRect zona(lectura.left(), arriba, lectura.width(), central_->height() - arriba - kMargen);
+    if (panelConfianza_->geometry() != zona) panelConfianza_->setGeometry(zona);
+    panelConfianza_->setVisible(flujo_.visible.fraEstadoActual && panelConfianza_->TieneCalculo() &&
+                                zona.height() >= kAltoMinimo);
 }
 
 void frmFase1::PresentacionInicial() {
