@@ -145,24 +145,25 @@ std::string NotaCombustion(const BalanceProceso& b, const Estado& e, char sep) {
            moles + " veces los que llevan los estados.";
 }
 
-void ComprobarCiclo(const CicloValidacion& ciclo, char sep, std::vector<Comprobacion>& filas) {
+}  // namespace
+
+std::vector<Comprobacion> ComprobarCiclo(const std::string& nombreCiclo, const OpcionesCalculo& o, char sep) {
+    std::vector<Comprobacion> filas;
     Estado e;
-    OpcionesCalculo o;
-    for (const auto& [nombre, valor] : ciclo.opciones) o.valores[nombre] = valor;
     DialogosGrabados dlg;
     SuperficiesNulas nulas;
     SuperficiesCalculo s = nulas.Todas();
     VentanaPrincipalSimple v;
     if (!CalcularTodo(e, o, dlg, s, v)) {
         filas.push_back({GrupoValidacion::Balance,
-                         std::string(ciclo.nombre) + ": el cálculo",
+                         nombreCiclo + ": el cálculo",
                          "no termina",
                          "termina",
                          "",
                          "",
                          Resultado::NoCumple,
                          {}});
-        return;
+        return filas;
     }
     for (const BalanceProceso& b : BalancesProcesos(e)) {
         const double residuo = (b.calor - b.trabajo - b.energiaInterna) / e.Qciclo;
@@ -172,8 +173,7 @@ void ComprobarCiclo(const CicloValidacion& ciclo, char sep, std::vector<Comproba
                                                                                   : Resultado::NoCumple;
         std::string tolerancia = Porcentaje(kToleranciaBalance, sep);
         if (b.combustion) tolerancia += " (modelo: " + Porcentaje(kCotaBalanceCombustion, sep) + ")";
-        filas.push_back({GrupoValidacion::Balance,
-                         std::string(ciclo.nombre) + ", " + b.nombre + ": Q − W frente a ΔU (J)",
+        filas.push_back({GrupoValidacion::Balance, nombreCiclo + ", " + b.nombre + ": Q − W frente a ΔU (J)",
                          Cifra(b.calor - b.trabajo, "### ##0.000", sep),
                          Cifra(b.energiaInterna, "### ##0.000", sep),
                          CifraConSigno(residuo * kCien, "##0.000", sep) + " % de Q", tolerancia, resultado,
@@ -181,14 +181,17 @@ void ComprobarCiclo(const CicloValidacion& ciclo, char sep, std::vector<Comproba
     }
     const double ideal = RendimientoOttoIdeal(e.Rc, kGammaAireEstandar);
     filas.push_back({GrupoValidacion::Rendimiento,
-                     std::string(ciclo.nombre) + ": rendimiento frente al Otto ideal",
+                     nombreCiclo + ": rendimiento frente al Otto ideal",
                      Cifra(e.Rendimiento, "0.000", sep),
                      Cifra(ideal, "0.000", sep),
                      CifraConSigno(e.Rendimiento - ideal, "0.000", sep),
                      "menor que el ideal",
                      e.Rendimiento < ideal ? Resultado::Cumple : Resultado::NoCumple,
                      {}});
+    return filas;
 }
+
+namespace {
 
 // ---- Text ----------------------------------------------------------------------
 
@@ -304,7 +307,14 @@ std::vector<BalanceProceso> BalancesProcesos(const Estado& e) {
 
 std::vector<Comprobacion> ComprobarCiclos(char sep) {
     std::vector<Comprobacion> filas;
-    for (const CicloValidacion& c : CiclosValidacion()) ComprobarCiclo(c, sep, filas);
+    for (const CicloValidacion& c : CiclosValidacion()) {
+        OpcionesCalculo o;
+        for (const auto& [nombre, valor] : c.opciones) o.valores[nombre] = valor;
+        // The names write their figures with the separator of the table.
+        std::string nombre = c.nombre;
+        std::replace(nombre.begin(), nombre.end(), '.', sep);
+        for (auto& f : ComprobarCiclo(nombre, o, sep)) filas.push_back(std::move(f));
+    }
     return filas;
 }
 

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "core/properties/Especies.h"
+#include "core/sequence/Secuencia.h"
 #include "core/state/Estado.h"
 
 namespace vanta {
@@ -78,8 +79,11 @@ struct BalanceProceso {
 // only with heat at constant pressure.
 std::vector<BalanceProceso> BalancesProcesos(const Estado& e);
 
-// The calculated cycles: the balance of their processes and their efficiency
-// against the ideal Otto cycle of the same compression ratio.
+// A calculated cycle: the balance of its processes and its efficiency against
+// the ideal Otto cycle of the same compression ratio.
+std::vector<Comprobacion> ComprobarCiclo(const std::string& nombre, const OpcionesCalculo& opciones,
+                                         char separador);
+// The same for the cycles of the validation.
 std::vector<Comprobacion> ComprobarCiclos(char separador);
 
 TablaValidacion Validar(char separador);

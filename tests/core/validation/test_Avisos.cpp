@@ -88,6 +88,19 @@ TEST(AvisosTest, TheTextsGiveTheFiguresThatTripThem) {
               "supone.\n");
 }
 
+TEST(AvisosTest, TemperaturesPastTheLimitsNotAtThem) {
+    Estado e;
+    e.T1 = 300, e.T2 = 700, e.T5 = 1500;
+    const struct {
+        double T3;
+        Tipos esperados;
+    } casos[] = {{2500, {}}, {2500.5, {D}}, {5000, {D}}, {5000.5, {D, F}}};
+    for (const auto& caso : casos) {
+        e.T3 = e.T4 = caso.T3;
+        EXPECT_EQ(TiposDe(AvisosValidez(e, "")), caso.esperados) << caso.T3;
+    }
+}
+
 TEST(AvisosTest, StateFiveBelowItsDewPointAndSearchesOfManyPasses) {
     // A state written by hand: the gases of state 5 cold and wet.
     Estado e;

@@ -57,6 +57,24 @@ TEST(ValidacionTest, TheWholeTablePassesAndReadsAsTheGoldenFile) {
     EXPECT_EQ(pruebas::CompararDorado("validacion/tabla.txt", TextoValidacion(t, '.')), "");
 }
 
+TEST(ValidacionTest, AStrokeThatMissesTheBalanceFails) {
+    // A polytropic stroke exchanges heat that the program does not give: the
+    // balance of compression and expansion sees it, and only the combustion
+    // may be the model's difference.
+    OpcionesCalculo o;
+    o.valores = {{"compresion", "politropica"}, {"expansion", "politropica"}};
+    std::string resultados;
+    for (const Comprobacion& f : ComprobarCiclo("Otto politrópico", o, '.'))
+        resultados += f.nombre.substr(0, f.nombre.find(':')) + " " + TextoResultado(f.resultado) + "\n";
+    EXPECT_EQ(resultados,
+              "Otto politrópico, 1-2 NO CUMPLE\n"
+              "Otto politrópico, 2-3 diferencia del modelo\n"
+              "Otto politrópico, 4-5 NO CUMPLE\n"
+              "Otto politrópico cumple\n");
+    o.valores = {{"rc", "0.5"}};
+    EXPECT_EQ(ComprobarCiclo("Imposible", o, '.').front().resultado, Resultado::NoCumple);
+}
+
 TEST(ValidacionTest, TheSpeciesChecksSeeAWrongCoefficientOfAnySpecies) {
     // The polynomials of the program with its own coefficients pass.
     const Coeficientes12 programa = DelPrograma();
