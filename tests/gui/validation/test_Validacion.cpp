@@ -77,6 +77,13 @@ private slots:
         QCOMPARE(barras[0].rendimiento, RendimientoOttoIdeal(10, kGammaAireEstandar));
         QCOMPARE(barras[2].rendimiento, p.e.Rendimiento);
         Capturar(&p.f, "avisos.png");
+        // An enlarged diagram leaves the band free too.
+        QTest::mouseClick(p.f.pctPV(), Qt::LeftButton);
+        QVERIFY(p.f.pctPV()->width() > p.f.width() / 2);
+        QVERIFY(panel->isVisible());
+        QVERIFY(panel->geometry().top() > p.Control("fraEstadoActual")->geometry().bottom());
+        Capturar(&p.f, "avisos-ampliado.png");
+        QTest::mouseClick(p.f.pctPV(), Qt::LeftButton);
 
         // A lean methanol cycle stays on the model's ground: no warning.
         p.Menu("mnuNuevo")->trigger();
