@@ -7,6 +7,8 @@
 #include <sstream>
 
 #include "core/fluids/Combustible.h"
+#include "core/validation/Avisos.h"
+#include "core/validation/Confianza.h"
 
 namespace vanta::cli {
 
@@ -105,6 +107,8 @@ std::string TextoUso() {
     return "Uso: vanta                              la ventana principal\n"
            "     vanta calcular [opciones]          el cálculo completo sin ventana; escribe el informe\n"
            "     vanta tablas [opciones]            las tablas de propiedades como texto\n"
+           "     vanta validar                      la tabla de validación del modelo (sale con 1 si algo no "
+           "cumple)\n"
            "     vanta --version                    la versión del programa\n"
            "\n"
            "Opciones de calcular (por defecto, lo que muestran las pantallas al abrirse):\n"
@@ -145,21 +149,25 @@ bool EscribirPotencia(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, const
 }  // namespace
 
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
-                     std::ostream& out) {
+                     std::ostream& out, std::ostream* avisos) {
     std::string informe;
-    return EjecutarCalcular(e, o, dlg, s, out, informe);
+    return EjecutarCalcular(e, o, dlg, s, out, informe, avisos);
 }
 
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
-                     std::ostream& out, std::string& informe) {
+                     std::ostream& out, std::string& informe, std::ostream* avisos) {
     VentanaPrincipalSimple v;
-    bool bien = CalcularTodo(e, o, dlg, s, v);
+    const bool calculado = CalcularTodo(e, o, dlg, s, v);
+    bool bien = calculado;
     if (o.json) {
-        out << EstadoJSON(e) << '\n';
+        out << EstadoJSONConfianza(e, TextoListaCombustible(o), calculado) << '\n';
     } else if (bien) {
         // The report as the program keeps it, CR LF, closed by one more line end.
         out << v.informe << "\r\n";
         if (o.Tiene("rpm")) bien = EscribirPotencia(e, o, dlg, v.resultados, out);
+        if (avisos)
+            for (const Aviso& a : AvisosValidez(e, TextoListaCombustible(o)))
+                *avisos << "aviso: " << a.texto << '\n';
     }
     informe = v.informe;
     return bien ? kSalidaBien : kSalidaFallo;

@@ -41,11 +41,13 @@ std::vector<std::string> SepararIgual(const std::vector<std::string>& argumentos
 std::string TextoUso();
 
 // Runs the stages in order; writes the report (or the JSON) on out and returns
-// the exit status. Messages go through dlg.
+// the exit status. Messages go through dlg. After the report of a calculation
+// that ended well, its validity warnings go to avisos, one a line after
+// "aviso: " (with --json they are in the JSON instead).
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
-                     std::ostream& out);
+                     std::ostream& out, std::ostream* avisos = nullptr);
 // The same, keeping the text report of a calculation that ended well.
 int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
-                     std::ostream& out, std::string& informe);
+                     std::ostream& out, std::string& informe, std::ostream* avisos = nullptr);
 
 }  // namespace vanta::cli

@@ -1,5 +1,5 @@
-// Vanta: with no arguments the main window; `vanta calcular …` and
-// `vanta tablas …` the same logic headless.
+// Vanta: with no arguments the main window; `vanta calcular …`,
+// `vanta tablas …` and `vanta validar` the same logic headless.
 #include <QApplication>
 #include <QDir>
 #include <QGuiApplication>
@@ -13,6 +13,7 @@
 
 #include "app/LineaComandos.h"
 #include "app/LineaTablas.h"
+#include "app/LineaValidacion.h"
 #include "core/services/Numeros.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/mainwindow/frmFase1.h"
@@ -54,7 +55,7 @@ int Calcular(const std::vector<std::string>& argumentos) {
     if (o.html.empty() && o.guardar.empty()) {
         SuperficiesNulas nulas;
         SuperficiesCalculo s = nulas.Todas();
-        return cli::EjecutarCalcular(e, o, dlg, s, std::cout);
+        return cli::EjecutarCalcular(e, o, dlg, s, std::cout, &std::cerr);
     }
     // The pictures are drawn offscreen, at the sizes of the main window's
     // boxes in the overview of a 1024 x 768 screen, the size the layout was
@@ -68,7 +69,7 @@ int Calcular(const std::vector<std::string>& argumentos) {
     SuperficiesSinVentana cajas;
     SuperficiesCalculo s{cajas.pct1, cajas.pct2, cajas.pct3, cajas.diagramas()};
     std::string informe;
-    const int salida = cli::EjecutarCalcular(e, o, dlg, s, std::cout, informe);
+    const int salida = cli::EjecutarCalcular(e, o, dlg, s, std::cout, informe, &std::cerr);
     if (salida != cli::kSalidaBien) return salida;
     const std::string tipo = TextoListaCombustible(o);
     const std::array<QImage, 7> imagenes = cajas.Imagenes();
@@ -132,6 +133,7 @@ int main(int argc, char** argv) {
     const std::vector<std::string> resto(argumentos.begin() + 1, argumentos.end());
     if (orden == "calcular") return Calcular(resto);
     if (orden == "tablas") return vanta::cli::EjecutarTablas(resto, std::cout, std::cerr);
+    if (orden == "validar") return vanta::cli::EjecutarValidar(resto, std::cout, std::cerr);
     if (orden == "--help" || orden == "-h") {
         std::cout << vanta::cli::TextoUso();
         return vanta::cli::kSalidaBien;

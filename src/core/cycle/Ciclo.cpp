@@ -403,6 +403,7 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     e.PresionMolFresco = 0;
     e.W12acumulado = 0;
     e.W45acumulado = 0;
+    e.pasadas = {};
     LeerEntradas(e, dlg, c);
     ComprobarEntradas(e, dlg, c);
     // A refused text does not stop the steps up to state 1: the first test of

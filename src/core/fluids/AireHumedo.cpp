@@ -22,6 +22,10 @@ constexpr std::string_view kCausaFueraDeRango =
     "la composición del aire sale del intervalo de los números del programa";
 }  // namespace
 
+double PresionSaturacion(double T) {
+    return std::exp(19.1 - 0.008 * T - 6012.0 / T) * 100000.0;
+}
+
 bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
     // A rejected text has been told by the validator; the calculation goes on.
     ValidarNumero(e, dlg, c.txtPreAmb, e.Pambiente, "presión ambiente");
@@ -45,7 +49,7 @@ bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
     // all, and the percentage of water that the chart shows are finite
     // numbers: a humidity or a pressure at the edge of the doubles leaves the
     // previous air in place.
-    const double psat = std::exp(19.1 - 0.008 * e.Tambiente - 6012.0 / e.Tambiente) * 100000.0;
+    const double psat = PresionSaturacion(e.Tambiente);
     const double xH2O = e.Humedad * psat / (e.Pambiente * 100.0);
     const double xN2 = kAireSecoN2 - xH2O * kAireSecoN2;
     const double xO2 = kAireSecoO2 - xH2O * kAireSecoO2;

@@ -20,6 +20,9 @@ inline constexpr double kAireSecoO2 = 0.20946;
 inline constexpr double kAireSecoAr = 0.00934;
 inline constexpr double kAireSecoCO2 = 0.00033;
 
+// Saturation pressure of water at T (K), Pa: the comburent's formula.
+double PresionSaturacion(double T);
+
 // What the screen "Aire húmedo" gives the calculation.
 struct ControlesAire {
     CajaTexto& txtPreAmb;

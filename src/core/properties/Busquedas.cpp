@@ -168,7 +168,8 @@ void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2,
     e.Temperatura = e.TemperaturaPolitropica;
     e.TemperaturaAnterior = e.TemperaturaPolitropica + 10.0;
     double gammaMedio = e.GammaMedio.Numero();
-    int pasos = 0;
+    int& pasos = fluido == Fluido::Aire ? e.pasadas.aire : e.pasadas.humos;
+    pasos = 0;
     while (std::fabs(e.TemperaturaAnterior - e.TemperaturaPolitropica) > kToleranciaGammaMedio) {
         if (++pasos > kPasosMaximosGammaMedio || !std::isfinite(e.TemperaturaPolitropica)) {
             if (!e.ErrorCalculo) dlg.MsgBox(kMensajeNoConverge);

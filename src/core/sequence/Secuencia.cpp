@@ -272,6 +272,18 @@ struct EscritorJSON {
 
 }  // namespace
 
+std::string NumeroJSON(double v) {
+    std::ostringstream os;
+    EscribirNumero(os, v);
+    return os.str();
+}
+
+std::string TextoJSON(const std::string& t) {
+    std::ostringstream os;
+    EscribirTexto(os, t);
+    return os.str();
+}
+
 std::string EstadoJSON(const Estado& e) {
     std::ostringstream os;
     EscritorJSON escritor{os};

@@ -67,4 +67,8 @@ std::string TextoListaCombustible(const OpcionesCalculo& o);
 // own names.
 std::string EstadoJSON(const Estado& e);
 
+// A number and a text as that JSON writes them.
+std::string NumeroJSON(double v);
+std::string TextoJSON(const std::string& t);
+
 }  // namespace vanta

@@ -330,6 +330,14 @@ struct LogaritmosFracciones {
     Entrada aire[5], humos[6];
 };
 
+// How many passes the last mean-exponent search of each fluid needed, for the
+// validity warnings. A count beside the calculation, not a variable of it: no
+// figure reads it, and a new calculation starts it at zero.
+struct PasadasGammaMedio {
+    int aire = 0;   // compression
+    int humos = 0;  // expansion
+};
+
 struct Estado : RegistroTransformacion,
                 ValoresObtenidos,
                 Varios,
@@ -340,6 +348,7 @@ struct Estado : RegistroTransformacion,
                 DiagramaTVPV,
                 Graficas {
     LogaritmosFracciones logaritmos;
+    PasadasGammaMedio pasadas;
     // The decimal separator of every number the calculation writes: "." by
     // default (command line, tests); the window takes the system's.
     char SeparadorDecimal = '.';

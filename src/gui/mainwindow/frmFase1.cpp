@@ -15,6 +15,8 @@
 #include <QUrl>
 
 #include "core/reports/ArchivosInforme.h"
+#include "core/validation/Avisos.h"
+#include "core/validation/CicloIdeal.h"
 #include "gui/cycle/frmOtto_Diesel.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/frmBaseDatos.h"
@@ -28,6 +30,8 @@
 #include "gui/resources/Programa.h"
 #include "gui/services/Controles.h"
 #include "gui/tables/frmHerramientas.h"
+#include "gui/validation/PanelConfianza.h"
+#include "gui/validation/frmValidacion.h"
 
 namespace vanta {
 
@@ -177,6 +181,8 @@ void frmFase1::CrearControles() {
     CrearTablaTransformaciones();
     CrearPotencia();
     CrearEstadoActual();
+    panelConfianza_ = new PanelConfianza(central_);
+    panelConfianza_->hide();
 }
 
 void frmFase1::CrearTablaPuntos() {
@@ -319,6 +325,9 @@ void frmFase1::CrearMenus() {
 
     mnuAyuda_ = Menu(barra, "mnuAyuda", "Ay&uda");
     mnuAyuda2_ = Entrada(mnuAyuda_, "mnuAyuda2", "Ay&uda");
+    QAction* mnuValidacion = Entrada(mnuAyuda_, "mnuValidacion", "&Validación");
+    connect(mnuValidacion, &QAction::triggered, this,
+            [this] { MostrarValidacion(this, e_.SeparadorDecimal); });
     mnuAcercaDe_ = Entrada(mnuAyuda_, "mnuAcercaDe", "&Acerca de");
     barra->addMenu(mnuAyuda_);
 
@@ -365,6 +374,9 @@ void frmFase1::Ocultabotones(const Botones& b) {
 
 void frmFase1::CalculoTerminado(bool bien) {
     vanta::CalculoTerminado(flujo_, bien);
+    if (!bien) return;
+    panelConfianza_->Mostrar(AvisosValidez(e_, TipoCombustible()), DistanciaAlIdeal(e_), e_.SeparadorDecimal);
+    DistribuirConfianza();
 }
 
 std::string frmFase1::TipoCombustible() const {

@@ -43,6 +43,7 @@ class frmHerramientas;
 class frmCombustible;
 class frmGasesCombustion;
 class frmOtto_Diesel;
+class PanelConfianza;
 
 class frmFase1 : public QMainWindow, public VentanaPrincipal {
     Q_OBJECT
@@ -156,6 +157,8 @@ private:
     void DistribuirTransformaciones();
     void DistribuirPotencia();
     void DistribuirEstadoActual();
+    // The strip of the warnings and the efficiencies, under the readout.
+    void DistribuirConfianza();
     // The places that only the start gives: the splash, and pctHS until an
     // enlarged view places it.
     void PresentacionInicial();
@@ -225,6 +228,9 @@ private:
     CeldaCifra* valorEstado_[5] = {};  // lblPmouseVal … lblSmouseVal
     QLabel* unidadEstado_[5] = {};     // "Pa" … "J/(mol·K)"
     QLineEdit* txtTransformacion_ = nullptr;
+
+    // The validity warnings and the distance to the ideal cycle.
+    PanelConfianza* panelConfianza_ = nullptr;
 
     // Menus.
     QMenu *mnuArchivo_ = nullptr, *mnuGuardar_ = nullptr, *mnuVer_ = nullptr, *mnuVerCiclo_ = nullptr,

@@ -15,6 +15,7 @@
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/resources/Dibujos.h"
 #include "gui/services/Controles.h"
+#include "gui/validation/PanelConfianza.h"
 
 namespace vanta {
 
@@ -136,6 +137,7 @@ void frmFase1::Mostrar() {
     DistribuirTransformaciones();
     DistribuirPotencia();
     DistribuirEstadoActual();
+    DistribuirConfianza();
 }
 
 // The two buttons under the results share one letter, the largest that
@@ -268,6 +270,17 @@ void frmFase1::DistribuirEstadoActual() {
         fila->addWidget(valorEstado_[i]);
         fila->addWidget(unidadEstado_[i]);
     }
+}
+
+void frmFase1::DistribuirConfianza() {
+    // The free band between the readout and the window's bottom edge.
+    constexpr int kMargen = 2, kAltoMinimo = 24;
+    const QRect lectura = fraEstadoActual_->geometry();
+    const int arriba = lectura.bottom() + 1 + kMargen;
+    const QRect zona(lectura.left(), arriba, lectura.width(), central_->height() - arriba - kMargen);
+    if (panelConfianza_->geometry() != zona) panelConfianza_->setGeometry(zona);
+    panelConfianza_->setVisible(flujo_.visible.fraEstadoActual && panelConfianza_->TieneCalculo() &&
+                                zona.height() >= kAltoMinimo);
 }
 
 void frmFase1::PresentacionInicial() {
