@@ -42,6 +42,11 @@ public:
     bool AutoRedraw() const { return autoRedraw_; }
     void SetAutoRedraw(bool valor) { autoRedraw_ = valor; }
 
+    // Width of lines in pixels. The program's own pictures keep the default
+    // of 1; a surface that cannot draw wider lines ignores it.
+    int DrawWidth() const { return grosor_; }
+    void SetDrawWidth(int grosor) { grosor_ = grosor; }
+
     float CurrentX() const { return actualX_; }
     float CurrentY() const { return actualY_; }
     void SetCurrentX(float x) { actualX_ = x; }
@@ -79,6 +84,7 @@ private:
     int32_t colorTrazo_ = 0, colorRelleno_ = 0;
     int estiloRelleno_ = 1;
     bool autoRedraw_ = true;
+    int grosor_ = 1;
     float actualX_ = 0, actualY_ = 0;
 };
 
