@@ -14,6 +14,7 @@
 #include "app/LineaComandos.h"
 #include "app/LineaTablas.h"
 #include "core/services/Numeros.h"
+#include "gui/comparison/Figuras.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/reports/PaginaWeb.h"
@@ -37,7 +38,7 @@ int Calcular(const std::vector<std::string>& argumentos) {
     Estado e;
     GuardarColoresDiagramas(e);
     DialogosConsola dlg;
-    if (o.html.empty() && o.guardar.empty()) {
+    if (o.html.empty() && o.guardar.empty() && o.figuras.empty()) {
         SuperficiesNulas nulas;
         SuperficiesCalculo s = nulas.Todas();
         return cli::EjecutarCalcular(e, o, dlg, s, std::cout);
@@ -68,6 +69,15 @@ int Calcular(const std::vector<std::string>& argumentos) {
     }
     if (!o.guardar.empty()) {
         if (!GuardarRegistro(e, o.guardar, tipo, informe, imagenes, dlg)) return cli::kSalidaFallo;
+    }
+    if (!o.figuras.empty()) {
+        const std::string error = EscribirFiguras(
+            CalcularComparado(tipo, o), QString::fromStdString(o.figuras),
+            *FormatoDe(QString::fromStdString(o.formato)), {o.ancho, o.alto}, UnidadPresion::Pa);
+        if (!error.empty()) {
+            std::cerr << "vanta calcular: " << error << '\n';
+            return cli::kSalidaFallo;
+        }
     }
     return cli::kSalidaBien;
 }

@@ -260,24 +260,39 @@ void DibujarFigura(Superficie& s, float ancho, float alto, Diagrama d, const std
     }
     s.SetDrawWidth(1);
 
-    // The numbers of the five states, on a figure of one calculation.
+    // The numbers of the five states, on a figure of one calculation; states
+    // that fall on the same point share one label ("3, 4").
     if (o.numerar && series.size() == 1 && series[0].estado) {
         const Estado& e = *series[0].estado;
-        const double V[] = {e.V1, e.V2, e.V3, e.V4, e.V5}, p_[] = {e.p1, e.p2, e.p3, e.p4, e.p5},
+        const double V[] = {e.V1, e.V2, e.V3, e.V4, e.V5}, P[] = {e.p1, e.p2, e.p3, e.p4, e.p5},
                      T[] = {e.T1, e.T2, e.T3, e.T4, e.T5}, S[] = {e.S1, e.S2, e.S3, e.S4, e.S5},
                      H[] = {e.h1, e.h2, e.h3, e.h4, e.h5};
-        s.SetForeColor(kNegro);
+        const bool volumen = d == Diagrama::PV || d == Diagrama::TV;
+        struct Rotulo {
+            float x, y;
+            std::string texto;
+            bool izquierda;
+        };
+        std::vector<Rotulo> rotulos;
         for (int k = 0; k < 5; ++k) {
-            const bool esPV = d == Diagrama::PV || d == Diagrama::TV;
-            const double x = esPV ? V[k] : S[k];
-            const double y = d == Diagrama::PV ? p_[k] : d == Diagrama::HS ? H[k] : T[k];
+            const double x = volumen ? V[k] : S[k];
+            const double y = d == Diagrama::PV ? P[k] : d == Diagrama::HS ? H[k] : T[k];
+            const float px = p.X(x * ejes.factorX), py = p.Y(y * ejes.factorY);
             const std::string n(1, static_cast<char>('1' + k));
-            // States 2 and 3 stand at the left edge of p-V and T-V: their
-            // numbers go to the left of the point.
-            const bool izquierda = esPV && (k == 1 || k == 2);
-            const float px = p.X(x * ejes.factorX) + (izquierda ? -0.4f * h - s.TextWidth(n) : 0.4f * h);
-            const float py = p.Y(y * ejes.factorY) - (k == 0 ? 0.1f * h : 1.1f * h);
-            Texto(s, px, py, n);
+            auto igual = std::find_if(rotulos.begin(), rotulos.end(), [&](const Rotulo& r) {
+                return std::fabs(r.x - px) < 1 && std::fabs(r.y - py) < 1;
+            });
+            if (igual != rotulos.end())
+                igual->texto += ", " + n;
+            else
+                // States 2 and 3 stand at the left edge of p-V and T-V: their
+                // numbers go to the left of the point.
+                rotulos.push_back({px, py, n, volumen && (k == 1 || k == 2)});
+        }
+        s.SetForeColor(kNegro);
+        for (const Rotulo& r : rotulos) {
+            const float x = r.izquierda ? r.x - 0.4f * h - s.TextWidth(r.texto) : r.x + 0.4f * h;
+            Texto(s, x, r.y - 1.1f * h, r.texto);
         }
     }
 }
