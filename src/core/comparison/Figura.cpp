@@ -180,7 +180,7 @@ Disposicion Disponer(const Superficie& s, float ancho, float alto, Diagrama d,
     p.izquierda = margen + anchoMarcasY + 0.6f * h;
     p.derecha = ancho - margen - 0.5f * anchoUltimaX;
     // Title, legend, then the title of the vertical axis above the plot.
-    p.arriba = margen + 1.5f * h + filasLeyenda * 1.4f * h + 1.6f * h;
+    p.arriba = margen + 1.5f * h + filasLeyenda * 1.4f * h + 2.2f * h;
     p.abajo = alto - margen - 2.8f * h;
     // A picture too small for its texts still keeps a plot of some size.
     p.derecha = std::max(p.derecha, p.izquierda + 10);
@@ -221,7 +221,7 @@ void DibujarFigura(Superficie& s, float ancho, float alto, Diagrama d, const std
 
     // The axis titles, the figure's title and the legend.
     Texto(s, (p.izquierda + p.derecha - s.TextWidth(ejes.tituloX)) / 2, p.abajo + 1.5f * h, ejes.tituloX);
-    Texto(s, margen, p.arriba - 1.4f * h, ejes.tituloY);
+    Texto(s, margen, p.arriba - 2.0f * h, ejes.tituloY);
     Texto(s, margen, margen, TituloFigura(d));
     if (ConLeyenda(series, o)) {
         float filas = 0;

@@ -29,6 +29,15 @@ constexpr int kPuntosPorPulgada = 96;
 constexpr QSizeF kBaseDiagrama{900, 650};
 constexpr qreal kPuntosLetraDiagrama = 9;
 
+// The letter of the figures: one family wherever they are drawn or opened (an
+// SVG names it, and a browser knows no "Sans Serif").
+QFont LetraFigura(qreal puntos) {
+    QFont letra(QStringLiteral("DejaVu Sans"));
+    letra.setStyleHint(QFont::SansSerif);
+    letra.setPointSizeF(puntos);
+    return letra;
+}
+
 struct Lienzo {
     QSize pixeles;
     QSizeF logico;
@@ -168,8 +177,7 @@ Figura FiguraDiagrama(Diagrama d, std::shared_ptr<const std::vector<CalculoCompa
     f.titulo = ATexto(TituloFigura(d));
     f.base = kBaseDiagrama;
     f.fondo = kFondoBlanco;
-    f.letra = QGuiApplication::font();
-    f.letra.setPointSizeF(kPuntosLetraDiagrama);
+    f.letra = LetraFigura(kPuntosLetraDiagrama);
     f.dibujar = [d, calculos, presion, separador](Superficie& s, QSizeF t) {
         const auto hay =
             std::count_if(calculos->begin(), calculos->end(), [](const auto& c) { return c.Hay(); });
@@ -219,7 +227,7 @@ std::vector<Figura> FigurasGraficas(const CalculoComparado& calculo) {
         f.base = QSizeF(DentroDe(*g.lugar));
         f.grafica = true;
         f.fondo = kFondoBlanco;
-        f.letra = LetraSuperficie(QGuiApplication::font());
+        f.letra = LetraSuperficie(LetraFigura(kPuntosLetraDiagrama));
         // The chart moves its own text position in the state: a copy each time.
         f.dibujar = [e, dibujar = g.dibujar](Superficie& s, QSizeF) {
             Estado copia = *e;

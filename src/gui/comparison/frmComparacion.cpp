@@ -105,6 +105,7 @@ frmComparacion::frmComparacion(std::vector<CalculoComparado> calculos, char sepa
     division->addWidget(tblCifras_);
     division->setStretchFactor(0, 3);
     division->setStretchFactor(1, 2);
+    division->setSizes({760, 720});
 
     auto* columna = new QVBoxLayout(this);
     columna->addLayout(barra);
@@ -174,7 +175,7 @@ void frmComparacion::Rehacer() {
     tblCifras_->setWordWrap(true);
     tblCifras_->resizeColumnsToContents();
     for (int i = 0; i < tblCifras_->columnCount(); ++i)
-        tblCifras_->setColumnWidth(i, std::min(tblCifras_->columnWidth(i), 240));
+        tblCifras_->setColumnWidth(i, std::min(tblCifras_->columnWidth(i), i == 0 ? 190 : 160));
     tblCifras_->resizeRowsToContents();
 }
 

@@ -28,6 +28,7 @@ public:
                 QWidget* padre = nullptr);
 
     std::vector<size_t> Elegidas() const;
+    QListWidget* Lista() const { return lstFiguras_; }
     FormatoFigura Formato() const;
     QSize Tamano() const;
     UnidadPresion Presion() const;
