@@ -14,6 +14,7 @@
 #include "gui/comparison/frmExportar.h"
 #include "gui/database/EntradasCalculo.h"
 #include "tests/gui/database/Banco.h"
+#include "tests/gui/mainwindow/Programa.h"
 #include "tests/gui/mainwindow/Pruebas.h"
 
 using namespace vanta;
@@ -165,6 +166,29 @@ private slots:
         QVERIFY(!QFile::exists(carpeta.filePath(QStringLiteral("diagrama-pv.png"))));
         QVERIFY(!v.Guardar(carpeta.filePath(QStringLiteral("no/existe"))));
         QCOMPARE(dlg.mensajes.size(), size_t(1));
+    }
+
+    void LaVentanaPrincipalExportaSuCalculoConElDiagramaAmpliadoElegido() {
+        Programa p;
+        std::vector<size_t> elegidas;
+        int figuras = 0;
+        p.f.FijarMostrarModal([&](QDialog& d) {
+            if (auto* x = qobject_cast<frmExportar*>(&d)) {
+                elegidas = x->Elegidas();
+                figuras = x->Lista()->count();
+            }
+            d.show();
+        });
+        QVERIFY(!p.Menu("mnuExportarDiagramas")->isEnabled());
+        QVERIFY(p.CuatroEtapas());
+        QVERIFY(p.Menu("mnuExportarDiagramas")->isEnabled());
+        p.Menu("mnuExportarDiagramas")->trigger();
+        QCOMPARE(figuras, 7);  // four diagrams, three charts
+        QCOMPARE(elegidas, (std::vector<size_t>{0, 1, 2, 3}));
+        p.Menu("mnuTS")->trigger();
+        p.Menu("mnuExportarDiagramas")->trigger();
+        QCOMPARE(elegidas, std::vector<size_t>{2});
+        QVERIFY(p.dlg.mensajes.empty());
     }
 
     void NoSeEligenMasDeSeisRegistros() {
