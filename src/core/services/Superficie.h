@@ -95,9 +95,10 @@ public:
     float TextHeight(std::string_view) const override { return 0; }
 };
 
-// Keeps every call as a line of text, for the tests: "Line 1 2 3 4 #RRGGBB",
-// with the layer ("T" transient) where AutoRedraw is off. Text metrics are
-// fixed per character so that placements can be checked.
+// Keeps every call as a line of text, for the tests: "Line 1 2 3 4 #RRGGBB"
+// ("Line 1 2 3 4 w2 #RRGGBB" for a line 2 pixels wide), with the layer ("T"
+// transient) where AutoRedraw is off. Text metrics are fixed per character so
+// that placements can be checked.
 class SuperficieGrabada : public Superficie {
 public:
     std::vector<std::string> llamadas;

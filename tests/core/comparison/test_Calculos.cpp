@@ -44,6 +44,8 @@ const std::vector<std::map<std::string, std::string>> kCasos = {
     {{"ciclo", "Diesel"}, {"combustible", "Gasoil"}, {"fr", "0.8"}, {"rc", "18"}},
     {{"ciclo", "Mixto"}, {"pmax", "6000000"}},
     {{"ciclo", "Mixto"}, {"proporcion-vcte", "30"}, {"compresion", "variable"}},
+    // A share with three decimals: only a large engine's heats tell it.
+    {{"ciclo", "Mixto"}, {"proporcion-vcte", "37.125"}, {"cilindrada", "20000"}, {"rc", "14"}},
     {{"compresion", "politropica"},
      {"n-compresion", "1,35"},
      {"expansion", "politropica"},

@@ -6,6 +6,7 @@
 
 #include "core/comparison/Figura.h"
 #include "core/comparison/TablaComparacion.h"
+#include "tests/Dorados.h"
 
 using namespace vanta;
 
@@ -142,33 +143,64 @@ TEST(Figura, MarcasDeLasEscalasYCifras) {
     EXPECT_EQ(TextoCifra(-0.04, 1, '.'), "0.0");
 }
 
-TEST(TablaComparacion, EntradasDistintasPrimeroDiferenciasAlPrimeroYAvisos) {
-    std::vector<CalculoComparado> c = {Calcular("Otto", {{"rc", "16"}}),
-                                       Calcular("Diesel", {{"ciclo", "Diesel"}, {"rc", "16"}}),
-                                       CalcularComparado("Roto", OpcionesCalculo{{{"rc", "0.5"}}})};
-    ASSERT_FALSE(c[2].Hay());
-    const auto filas = TablaComparacion(c, UnidadPresion::bar, ',');
-    ASSERT_GT(filas.size(), 4u);
-    EXPECT_EQ(filas[0].magnitud, kFilaAviso);
-    EXPECT_EQ(filas[0].valores, (std::vector<std::string>{"", "", c[2].mensaje}));
-    EXPECT_EQ(filas[1].magnitud, "Ciclo");
-    EXPECT_EQ(filas[1].valores, (std::vector<std::string>{"Otto", "Diesel", ""}));
-    EXPECT_TRUE(filas[1].distinta);
-    EXPECT_EQ(filas[2].magnitud, "Rendimiento");
-    // The shared inputs close the table.
-    EXPECT_EQ(filas.back().magnitud, "Humedad relativa (%)");
-    EXPECT_FALSE(filas.back().distinta);
-    for (const FilaComparacion& f : filas) {
-        if (f.magnitud == "p1 (bar)") {
-            EXPECT_EQ(f.valores[0], "1,00");
-            EXPECT_EQ(f.diferencias[1], "0,00");
+TEST(Figura, TresFigurasComoSeDibujan) {
+    // One calculation numbered, in Pa; three on common axes in bar, with a
+    // legend in two lines; states 3 and 4 of Otto on one point of T-s.
+    const CalculoComparado otto = Calcular("Otto", {{"rc", "16"}});
+    const CalculoComparado diesel =
+        Calcular("Diesel con la misma relación", {{"ciclo", "Diesel"}, {"rc", "16"}});
+    const CalculoComparado mixto = Calcular("Mixto hasta 60 bar", {{"ciclo", "Mixto"}, {"pmax", "6000000"}});
+    const auto serie = [](const CalculoComparado& c, size_t i, bool propio) {
+        return SerieFigura{c.nombre, &c.curvas, c.estado.get(), propio, ColorComparacion(i)};
+    };
+    const struct {
+        Diagrama d;
+        std::vector<SerieFigura> series;
+        OpcionesFigura o;
+        float ancho, alto;
+    } casos[] = {
+        {Diagrama::PV, {serie(otto, 0, false)}, {.leyenda = false}, 640, 480},
+        {Diagrama::PV,
+         {serie(otto, 0, true), serie(diesel, 1, true), serie(mixto, 2, true)},
+         {.presion = UnidadPresion::bar, .separador = ','},
+         400,
+         300},
+        {Diagrama::TS, {serie(otto, 0, false)}, {.leyenda = false}, 640, 480},
+    };
+    std::string transcripcion;
+    for (const auto& c : casos) {
+        SuperficieGrabada s;
+        s.anchoCaracter = 7;
+        s.altoTexto = 14;
+        DibujarFigura(s, c.ancho, c.alto, c.d, c.series, c.o);
+        // The curves' lines one in twenty, and their count.
+        size_t curva = 0;
+        for (const std::string& l : s.llamadas) {
+            if (l.find(" w2 ") == std::string::npos || l.rfind("Line ", 0) != 0) {
+                transcripcion += l + "\n";
+            } else if (curva++ % 20 == 0) {
+                transcripcion += l + "\n";
+            }
         }
-        if (f.magnitud == "T3 (K)") {
-            // Diesel burns at constant pressure: a cooler state 3.
-            EXPECT_EQ(f.diferencias[0], "");
-            EXPECT_EQ(f.diferencias[1].substr(0, 1), "-") << f.diferencias[1];
-            EXPECT_NE(f.diferencias[1].find(" %)"), std::string::npos);
-            EXPECT_EQ(f.valores[2], "");
-        }
+        transcripcion += "lineas de las curvas: " + std::to_string(curva) + "\n\n";
     }
+    EXPECT_EQ(pruebas::CompararDorado("comparacion/figuras.txt", transcripcion), "");
+}
+
+TEST(TablaComparacion, LasCifrasJuntasConSusDiferenciasYLosAvisos) {
+    const std::vector<CalculoComparado> c = {
+        Calcular("Otto", {{"rc", "16"}}), Calcular("Diesel", {{"ciclo", "Diesel"}, {"rc", "16"}}),
+        Calcular("Mixto", {{"ciclo", "Mixto"}, {"pmax", "6000000"}, {"compresion", "politropica"}}),
+        CalcularComparado("Roto", OpcionesCalculo{{{"rc", "0.5"}}})};
+    ASSERT_FALSE(c[3].Hay());
+    std::string tabla;
+    for (UnidadPresion u : {UnidadPresion::bar, UnidadPresion::Pa}) {
+        for (const FilaComparacion& f : TablaComparacion(c, u, u == UnidadPresion::bar ? ',' : '.')) {
+            tabla += f.magnitud + (f.entrada ? " [entrada]" : "") + (f.distinta ? " [distinta]" : "");
+            for (size_t i = 0; i < c.size(); ++i) tabla += " | " + f.valores[i] + " | " + f.diferencias[i];
+            tabla += "\n";
+        }
+        tabla += "\n";
+    }
+    EXPECT_EQ(pruebas::CompararDorado("comparacion/tabla.txt", tabla), "");
 }
