@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "core/fluids/Combustible.h"
+#include "core/services/Numeros.h"
 #include "core/validation/Avisos.h"
 #include "core/validation/Confianza.h"
 
@@ -15,7 +16,7 @@ namespace vanta::cli {
 namespace {
 
 // The options with a value that are not inputs of the calculation.
-const char* kOpcionesSalida[] = {"html", "guardar"};
+const char* kOpcionesSalida[] = {"html", "guardar", "figuras", "formato", "tamano"};
 
 bool EsOpcion(const std::string& nombre) {
     for (const char* o : kOpcionesSalida)
@@ -56,7 +57,25 @@ std::string Comprobar(const OpcionesCalcular& o) {
     if (o.Tiene("fr") && o.Tiene("lambda")) return "--fr y --lambda se excluyen entre sí";
     if (o.Tiene("proporcion-vcte") && o.Tiene("pmax"))
         return "--proporcion-vcte y --pmax se excluyen entre sí";
+    if ((o.Tiene("formato") || o.Tiene("tamano")) && !o.Tiene("figuras"))
+        return "--formato y --tamano van con --figuras";
+    if (o.Tiene("formato") && !std::set<std::string>{"png", "svg", "pdf"}.count(o.Valor("formato")))
+        return "formato de figura desconocido: " + o.Valor("formato") + " (png, svg o pdf)";
     return {};
+}
+
+// "ANCHOxALTO" in whole pixels, each from 100 to 10000.
+bool LeerTamano(const std::string& texto, int& ancho, int& alto) {
+    const auto x = texto.find('x');
+    if (x == std::string::npos) return false;
+    const auto a = LeerNumero(texto.substr(0, x)), b = LeerNumero(texto.substr(x + 1));
+    const auto valido = [](const std::optional<double>& v) {
+        return v && *v >= 100 && *v <= 10000 && *v == std::floor(*v);
+    };
+    if (!valido(a) || !valido(b)) return false;
+    ancho = static_cast<int>(*a);
+    alto = static_cast<int>(*b);
+    return true;
 }
 
 }  // namespace
@@ -96,10 +115,15 @@ Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
     if (o.Tiene("html") && o.Valor("html").empty()) return {std::nullopt, "--html necesita una carpeta"};
     if (o.Tiene("guardar") && o.Valor("guardar").empty())
         return {std::nullopt, "--guardar necesita el nombre del registro"};
+    if (o.Tiene("tamano") && !LeerTamano(o.Valor("tamano"), o.ancho, o.alto))
+        return {std::nullopt, "--tamano lleva ANCHOxALTO en píxeles, cada uno de 100 a 10000"};
+    if (o.Tiene("figuras") && o.Valor("figuras").empty())
+        return {std::nullopt, "--figuras necesita una carpeta"};
     o.html = o.Valor("html");
     o.guardar = o.Valor("guardar");
-    o.valores.erase("html");
-    o.valores.erase("guardar");
+    o.figuras = o.Valor("figuras");
+    if (o.Tiene("formato")) o.formato = o.Valor("formato");
+    for (const char* salida : kOpcionesSalida) o.valores.erase(salida);
     return {o, {}};
 }
 
@@ -115,6 +139,9 @@ std::string TextoUso() {
            "  --json                          en lugar del informe, todas las variables del cálculo en JSON\n"
            "  --html CARPETA                  escribe también la página HTML y sus siete imágenes\n"
            "  --guardar NOMBRE                guarda también el resultado en la base de datos\n"
+           "  --figuras CARPETA               escribe también los cuatro diagramas, con escalas, y las tres\n"
+           "                                  gráficas, como figuras: --formato png|svg|pdf (png)\n"
+           "                                  --tamano ANCHOxALTO (1200x900)\n"
            "  --presion-ambiente PA (100000)  --temperatura-ambiente K (300)  --humedad PCT (0)\n"
            "  --combustible NOMBRE (Gasolina) | --formula C,H,N,O,S --entalpia-formacion J_MOL\n"
            "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion "

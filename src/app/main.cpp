@@ -15,6 +15,7 @@
 #include "app/LineaTablas.h"
 #include "app/LineaValidacion.h"
 #include "core/services/Numeros.h"
+#include "gui/comparison/Figuras.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/reports/PaginaWeb.h"
@@ -52,7 +53,7 @@ int Calcular(const std::vector<std::string>& argumentos) {
     Estado e;
     GuardarColoresDiagramas(e);
     DialogosConsola dlg("vanta calcular: ");
-    if (o.html.empty() && o.guardar.empty()) {
+    if (o.html.empty() && o.guardar.empty() && o.figuras.empty()) {
         SuperficiesNulas nulas;
         SuperficiesCalculo s = nulas.Todas();
         return cli::EjecutarCalcular(e, o, dlg, s, std::cout, &std::cerr);
@@ -82,6 +83,15 @@ int Calcular(const std::vector<std::string>& argumentos) {
     }
     if (!o.guardar.empty()) {
         if (!GuardarRegistro(e, o.guardar, tipo, informe, imagenes, dlg)) return cli::kSalidaFallo;
+    }
+    if (!o.figuras.empty()) {
+        const std::string error = EscribirFiguras(
+            CalcularComparado(tipo, o), QString::fromStdString(o.figuras),
+            *FormatoDe(QString::fromStdString(o.formato)), {o.ancho, o.alto}, UnidadPresion::Pa);
+        if (!error.empty()) {
+            std::cerr << "vanta calcular: " << error << '\n';
+            return cli::kSalidaFallo;
+        }
     }
     return cli::kSalidaBien;
 }

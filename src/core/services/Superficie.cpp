@@ -80,8 +80,10 @@ void SuperficieGrabada::AlPunto(float x, float y) {
 }
 
 void SuperficieGrabada::AlLinea(float x1, float y1, float x2, float y2) {
+    // A width other than 1 is told before the colour: "w2".
+    const std::string grosor = DrawWidth() == 1 ? "" : " w" + std::to_string(DrawWidth());
     llamadas.push_back(Capa() + "Line " + Numero(x1) + " " + Numero(y1) + " " + Numero(x2) + " " +
-                       Numero(y2) + " " + Color(ForeColor()));
+                       Numero(y2) + grosor + " " + Color(ForeColor()));
 }
 
 void SuperficieGrabada::AlCaja(float x1, float y1, float x2, float y2, int32_t color) {

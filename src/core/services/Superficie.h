@@ -42,6 +42,11 @@ public:
     bool AutoRedraw() const { return autoRedraw_; }
     void SetAutoRedraw(bool valor) { autoRedraw_ = valor; }
 
+    // Width of lines in pixels. The program's own pictures keep the default
+    // of 1; a surface that cannot draw wider lines ignores it.
+    int DrawWidth() const { return grosor_; }
+    void SetDrawWidth(int grosor) { grosor_ = grosor; }
+
     float CurrentX() const { return actualX_; }
     float CurrentY() const { return actualY_; }
     void SetCurrentX(float x) { actualX_ = x; }
@@ -79,6 +84,7 @@ private:
     int32_t colorTrazo_ = 0, colorRelleno_ = 0;
     int estiloRelleno_ = 1;
     bool autoRedraw_ = true;
+    int grosor_ = 1;
     float actualX_ = 0, actualY_ = 0;
 };
 
@@ -89,9 +95,10 @@ public:
     float TextHeight(std::string_view) const override { return 0; }
 };
 
-// Keeps every call as a line of text, for the tests: "Line 1 2 3 4 #RRGGBB",
-// with the layer ("T" transient) where AutoRedraw is off. Text metrics are
-// fixed per character so that placements can be checked.
+// Keeps every call as a line of text, for the tests: "Line 1 2 3 4 #RRGGBB"
+// ("Line 1 2 3 4 w2 #RRGGBB" for a line 2 pixels wide), with the layer ("T"
+// transient) where AutoRedraw is off. Text metrics are fixed per character so
+// that placements can be checked.
 class SuperficieGrabada : public Superficie {
 public:
     std::vector<std::string> llamadas;

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 
 #include "core/database/Registro.h"
+#include "gui/database/EntradasCalculo.h"
 #include "gui/database/frmBaseDatos.h"
 #include "gui/services/PuertosQt.h"
 
@@ -36,6 +37,7 @@ bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombu
     }
     if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas))
         return false;
+    GuardarEntradas(*navegador.Almacen(), navegador.IdActual(), e, tipoCombustible);
     navegador.MostrarModal();
     return true;
 }
@@ -45,11 +47,13 @@ bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view 
                      const QString& ruta) {
     AlmacenResultados almacen(ruta.isEmpty() ? QDir::current().absoluteFilePath(ATexto(bd::kArchivoBaseDatos))
                                              : ruta);
-    if (!almacen.Abrir() || !almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe),
-                                              ImagenesDeColumnas(imagenes))) {
+    std::optional<qint64> id;
+    if (!almacen.Abrir() || !(id = almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe),
+                                                    ImagenesDeColumnas(imagenes)))) {
         dlg.MsgBox(almacen.Error());
         return false;
     }
+    GuardarEntradas(almacen, *id, e, tipoCombustible);
     return true;
 }
 

@@ -176,7 +176,12 @@ void frmBaseDatos::CrearControles() {
     cmdVer_->setObjectName(QStringLiteral("cmdVer"));
     cmdBorrarRegistro_ = new QPushButton(QStringLiteral("Borrar registro"), this);
     cmdBorrarRegistro_->setObjectName(QStringLiteral("cmdBorrarRegistro"));
-    for (QPushButton* b : {cmdCerrar_, cmdVer_, cmdBorrarRegistro_}) b->setAutoDefault(false);
+    cmdComparar_ = new QPushButton(QString::fromUtf8("Comparar…"), this);
+    cmdComparar_->setObjectName(QStringLiteral("cmdComparar"));
+    connect(cmdComparar_, &QPushButton::clicked, this, [this] {
+        if (comparar_) comparar_();
+    });
+    for (QPushButton* b : {cmdCerrar_, cmdVer_, cmdBorrarRegistro_, cmdComparar_}) b->setAutoDefault(false);
     connect(cmdCerrar_, &QPushButton::clicked, this, &frmBaseDatos::cmdCerrar_Click);
     connect(cmdVer_, &QPushButton::clicked, this, &frmBaseDatos::cmdVer_Click);
     connect(cmdBorrarRegistro_, &QPushButton::clicked, this, &frmBaseDatos::cmdBorrarRegistro_Click);
@@ -191,6 +196,7 @@ void frmBaseDatos::CrearControles() {
     botones->addSpacing(24);
     botones->addWidget(cmdVer_);
     botones->addWidget(cmdBorrarRegistro_);
+    botones->addWidget(cmdComparar_);
     botones->addWidget(cmdCerrar_);
 
     auto* todo = new QVBoxLayout(this);

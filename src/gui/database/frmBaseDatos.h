@@ -65,6 +65,11 @@ public:
     int RecordCount() const { return static_cast<int>(ids_.size()); }
     // 0-based position of the current record; -1 when there is none.
     int Posicion() const { return posicion_; }
+    // The current record's id; -1 when there is none.
+    qint64 IdActual() const { return posicion_ < 0 ? -1 : ids_[static_cast<size_t>(posicion_)]; }
+
+    // What "Comparar…" opens (the comparison of saved records).
+    void FijarComparar(std::function<void()> comparar) { comparar_ = std::move(comparar); }
     void MoveFirst();
     void MovePrevious();
     void MoveNext();
@@ -118,6 +123,7 @@ private:
     Dialogos& dlg_;
     std::function<std::string()> informeF1_;
     std::function<void(QDialog&)> mostrarModal_;
+    std::function<void()> comparar_;
     int espera_ = 2000;
 
     QString ruta_;  // resolved at the first load
@@ -134,7 +140,8 @@ private:
     QPlainTextEdit* txtInforme_ = nullptr;
     QGroupBox *fraAire_ = nullptr, *fraCombustible_ = nullptr, *fraCombustion_ = nullptr,
               *fraPuntos_ = nullptr, *fraTransformaciones_ = nullptr;
-    QPushButton *cmdCerrar_ = nullptr, *cmdVer_ = nullptr, *cmdBorrarRegistro_ = nullptr;
+    QPushButton *cmdCerrar_ = nullptr, *cmdVer_ = nullptr, *cmdBorrarRegistro_ = nullptr,
+                *cmdComparar_ = nullptr;
     QToolButton *cmdPrimero_ = nullptr, *cmdAnterior_ = nullptr, *cmdSiguiente_ = nullptr,
                 *cmdUltimo_ = nullptr;
     frmAmpliador* ampliador_ = nullptr;

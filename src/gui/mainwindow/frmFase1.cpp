@@ -17,6 +17,8 @@
 #include "core/reports/ArchivosInforme.h"
 #include "core/validation/Avisos.h"
 #include "core/validation/CicloIdeal.h"
+#include "gui/comparison/Comparar.h"
+#include "gui/comparison/frmExportar.h"
 #include "gui/cycle/frmOtto_Diesel.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/frmBaseDatos.h"
@@ -303,6 +305,7 @@ void frmFase1::CrearMenus() {
     mnuArchivo_->addMenu(mnuGuardar_);
     mnuGuardarTexto_ = Entrada(mnuGuardar_, "mnuGuardarTexto", "&Texto");
     mnuGuardarHTML_ = Entrada(mnuGuardar_, "mnuGuardarHTML", "&HTML (Página Web)");
+    mnuExportarDiagramas_ = Entrada(mnuArchivo_, "mnuExportarDiagramas", "E&xportar diagramas…");
     barra->addMenu(mnuArchivo_);
 
     mnuVer_ = Menu(barra, "mnuVer", "&Ver");
@@ -315,6 +318,7 @@ void frmFase1::CrearMenus() {
     mnuHS_ = Entrada(mnuVerCiclo_, "mnuHS", "&HS");
     for (QAction* a : {mnuVerTodo_, mnuPV_, mnuTV_, mnuTS_, mnuHS_}) a->setCheckable(true);
     mnuCalcular_ = Entrada(mnuVer_, "mnuCalcular", "Calcular &ciclo");
+    mnuComparar_ = Entrada(mnuVer_, "mnuComparar", "C&omparar cálculos…");
     barra->addMenu(mnuVer_);
 
     mnuHerramientas_ = Menu(barra, "mnuHerramientas", "&Herramientas");
@@ -353,7 +357,9 @@ void frmFase1::CrearMenus() {
         {mnuTablasActual_, &frmFase1::mnuTablasActual_Click},
         {mnuTablas_, &frmFase1::mnuTablas_Click},
         {mnuAyuda2_, &frmFase1::mnuAyuda2_Click},
-        {mnuAcercaDe_, &frmFase1::mnuAcercaDe_Click}};
+        {mnuAcercaDe_, &frmFase1::mnuAcercaDe_Click},
+        {mnuExportarDiagramas_, &frmFase1::mnuExportarDiagramas_Click},
+        {mnuComparar_, &frmFase1::mnuComparar_Click}};
     for (auto [accion, metodo] : acciones) connect(accion, &QAction::triggered, this, metodo);
 }
 
@@ -459,9 +465,14 @@ std::array<QImage, 7> frmFase1::Imagenes() const {
 }
 
 frmBaseDatos& frmFase1::BaseDatos() {
-    if (!frmBaseDatos_)
+    if (!frmBaseDatos_) {
         frmBaseDatos_ = std::make_unique<frmBaseDatos>(
             *dlg_, [this] { return txtInformeF1_; }, this);
+        frmBaseDatos_->FijarComparar([this] {
+            frmBaseDatos& b = *frmBaseDatos_;
+            Comparar(&b, b.Almacen(), std::nullopt, b.IdActual(), e_.SeparadorDecimal, *dlg_);
+        });
+    }
     return *frmBaseDatos_;
 }
 
@@ -642,6 +653,35 @@ void frmFase1::mnuAcercaDe_Click() {
 void frmFase1::AbrirAyuda() {
     // No test that the pages are there: the browser shows what it finds.
     QDesktopServices::openUrl(QUrl::fromLocalFile(RutaAyuda()));
+}
+
+// ---- Comparison and figures ------------------------------------------------------------
+
+void frmFase1::mnuExportarDiagramas_Click() {
+    const auto calculo = std::make_shared<const std::vector<CalculoComparado>>(
+        1, CalculoDeEstado("Cálculo actual", e_, TipoCombustible()));
+    if (!calculo->front().Hay()) {
+        dlg_->MsgBox(calculo->front().mensaje);
+        return;
+    }
+    // The enlarged diagram, or the four of the overview.
+    std::vector<size_t> elegidas = {0, 1, 2, 3};
+    if (flujo_.vista != Vista::General) elegidas = {static_cast<size_t>(flujo_.vista) - 1};
+    frmExportar ventana(
+        [calculo, separador = e_.SeparadorDecimal](UnidadPresion u) {
+            std::vector<Figura> figuras = FigurasDiagramas(calculo, u, separador);
+            for (Figura& g : FigurasGraficas(calculo->front())) figuras.push_back(std::move(g));
+            return figuras;
+        },
+        UnidadPresion::Pa, elegidas, *dlg_, this);
+    MostrarModal(ventana);
+}
+
+void frmFase1::mnuComparar_Click() {
+    std::optional<CalculoComparado> actual;
+    if (flujo_.habilitado.mnuInforme) actual = CalculoDeEstado("Cálculo actual", e_, TipoCombustible());
+    frmBaseDatos& b = BaseDatos();
+    Comparar(this, b.Cargar() ? b.Almacen() : nullptr, std::move(actual), -1, e_.SeparadorDecimal, *dlg_);
 }
 
 }  // namespace vanta

@@ -127,6 +127,10 @@ public slots:
     void mnuTablas_Click();
     void mnuAyuda2_Click();
     void mnuAcercaDe_Click();
+    // The diagrams (with scales) and charts of the calculation as figures.
+    void mnuExportarDiagramas_Click();
+    // The calculation beside saved ones on common diagrams.
+    void mnuComparar_Click();
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
@@ -239,7 +243,8 @@ private:
             *mnuBDatos_ = nullptr, *mnuGuardarTexto_ = nullptr, *mnuGuardarHTML_ = nullptr,
             *mnuVerTodo_ = nullptr, *mnuPV_ = nullptr, *mnuTV_ = nullptr, *mnuTS_ = nullptr,
             *mnuHS_ = nullptr, *mnuCalcular_ = nullptr, *mnuTablasActual_ = nullptr, *mnuTablas_ = nullptr,
-            *mnuAyuda2_ = nullptr, *mnuAcercaDe_ = nullptr;
+            *mnuAyuda2_ = nullptr, *mnuAcercaDe_ = nullptr, *mnuExportarDiagramas_ = nullptr,
+            *mnuComparar_ = nullptr;
 
     frmAireHumedad* frmAireHumedad_ = nullptr;
     frmCombustible* frmCombustible_ = nullptr;

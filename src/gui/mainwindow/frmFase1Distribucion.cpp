@@ -91,6 +91,7 @@ void frmFase1::Mostrar() {
     mnuBDatos_->setEnabled(h.mnuBDatos);
     mnuGuardar_->menuAction()->setEnabled(h.mnuGuardar);
     mnuTablasActual_->setEnabled(h.mnuTablasActual);
+    mnuExportarDiagramas_->setEnabled(h.mnuInforme);
     mnuCalcular_->setEnabled(h.mnuCalcular);
     mnuVerTodo_->setEnabled(h.mnuVerTodo);
     mnuVerCiclo_->menuAction()->setEnabled(h.mnuVerCiclo);
