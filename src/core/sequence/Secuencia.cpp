@@ -272,6 +272,24 @@ struct EscritorJSON {
 
 }  // namespace
 
+std::string TextoNumeroJSON(double v) {
+    std::ostringstream os;
+    EscribirNumero(os, v);
+    return os.str();
+}
+
+std::string TextoNumeroJSON(float v) {
+    std::ostringstream os;
+    EscribirNumero(os, v);
+    return os.str();
+}
+
+std::string TextoCadenaJSON(const std::string& t) {
+    std::ostringstream os;
+    EscribirTexto(os, t);
+    return os.str();
+}
+
 std::string EstadoJSON(const Estado& e) {
     std::ostringstream os;
     EscritorJSON escritor{os};
