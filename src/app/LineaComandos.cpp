@@ -85,6 +85,7 @@ std::string TextoUso() {
     return "Uso: vanta                              la ventana principal\n"
            "     vanta calcular [opciones]          el cálculo completo sin ventana; escribe el informe\n"
            "     vanta tablas [opciones]            las tablas de propiedades como texto\n"
+           "     vanta estudio [opciones]           un estudio paramétrico (vanta estudio --help)\n"
            "\n"
            "Opciones de calcular (por defecto, lo que muestran las pantallas al abrirse):\n"
            "  --json                          en lugar del informe, todas las variables del cálculo en JSON\n"

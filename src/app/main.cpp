@@ -1,5 +1,7 @@
 // Vanta: with no arguments the main window; `vanta calcular …` and
 // `vanta tablas …` the same logic headless.
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QGuiApplication>
@@ -7,11 +9,13 @@
 #include <QLocale>
 #include <QTranslator>
 #include <clocale>
+#include <cstdio>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "app/LineaComandos.h"
+#include "app/LineaEstudio.h"
 #include "app/LineaTablas.h"
 #include "core/services/Numeros.h"
 #include "gui/database/GuardarBaseDatos.h"
@@ -72,6 +76,22 @@ int Calcular(const std::vector<std::string>& argumentos) {
     return cli::kSalidaBien;
 }
 
+// A parametric study headless, with its progress on the terminal.
+int Estudio(const std::vector<std::string>& argumentos) {
+    using namespace vanta;
+    if (argumentos.size() == 1 && (argumentos[0] == "--help" || argumentos[0] == "-h")) {
+        std::cout << cli::TextoUsoEstudio();
+        return cli::kSalidaBien;
+    }
+    const cli::ParseoEstudio p = cli::ParsearEstudio(argumentos);
+    if (!p.opciones) {
+        std::cerr << "vanta estudio: " << p.error << "\n\n" << cli::TextoUsoEstudio();
+        return cli::kSalidaUso;
+    }
+    return cli::EjecutarLineaEstudio(*p.opciones, std::cout, std::cerr,
+                                     isatty(fileno(stderr)) ? &std::cerr : nullptr);
+}
+
 // The decimal separator of the system's regional settings: a Spanish system
 // writes and reads "8,5".
 char SeparadorDelSistema() {
@@ -109,6 +129,7 @@ int main(int argc, char** argv) {
     const std::vector<std::string> argumentos(argv + 1, argv + argc);
     if (argumentos.empty()) return Ventanas(argc, argv);
     if (argumentos[0] == "calcular") return Calcular({argumentos.begin() + 1, argumentos.end()});
+    if (argumentos[0] == "estudio") return Estudio({argumentos.begin() + 1, argumentos.end()});
     if (argumentos[0] == "tablas")
         return vanta::cli::EjecutarTablas({argumentos.begin() + 1, argumentos.end()}, std::cout, std::cerr);
     std::cerr << vanta::cli::TextoUso();
