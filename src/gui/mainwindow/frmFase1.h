@@ -42,6 +42,7 @@ class frmHerramientas;
 class frmCombustible;
 class frmGasesCombustion;
 class frmOtto_Diesel;
+class frmEstudio;
 
 class frmFase1 : public QMainWindow, public VentanaPrincipal {
     Q_OBJECT
@@ -123,6 +124,7 @@ public slots:
     void mnuCalcular_Click();
     void mnuTablasActual_Click();
     void mnuTablas_Click();
+    void mnuEstudio_Click();
     void mnuAyuda2_Click();
     void mnuAcercaDe_Click();
 
@@ -240,6 +242,9 @@ private:
     Flujo flujo_;
     LecturaEstado lectura_;
     std::unique_ptr<frmHerramientas> frmHerramientas_;
+    // Herramientas › Estudio paramétrico, made at its first opening.
+    QAction* mnuEstudio_ = nullptr;
+    std::unique_ptr<frmEstudio> frmEstudio_;
     std::unique_ptr<frmBaseDatos> frmBaseDatos_;
     // The report windows and the buffer rthInforme, which lives with them.
     std::unique_ptr<VisoresInforme> visores_;
