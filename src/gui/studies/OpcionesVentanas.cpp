@@ -29,7 +29,8 @@ std::string Lista(const QWidget* ventana, std::initializer_list<const char*> caj
     for (const char* caja : cajas) {
         std::string t = Texto(ventana, caja);
         std::replace(t.begin(), t.end(), ',', '.');
-        lista += (lista.empty() ? "" : ",") + (t.empty() ? std::string("0") : t);
+        if (!lista.empty()) lista += ',';
+        lista += t.empty() ? std::string("0") : t;
     }
     return lista;
 }
