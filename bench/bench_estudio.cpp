@@ -12,9 +12,9 @@ namespace {
 
 Estudio MilPuntos() {
     Estudio e;
-    std::vector<std::string> valores;
-    LeerValores("1:1000:1", true, valores);
-    e.variaciones = {{"rpm", valores}};
+    Variacion rpm{"rpm", {}, {}};
+    LeerValores("1:1000:1", true, rpm);
+    e.variaciones = {rpm};
     e.salidas = {BuscarSalidaEstudio("rendimiento"), BuscarSalidaEstudio("wciclo")};
     return e;
 }

@@ -34,7 +34,7 @@ std::vector<std::string> ConValores(const std::vector<std::string>& base, const 
     std::vector<std::string> palabras = base;
     for (size_t i = 0; i < estudio.variaciones.size(); ++i) {
         palabras.push_back("--" + estudio.variaciones[i].nombre);
-        palabras.push_back(estudio.variaciones[i].valores[indices[i]]);
+        palabras.push_back(estudio.variaciones[i].Valor(indices[i]));
     }
     return palabras;
 }
@@ -47,7 +47,7 @@ std::string ComprobarValores(const std::vector<std::string>& base, const Estudio
     for (size_t i = 0; i < estudio.variaciones.size(); ++i) {
         std::vector<size_t> indices(estudio.variaciones.size(), 0);
         const Variacion& v = estudio.variaciones[i];
-        const size_t valores = BuscarEntradaEstudio(v.nombre)->numerica ? 1 : v.valores.size();
+        const size_t valores = BuscarEntradaEstudio(v.nombre)->numerica ? 1 : v.Cuenta();
         for (size_t k = 0; k < valores; ++k) {
             indices[i] = k;
             const Parseo p = ParsearCalcular(ConValores(base, estudio, indices));
@@ -87,7 +87,8 @@ ParseoEstudio ParsearEstudio(const std::vector<std::string>& argumentos) {
         if (a == "--variar") {
             const auto igual = valor.find('=');
             if (igual == std::string::npos) return fallo("--variar se escribe NOMBRE=VALORES: " + valor);
-            Variacion v{valor.substr(0, igual), {}};
+            Variacion v;
+            v.nombre = valor.substr(0, igual);
             const EntradaEstudio* entrada = BuscarEntradaEstudio(v.nombre);
             if (!entrada)
                 return fallo("no se puede variar " + v.nombre +
@@ -95,7 +96,7 @@ ParseoEstudio ParsearEstudio(const std::vector<std::string>& argumentos) {
             for (const Variacion& otra : estudio.variaciones)
                 if (otra.nombre == v.nombre) return fallo("--variar " + v.nombre + " está dos veces");
             if (estudio.variaciones.size() == 2) return fallo("un estudio varía una entrada o dos, no más");
-            if (std::string error = LeerValores(valor.substr(igual + 1), entrada->numerica, v.valores);
+            if (std::string error = LeerValores(valor.substr(igual + 1), entrada->numerica, v);
                 !error.empty())
                 return fallo("--variar " + v.nombre + ": " + error);
             estudio.variaciones.push_back(std::move(v));

@@ -189,8 +189,14 @@ std::vector<std::string> Partir(std::string_view texto, char separador) {
 
 }  // namespace
 
-std::string LeerValores(std::string_view texto, bool numerica, std::vector<std::string>& valores) {
-    valores.clear();
+std::string Variacion::Valor(size_t i) const {
+    if (!valores.empty()) return valores[i];
+    return TextoValor(intervalo.inicio + static_cast<double>(i) * intervalo.paso, intervalo.decimales);
+}
+
+std::string LeerValores(std::string_view texto, bool numerica, Variacion& v) {
+    v.valores.clear();
+    v.intervalo = {};
     if (texto.find(':') != std::string_view::npos) {
         const std::vector<std::string> partes = Partir(texto, ':');
         if (!numerica) return "solo una entrada numérica se recorre como INICIO:FIN:PASO";
@@ -213,8 +219,7 @@ std::string LeerValores(std::string_view texto, bool numerica, std::vector<std::
             const int d = Decimales(Recortar(p));
             decimales = d < 0 || decimales < 0 ? -1 : std::max(decimales, d);
         }
-        for (size_t i = 0; i < static_cast<size_t>(cuenta); ++i)
-            valores.push_back(TextoValor(inicio + static_cast<double>(i) * paso, decimales));
+        v.intervalo = {inicio, paso, static_cast<size_t>(cuenta), decimales};
         return {};
     }
     const char separador = texto.find(';') != std::string_view::npos ? ';' : ',';
@@ -222,7 +227,7 @@ std::string LeerValores(std::string_view texto, bool numerica, std::vector<std::
         std::string valor = Recortar(parte);
         if (valor.empty()) return "falta un valor en la lista: " + std::string(texto);
         if (numerica && !LeerNumero(valor)) return "no es un número: " + valor;
-        valores.push_back(std::move(valor));
+        v.valores.push_back(std::move(valor));
     }
     return {};
 }
@@ -232,15 +237,15 @@ std::string LeerValores(std::string_view texto, bool numerica, std::vector<std::
 size_t NumeroPuntos(const Estudio& estudio) {
     if (estudio.variaciones.empty()) return 0;
     size_t puntos = 1;
-    for (const Variacion& v : estudio.variaciones) puntos *= v.valores.size();
+    for (const Variacion& v : estudio.variaciones) puntos *= v.Cuenta();
     return puntos;
 }
 
 std::vector<size_t> IndicesPunto(const Estudio& estudio, size_t punto) {
     std::vector<size_t> indices;
     for (const Variacion& v : estudio.variaciones) {
-        indices.push_back(punto % v.valores.size());
-        punto /= v.valores.size();
+        indices.push_back(punto % v.Cuenta());
+        punto /= v.Cuenta();
     }
     return indices;
 }
@@ -249,7 +254,7 @@ OpcionesCalculo OpcionesPunto(const Estudio& estudio, size_t punto) {
     OpcionesCalculo o = estudio.base;
     const std::vector<size_t> indices = IndicesPunto(estudio, punto);
     for (size_t i = 0; i < indices.size(); ++i)
-        o.valores[estudio.variaciones[i].nombre] = estudio.variaciones[i].valores[indices[i]];
+        o.valores[estudio.variaciones[i].nombre] = estudio.variaciones[i].Valor(indices[i]);
     return o;
 }
 

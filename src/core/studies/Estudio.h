@@ -54,16 +54,28 @@ std::vector<std::string> ValoresEleccion(std::string_view nombre);
 // fuel of the list and a fuel of one's own.
 void QuitarExcluidas(OpcionesCalculo& o, std::string_view nombre);
 
-// The values of a varied input: "INICIO:FIN:PASO" or a list "A,B,C" (";"
-// between the values when they carry decimal commas). Each value is the text
-// put into the box. Empty on success, else why the text is refused.
-std::string LeerValores(std::string_view texto, bool numerica, std::vector<std::string>& valores);
-
-// A varied input and its values, texts as typed into its box.
+// A varied input and its values, texts as typed into its box: a list, or a
+// range whose values are worked out when they are asked for, so that a range
+// of millions of values takes no room.
 struct Variacion {
     std::string nombre;
-    std::vector<std::string> valores;
+    std::vector<std::string> valores;  // a list; empty for a range
+    struct Intervalo {
+        double inicio = 0, paso = 0;
+        size_t cuenta = 0;
+        int decimales = 0;  // of the texts; -1 for the shortest
+    } intervalo;
+
+    size_t Cuenta() const { return valores.empty() ? intervalo.cuenta : valores.size(); }
+    // The text of value i (i < Cuenta()).
+    std::string Valor(size_t i) const;
 };
+
+// The values of a varied input: "INICIO:FIN:PASO" (start + i·step, written
+// with the decimals typed, up to the end) or a list "A,B,C" (";" between the
+// values when they carry decimal commas). Empty on success, else why the text
+// is refused.
+std::string LeerValores(std::string_view texto, bool numerica, Variacion& v);
 
 // Beyond this a study is refused.
 inline constexpr size_t kPuntosMaximos = 10'000'000;

@@ -58,7 +58,7 @@ std::string Mensajes(const std::vector<std::string>& mensajes) {
 
 std::string TextoEntrada(const Estudio& estudio, size_t i, size_t punto, char decimal) {
     const Variacion& v = estudio.variaciones[i];
-    const std::string& texto = v.valores[IndicesPunto(estudio, punto)[i]];
+    const std::string texto = v.Valor(IndicesPunto(estudio, punto)[i]);
     const EntradaEstudio* entrada = BuscarEntradaEstudio(v.nombre);
     if (entrada && entrada->numerica)
         if (const auto x = LeerNumero(texto)) return ConDecimal(TextoNumeroJSON(*x), decimal);
@@ -117,8 +117,7 @@ EscritorJSONEstudio::EscritorJSONEstudio(std::ostream& os, const Estudio& estudi
         const EntradaEstudio* entrada = BuscarEntradaEstudio(v.nombre);
         os_ << (i ? "," : "") << "{\"nombre\":" << TextoCadenaJSON(v.nombre)
             << ",\"unidad\":" << TextoCadenaJSON(entrada ? entrada->unidad : "") << ",\"valores\":[";
-        for (size_t k = 0; k < v.valores.size(); ++k)
-            os_ << (k ? "," : "") << ValorJSON(estudio, i, v.valores[k]);
+        for (size_t k = 0; k < v.Cuenta(); ++k) os_ << (k ? "," : "") << ValorJSON(estudio, i, v.Valor(k));
         os_ << "]}";
     }
     os_ << "],\"salidas\":[";
@@ -135,7 +134,7 @@ void EscritorJSONEstudio::Punto(size_t punto, const ResultadoPunto& r) {
     for (size_t i = 0; i < estudio_.variaciones.size(); ++i) {
         const Variacion& v = estudio_.variaciones[i];
         os_ << (i ? "," : "") << TextoCadenaJSON(v.nombre) << ":"
-            << ValorJSON(estudio_, i, v.valores[indices[i]]);
+            << ValorJSON(estudio_, i, v.Valor(indices[i]));
     }
     os_ << "},\"salidas\":{";
     for (size_t j = 0; j < estudio_.salidas.size(); ++j) {

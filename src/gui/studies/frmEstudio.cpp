@@ -289,9 +289,9 @@ bool frmEstudio::LeerEstudio(Estudio& estudio) {
     for (auto [lista, caja] : entradas) {
         const EntradaEstudio* e = EntradaDe(lista);
         if (!e) continue;
-        Variacion v{e->nombre, {}};
-        if (std::string error = LeerValores(caja->text().toStdString(), e->numerica, v.valores);
-            !error.empty()) {
+        Variacion v;
+        v.nombre = e->nombre;
+        if (std::string error = LeerValores(caja->text().toStdString(), e->numerica, v); !error.empty()) {
             dlg_.MsgBox(std::string(e->titulo) + ": " + error);
             caja->setFocus();
             return false;
@@ -487,8 +487,8 @@ void frmEstudio::DibujarGraficas() {
     if (estudio_.variaciones.empty()) return;
     const Variacion& primera = estudio_.variaciones[0];
     const EntradaEstudio* x = BuscarEntradaEstudio(primera.nombre);
-    const size_t n1 = primera.valores.size();
-    const size_t lineas = estudio_.variaciones.size() > 1 ? estudio_.variaciones[1].valores.size() : 1;
+    const size_t n1 = primera.Cuenta();
+    const size_t lineas = estudio_.variaciones.size() > 1 ? estudio_.variaciones[1].Cuenta() : 1;
     const bool marcas = n1 <= 60;
 
     for (size_t j = 0; j < estudio_.salidas.size(); ++j) {
@@ -520,7 +520,7 @@ void frmEstudio::DibujarGraficas() {
                 const size_t p = k * n1 + i;
                 if (p >= resultados_.size()) break;
                 const double y = resultados_[p].valores[j];
-                const auto xv = LeerNumero(primera.valores[i]);
+                const auto xv = LeerNumero(primera.Valor(i));
                 if (!resultados_[p].bien || !std::isfinite(y) || !xv) {
                     tramo = nullptr;
                     continue;

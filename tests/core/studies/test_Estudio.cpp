@@ -17,19 +17,28 @@ using namespace vanta;
 namespace {
 
 std::vector<std::string> Valores(const char* texto, bool numerica = true) {
-    std::vector<std::string> v;
+    Variacion v;
     const std::string error = LeerValores(texto, numerica, v);
     if (!error.empty()) return {"error: " + error};
+    std::vector<std::string> valores;
+    for (size_t i = 0; i < v.Cuenta(); ++i) valores.push_back(v.Valor(i));
+    return valores;
+}
+
+Variacion Lista(const char* nombre, std::vector<std::string> valores) {
+    Variacion v;
+    v.nombre = nombre;
+    v.valores = std::move(valores);
     return v;
 }
 
-using Lista = std::vector<std::string>;
+using Textos = std::vector<std::string>;
 
 TEST(LeerValores, IntervalosYListas) {
     struct Caso {
         const char* texto;
         bool numerica;
-        Lista esperados;
+        Textos esperados;
     };
     const Caso casos[] = {
         {"8:10:0.5", true, {"8", "8.5", "9", "9.5", "10"}},
@@ -45,7 +54,7 @@ TEST(LeerValores, IntervalosYListas) {
     };
     for (const Caso& c : casos) EXPECT_EQ(Valores(c.texto, c.numerica), c.esperados) << c.texto;
     // The slack of a range's count: 60 steps of a tenth end at 14.
-    const Lista decimas = Valores("8:14:0.1");
+    const Textos decimas = Valores("8:14:0.1");
     ASSERT_EQ(decimas.size(), 61u);
     EXPECT_EQ(decimas[30], "11");
     EXPECT_EQ(decimas.back(), "14");
@@ -86,7 +95,7 @@ TEST(Estudio, QuitarExcluidasDejaMandarALaVariada) {
     QuitarExcluidas(o, "combustible");
     ASSERT_EQ(o.valores.size(), 1u);
     EXPECT_TRUE(o.Tiene("rc"));
-    EXPECT_EQ(ValoresEleccion("ciclo"), (Lista{"Otto", "Diesel", "Mixto"}));
+    EXPECT_EQ(ValoresEleccion("ciclo"), (Textos{"Otto", "Diesel", "Mixto"}));
     EXPECT_EQ(ValoresEleccion("combustible").size(), 7u);
     EXPECT_TRUE(ValoresEleccion("rc").empty());
 }
@@ -96,7 +105,7 @@ TEST(Estudio, QuitarExcluidasDejaMandarALaVariada) {
 Estudio Pequeno() {
     Estudio e;
     e.base.valores["rpm"] = "3000";
-    e.variaciones = {{"rc", {"8", "1", "12"}}, {"combustible", {"Gasolina", "Gasoil"}}};
+    e.variaciones = {Lista("rc", {"8", "1", "12"}), Lista("combustible", {"Gasolina", "Gasoil"})};
     for (const char* s : {"rendimiento", "p3", "presion-maxima", "potencia", "q34"})
         e.salidas.push_back(BuscarSalidaEstudio(s));
     return e;
@@ -164,7 +173,7 @@ TEST(Estudio, UnaVelocidadQueNoEsNumeroHaceFallarElPunto) {
     e.base.valores["rpm"] = "deprisa";
     const ResultadoPunto r = CalcularPunto(e, 0);
     EXPECT_FALSE(r.bien);
-    EXPECT_EQ(r.mensajes, Lista{" rpm no es un número"});
+    EXPECT_EQ(r.mensajes, Textos{" rpm no es un número"});
     EXPECT_TRUE(std::isnan(r.valores[0]));
     // Without an output of power the speed is not read.
     e.salidas = {BuscarSalidaEstudio("rendimiento")};
@@ -173,7 +182,7 @@ TEST(Estudio, UnaVelocidadQueNoEsNumeroHaceFallarElPunto) {
 
 TEST(Estudio, CancelarParaEntrePuntos) {
     Estudio e = Pequeno();
-    e.variaciones[0].valores = Valores("8:12:0.1");
+    ASSERT_EQ(LeerValores("8:12:0.1", true, e.variaciones[0]), "");
     for (unsigned hilos : {1u, 2u}) {
         std::atomic<bool> cancelar{false};
         size_t entregados = 0;
@@ -189,7 +198,7 @@ TEST(Estudio, CancelarParaEntrePuntos) {
 
 TEST(TablaEstudio, CamposEntreComillasYDecimalesDelDialecto) {
     Estudio e;
-    e.variaciones = {{"rc", {"8,5"}}};
+    e.variaciones = {Lista("rc", {"8,5"})};
     e.salidas = {BuscarSalidaEstudio("rendimiento"), BuscarSalidaEstudio("presion-maxima")};
     ResultadoPunto r{true, {0.25, 16777217.0}, {"dice \"sí\", y\notra"}};
     EXPECT_EQ(FilaCSV(e, 0, r, DialectoCSV::Rfc4180), "8.5,0.25,16777216,\"dice \"\"sí\"\", y\notra\"\r\n");
@@ -198,7 +207,7 @@ TEST(TablaEstudio, CamposEntreComillasYDecimalesDelDialecto) {
               "rc [-];rendimiento [-];presion-maxima [Pa];mensajes\r\n");
     r = {false, {std::nan(""), std::nan("")}, {"a", "b"}};
     EXPECT_EQ(FilaCSV(e, 0, r, DialectoCSV::Rfc4180), "8.5,,,a | b\r\n");
-    e.variaciones = {{"combustible", {"Gasoil"}}};
+    e.variaciones = {Lista("combustible", {"Gasoil"})};
     EXPECT_EQ(TextoEntrada(e, 0, 0, ','), "Gasoil");
     EXPECT_EQ(TituloConUnidad("Ciclo", ""), "Ciclo");
 }
