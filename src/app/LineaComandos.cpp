@@ -112,7 +112,7 @@ namespace {
 bool EscribirPotencia(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, const TextosResultados& r,
                       std::ostream& out) {
     CajaTextoSimple txtRpm(o.Valor("rpm")), txtPotencia, txtPotenciaCV;
-    txtRpm_Change(e, dlg, txtRpm, txtPotencia, txtPotenciaCV);
+    txtRpm_Change(e, dlg, e.Wciclo, txtRpm, txtPotencia, txtPotenciaCV);
     out << "r.p.m. = " << txtRpm.Text() << "\r\n"
         << "Potencia = " << txtPotencia.Text() << " W = " << txtPotenciaCV.Text() << " CV\r\n"
         << "Consumo = " << r.txtConsumoMJ << " g / MJ = " << r.txtConsumoKwh << " g / (kW·h)\r\n";

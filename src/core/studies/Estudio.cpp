@@ -275,7 +275,7 @@ ResultadoPunto CalcularPunto(const Estudio& estudio, size_t punto) {
         std::any_of(estudio.salidas.begin(), estudio.salidas.end(), [](auto* s) { return s->conRegimen; });
     if (r.bien && conRegimen) {
         CajaTextoSimple txtRpm(o.Valor("rpm"));
-        potencia = Potencia(e, dlg, txtRpm);
+        potencia = Potencia(e, dlg, e.Wciclo, txtRpm);
         r.bien = !e.ErrorCalculo;
     }
     for (const SalidaEstudio* salida : estudio.salidas)
