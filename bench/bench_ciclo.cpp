@@ -39,8 +39,8 @@ void Ciclo(benchmark::State& estado) {
         compresion[m]->SetValue(m + 1 == modelo);
         expansion[m]->SetValue(m + 1 == modelo);
     }
-    ElegirModeloCompresion(e, modelo);
-    ElegirModeloExpansion(e, modelo);
+    ElegirModeloCompresion(e, static_cast<Modelo>(modelo));
+    ElegirModeloExpansion(e, static_cast<Modelo>(modelo));
     e.TipoCiclo = ciclo;
     if (ciclo == "Diesel") p.txtRc.SetText("18");
     if (ciclo == "Mixto") p.txtPMax.SetText("6000000");

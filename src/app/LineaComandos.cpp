@@ -131,6 +131,7 @@ std::string TextoUso() {
     return "Uso: vanta                              la ventana principal\n"
            "     vanta calcular [opciones]          el cálculo completo sin ventana; escribe el informe\n"
            "     vanta tablas [opciones]            las tablas de propiedades como texto\n"
+           "     vanta estudio [opciones]           un estudio paramétrico (vanta estudio --help)\n"
            "     vanta validar                      la tabla de validación del modelo (sale con 1 si algo no "
            "cumple)\n"
            "     vanta --version                    la versión del programa\n"

@@ -1,5 +1,8 @@
 // Vanta: with no arguments the main window; `vanta calcular …`,
-// `vanta tablas …` and `vanta validar` the same logic headless.
+// `vanta estudio …`, `vanta tablas …` and `vanta validar` the same logic
+// headless.
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QGuiApplication>
@@ -7,11 +10,13 @@
 #include <QLocale>
 #include <QTranslator>
 #include <clocale>
+#include <cstdio>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "app/LineaComandos.h"
+#include "app/LineaEstudio.h"
 #include "app/LineaTablas.h"
 #include "app/LineaValidacion.h"
 #include "core/services/Numeros.h"
@@ -96,6 +101,22 @@ int Calcular(const std::vector<std::string>& argumentos) {
     return cli::kSalidaBien;
 }
 
+// A parametric study headless, with its progress on the terminal.
+int Estudio(const std::vector<std::string>& argumentos) {
+    using namespace vanta;
+    if (argumentos.size() == 1 && (argumentos[0] == "--help" || argumentos[0] == "-h")) {
+        std::cout << cli::TextoUsoEstudio();
+        return cli::kSalidaBien;
+    }
+    const cli::ParseoEstudio p = cli::ParsearEstudio(argumentos);
+    if (!p.opciones) {
+        std::cerr << "vanta estudio: " << p.error << "\n" << cli::kVerAyuda << "vanta estudio --help\n";
+        return cli::kSalidaUso;
+    }
+    return cli::EjecutarLineaEstudio(*p.opciones, std::cout, std::cerr,
+                                     isatty(fileno(stderr)) ? &std::cerr : nullptr);
+}
+
 // The decimal separator of the system's regional settings: a Spanish system
 // writes and reads "8,5".
 char SeparadorDelSistema() {
@@ -142,6 +163,7 @@ int main(int argc, char** argv) {
     const std::string orden = argumentos[0];
     const std::vector<std::string> resto(argumentos.begin() + 1, argumentos.end());
     if (orden == "calcular") return Calcular(resto);
+    if (orden == "estudio") return Estudio(resto);
     if (orden == "tablas") return vanta::cli::EjecutarTablas(resto, std::cout, std::cerr);
     if (orden == "validar") return vanta::cli::EjecutarValidar(resto, std::cout, std::cerr);
     if (orden == "--help" || orden == "-h") {

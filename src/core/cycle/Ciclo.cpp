@@ -73,9 +73,6 @@ constexpr std::string_view kMascaraGamma = "### ### ### ##0.000";
 constexpr std::string_view kMascaraConsumo = "### ### ### ##0.0";
 constexpr std::string_view kMascaraPotencia = "### ### ### ##0.0";
 
-// W of one CV.
-constexpr double kVatiosCV = 735.49875;
-
 void Fallo(Estado& e, Dialogos& dlg, std::string_view mensaje) {
     dlg.MsgBox(mensaje);
     e.ErrorCalculo = Verdadero;
@@ -483,14 +480,21 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     if (c.chkOcultar.Value()) c.ventana.Hide();
 }
 
-void txtRpm_Change(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm, CajaTexto& txtPotencia,
-                   CajaTexto& txtPotenciaCV) {
-    if (txtRpm.Text().empty()) return;
+double Potencia(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm) {
     double rpm = 0;
     ValidarNumero(e, dlg, txtRpm, rpm, " rpm ");
     // One power stroke in two revolutions.
     const double potencia = Wciclo * rpm * 0.5 / 60;
-    if (!std::isfinite(potencia)) return FalloAritmetico(e, dlg, kCausaPotencia);
+    if (std::isfinite(potencia)) return potencia;
+    FalloAritmetico(e, dlg, kCausaPotencia);
+    return std::nan("");
+}
+
+void txtRpm_Change(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm, CajaTexto& txtPotencia,
+                   CajaTexto& txtPotenciaCV) {
+    if (txtRpm.Text().empty()) return;
+    const double potencia = Potencia(e, dlg, Wciclo, txtRpm);
+    if (!std::isfinite(potencia)) return;
     txtPotencia.SetText(Format(Round(potencia, 1), kMascaraPotencia, e.SeparadorDecimal));
     txtPotenciaCV.SetText(Format(Round(potencia / kVatiosCV, 1), kMascaraPotencia, e.SeparadorDecimal));
 }

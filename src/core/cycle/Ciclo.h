@@ -135,6 +135,15 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
 // The texts of the result labels from the state, with their masks.
 TextosResultados TextosDeResultados(const Estado& e);
 
+// W of one CV.
+inline constexpr double kVatiosCV = 735.49875;
+
+// The power in W of the cycle work given at the speed in txtRpm (read with
+// ValidarNumero, which tells a text that is not a number and leaves the speed
+// at 0): one power stroke in two revolutions. NaN, with the calculation
+// stopped, when it leaves the doubles.
+double Potencia(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm);
+
 // The power boxes, when the text of txtRpm changes, from the cycle work of
 // the figures on screen (Wciclo as the calculation that showed them closed
 // it: a later calculation that failed leaves other work in the state).

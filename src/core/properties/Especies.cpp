@@ -1,6 +1,8 @@
 #include "core/properties/Especies.h"
 
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <string>
 
 #include "core/services/Fallos.h"
@@ -36,12 +38,30 @@ constexpr std::string_view kCausaTemperaturaFueraDeRango =
     "la temperatura del gas es tan próxima a cero que su entalpía sale del intervalo de los números del "
     "programa";
 
-// T and its powers, each power taken once by the general power function.
+// T and its powers, each taken once, as the general power function gives them.
 struct Potencias {
     double T, T2, T3, T4, lnT;
-    explicit Potencias(double t)
-        : T(t), T2(std::pow(t, 2.0)), T3(std::pow(t, 3.0)), T4(std::pow(t, 4.0)), lnT(std::log(t)) {}
+    explicit Potencias(double t) : T(t), lnT(std::log(t)) { PotenciasComoPow(t, T2, T3, T4); }
 };
+
+// The double nearest to hi + lo (lo small beside hi) when it is certainly
+// what pow returns for the exact value hi + lo, 0 when it is not certain.
+// pow is within 0.509 ulp (its exponential) plus y·ln x·2^-15 ulp (its
+// logarithm) of the exact power: below 0.512 ulp for these powers of any
+// temperature up to 10^9 K. So when the exact value lies within 0.45 ulp of a
+// double that is not a power of two (whose neighbours are then a whole ulp
+// away on both sides, at least 0.55 ulp from the exact value), pow gives that
+// double.
+double Redondeo(double hi, double lo) {
+    const double r = hi + lo;
+    if (!(r > 0x1p-900 && r < 0x1p120)) return 0;
+    const auto bits = std::bit_cast<std::uint64_t>(r);
+    constexpr std::uint64_t kExponente = 0x7FF0000000000000, kMantisa = 0x000FFFFFFFFFFFFF;
+    if ((bits & kMantisa) == 0) return 0;
+    const double ulp = std::bit_cast<double>(bits & kExponente) * 0x1p-52;
+    const double resto = (hi - r) + lo;  // hi - r is exact: r is within an ulp of hi
+    return std::fabs(resto) <= 0.45 * ulp ? r : 0;
+}
 
 inline double Cp(const Potencias& p, const Coeficientes& c) {
     return kR * (c.a1 + c.a2 * p.T + c.a3 * p.T2 + c.a4 * p.T3 + c.a5 * p.T4);
@@ -54,33 +74,39 @@ inline double Entropia(const Potencias& p, const Coeficientes& c) {
     return kR * (c.a1 * p.lnT + c.a2 * p.T + c.a3 * p.T2 / 2 + c.a4 * p.T3 / 3 + c.a5 * p.T4 / 4 + c.a7);
 }
 
-// Where each range keeps its values, by species.
-struct CamposRango {
-    double Estado::*cp[kNumeroEspecies];
-    double Estado::*h[kNumeroEspecies];
-    double Estado::*s0[kNumeroEspecies];
-};
-const CamposRango kCamposBaja = {
-    {&Estado::CpArBaja, &Estado::CpCOBaja, &Estado::CpCO2Baja, &Estado::CpH2OBaja, &Estado::CpN2Baja,
-     &Estado::CpO2Baja},
-    {&Estado::hArBaja, &Estado::hCOBaja, &Estado::hCO2Baja, &Estado::hH2OBaja, &Estado::hN2Baja,
-     &Estado::hO2Baja},
-    {&Estado::S0ArBaja, &Estado::S0COBaja, &Estado::S0CO2Baja, &Estado::S0H2OBaja, &Estado::S0N2Baja,
-     &Estado::S0O2Baja},
-};
-const CamposRango kCamposAlta = {
-    {&Estado::CpArAlta, &Estado::CpCOAlta, &Estado::CpCO2Alta, &Estado::CpH2OAlta, &Estado::CpN2Alta,
-     &Estado::CpO2Alta},
-    {&Estado::hArAlta, &Estado::hCOAlta, &Estado::hCO2Alta, &Estado::hH2OAlta, &Estado::hN2Alta,
-     &Estado::hO2Alta},
-    {&Estado::S0ArAlta, &Estado::S0COAlta, &Estado::S0CO2Alta, &Estado::S0H2OAlta, &Estado::S0N2Alta,
-     &Estado::S0O2Alta},
-};
+// The values of a range into the state's variables of that range.
+#define VANTA_GUARDAR_RANGO(R)                                                                      \
+    void GuardarVariables##R(Estado& e, const EspeciesEvaluadas::Rango& v) {                        \
+        e.CpAr##R = v.cp[Ar], e.CpCO##R = v.cp[CO], e.CpCO2##R = v.cp[CO2], e.CpH2O##R = v.cp[H2O]; \
+        e.CpN2##R = v.cp[N2], e.CpO2##R = v.cp[O2];                                                 \
+        e.hAr##R = v.h[Ar], e.hCO##R = v.h[CO], e.hCO2##R = v.h[CO2], e.hH2O##R = v.h[H2O];         \
+        e.hN2##R = v.h[N2], e.hO2##R = v.h[O2];                                                     \
+        e.S0Ar##R = v.s0[Ar], e.S0CO##R = v.s0[CO], e.S0CO2##R = v.s0[CO2], e.S0H2O##R = v.s0[H2O]; \
+        e.S0N2##R = v.s0[N2], e.S0O2##R = v.s0[O2];                                                 \
+    }
+VANTA_GUARDAR_RANGO(Baja)
+VANTA_GUARDAR_RANGO(Alta)
+#undef VANTA_GUARDAR_RANGO
 
 // The order of evaluation of the program: Ar, H2O, O2, CO, CO2, N2.
 constexpr Especie kOrden[kNumeroEspecies] = {Ar, H2O, O2, CO, CO2, N2};
 
 }  // namespace
+
+void PotenciasComoPow(double x, double& x2, double& x3, double& x4) {
+    // x² = a + ea exactly; x³ = x·a + x·ea, with x·a = b + eb exactly; x⁴ =
+    // a² + 2·a·ea + ea², with a² = c + ec exactly. The terms left out are
+    // some 2^-100 of the power, far below the margin of Redondeo.
+    const double a = x * x, ea = std::fma(x, x, -a);
+    const double b = x * a, eb = std::fma(x, a, -b);
+    const double c = a * a, ec = std::fma(a, a, -c);
+    x2 = Redondeo(a, ea);
+    x3 = Redondeo(b, eb + x * ea);
+    x4 = Redondeo(c, ec + 2 * a * ea);
+    if (x2 == 0) x2 = std::pow(x, 2.0);
+    if (x3 == 0) x3 = std::pow(x, 3.0);
+    if (x4 == 0) x4 = std::pow(x, 4.0);
+}
 
 double PolinomioCp(const Estado& e, double a1, double a2, double a3, double a4, double a5) {
     return Cp(Potencias(e.Temperatura), {a1, a2, a3, a4, a5, 0, 0});
@@ -104,32 +130,34 @@ void CalcularEspecies(Estado& e, Dialogos& dlg) {
         FalloAritmetico(e, dlg, kCausaTemperaturaNoPositiva);
         return;
     }
+    // The last values stored were taken at this very temperature.
+    if (e.Temperatura == e.especies.temperatura) return;
     const bool baja = RangoBajo(e.Temperatura);
     const Coeficientes* coef = baja ? kCoeficientesBaja : kCoeficientesAlta;
-    const CamposRango& campos = baja ? kCamposBaja : kCamposAlta;
     const Potencias p(e.Temperatura);
+    EspeciesEvaluadas::Rango v;
     // A temperature a hair above zero takes a6/T of the enthalpy beyond the
     // doubles; nothing is stored then.
-    double h[kNumeroEspecies], sumaH = 0;
-    for (Especie s : kOrden) sumaH += h[s] = Entalpia(p, coef[s]);
+    double sumaH = 0;
+    for (Especie s : kOrden) sumaH += v.h[s] = Entalpia(p, coef[s]);
     if (!std::isfinite(sumaH)) {
         FalloAritmetico(e, dlg, kCausaTemperaturaFueraDeRango);
         return;
     }
-    for (Especie s : kOrden) e.*campos.cp[s] = Cp(p, coef[s]);
-    for (Especie s : kOrden) e.*campos.h[s] = h[s];
-    for (Especie s : kOrden) e.*campos.s0[s] = Entropia(p, coef[s]);
+    for (Especie s : kOrden) v.cp[s] = Cp(p, coef[s]);
+    for (Especie s : kOrden) v.s0[s] = Entropia(p, coef[s]);
+    if (baja) {
+        e.especies.baja = v;
+        GuardarVariablesBaja(e, v);
+    } else {
+        e.especies.alta = v;
+        GuardarVariablesAlta(e, v);
+    }
+    e.especies.temperatura = e.Temperatura;
 }
 
-ValoresEspecies LeerEspecies(const Estado& e, bool rangoBajo) {
-    const CamposRango& campos = rangoBajo ? kCamposBaja : kCamposAlta;
-    ValoresEspecies v;
-    for (int s = 0; s < kNumeroEspecies; ++s) {
-        v.cp[s] = e.*campos.cp[s];
-        v.h[s] = e.*campos.h[s];
-        v.s0[s] = e.*campos.s0[s];
-    }
-    return v;
+const ValoresEspecies& LeerEspecies(const Estado& e, bool rangoBajo) {
+    return rangoBajo ? e.especies.baja : e.especies.alta;
 }
 
 }  // namespace vanta

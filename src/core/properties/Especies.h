@@ -37,6 +37,10 @@ inline const Coeficientes& CoeficientesDe(Especie s, double temperatura) {
     return RangoBajo(temperatura) ? kCoeficientesBaja[s] : kCoeficientesAlta[s];
 }
 
+// x², x³ and x⁴, each the very double that std::pow(x, n) gives, at a
+// fraction of its cost.
+void PotenciasComoPow(double x, double& x2, double& x3, double& x4);
+
 // At the record's Temperatura.
 double PolinomioCp(const Estado& e, double a1, double a2, double a3, double a4, double a5);
 double PolinomioEntalpia(const Estado& e, double a1, double a2, double a3, double a4, double a5, double a6);
@@ -47,10 +51,10 @@ double PolinomioEntropia(const Estado& e, double a1, double a2, double a3, doubl
 // ErrorCalculo is set; the limit is tested first.
 void CalcularEspecies(Estado& e, Dialogos& dlg);
 
-// The species values of one range, as the mixtures read them.
-struct ValoresEspecies {
-    double cp[kNumeroEspecies], h[kNumeroEspecies], s0[kNumeroEspecies];
-};
-ValoresEspecies LeerEspecies(const Estado& e, bool rangoBajo);
+// The species values of one range, as the mixtures read them: those of the
+// variables of that range, by species.
+using ValoresEspecies = EspeciesEvaluadas::Rango;
+static_assert(sizeof(ValoresEspecies::cp) / sizeof(double) == kNumeroEspecies);
+const ValoresEspecies& LeerEspecies(const Estado& e, bool rangoBajo);
 
 }  // namespace vanta

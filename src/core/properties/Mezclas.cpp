@@ -46,7 +46,7 @@ bool Finitos(std::initializer_list<double> valores) {
 }
 
 // The species of the range of the record's temperature, after CalcularEspecies.
-ValoresEspecies Especies(const Estado& e) {
+const ValoresEspecies& Especies(const Estado& e) {
     return LeerEspecies(e, RangoBajo(e.Temperatura));
 }
 
@@ -86,7 +86,7 @@ void PropiedadesAire(Estado& e, Dialogos& dlg) {
         FalloAritmetico(e, dlg, kCausaPresionNegativa);
         return;
     }
-    const ValoresEspecies v = Especies(e);
+    const ValoresEspecies& v = Especies(e);
     const double P = e.Presion;
     const double cp = v.cp[H2O] * e.xH2OAire + v.cp[Ar] * e.xArAire + v.cp[O2] * e.xO2Aire +
                       v.cp[CO2] * e.xCO2Aire + v.cp[N2] * e.xN2Aire;
@@ -128,7 +128,7 @@ void PropiedadesHumos(Estado& e, Dialogos& dlg) {
         return;
     }
     const bool baja = RangoBajo(e.Temperatura);
-    const ValoresEspecies v = Especies(e);
+    const ValoresEspecies& v = Especies(e);
     const double P = e.Presion;
     const double cp = v.cp[O2] * e.xO2Humos + v.cp[Ar] * e.xArHumos + v.cp[H2O] * e.xH2OHumos +
                       v.cp[CO] * e.xCOHumos + v.cp[CO2] * e.xCO2Humos + v.cp[N2] * e.xN2Humos;

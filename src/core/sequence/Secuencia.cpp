@@ -272,13 +272,19 @@ struct EscritorJSON {
 
 }  // namespace
 
-std::string NumeroJSON(double v) {
+std::string TextoNumeroJSON(double v) {
     std::ostringstream os;
     EscribirNumero(os, v);
     return os.str();
 }
 
-std::string TextoJSON(const std::string& t) {
+std::string TextoNumeroJSON(float v) {
+    std::ostringstream os;
+    EscribirNumero(os, v);
+    return os.str();
+}
+
+std::string TextoCadenaJSON(const std::string& t) {
     std::ostringstream os;
     EscribirTexto(os, t);
     return os.str();

@@ -62,13 +62,17 @@ bool CalcularTodo(Estado& e, const OpcionesCalculo& o, Dialogos& dlg, Superficie
 // The text the fuel list shows: the named fuel, or the user's own.
 std::string TextoListaCombustible(const OpcionesCalculo& o);
 
+// A number as that JSON writes it: the shortest text that reads back to the
+// same number (of single precision for a float), "null" for one that is not
+// finite.
+std::string TextoNumeroJSON(double v);
+std::string TextoNumeroJSON(float v);
+// A text as that JSON writes it, quoted and escaped.
+std::string TextoCadenaJSON(const std::string& t);
+
 // Every variable of the state as one JSON object, full precision (the
 // shortest text that reads back to the same number), keyed by the state's
 // own names.
 std::string EstadoJSON(const Estado& e);
-
-// A number and a text as that JSON writes them.
-std::string NumeroJSON(double v);
-std::string TextoJSON(const std::string& t);
 
 }  // namespace vanta

@@ -18,24 +18,6 @@ void Superficie::Cls() {
     AlLimpiar();
 }
 
-void Superficie::PSet(float x, float y) {
-    actualX_ = x;
-    actualY_ = y;
-    AlPunto(x, y);
-}
-
-void Superficie::Line(float x, float y) {
-    AlLinea(actualX_, actualY_, x, y);
-    actualX_ = x;
-    actualY_ = y;
-}
-
-void Superficie::Line(float x1, float y1, float x2, float y2) {
-    AlLinea(x1, y1, x2, y2);
-    actualX_ = x2;
-    actualY_ = y2;
-}
-
 void Superficie::LineBox(float x1, float y1, float x2, float y2, int32_t color) {
     AlCaja(x1, y1, x2, y2, color);
     actualX_ = x2;

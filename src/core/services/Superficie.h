@@ -57,10 +57,22 @@ public:
     // Wipes the transient layer and shows the persistent picture again.
     virtual void Refresh() {}
 
-    void PSet(float x, float y);
+    void PSet(float x, float y) {
+        actualX_ = x;
+        actualY_ = y;
+        if (dibuja_) AlPunto(x, y);
+    }
     // A line from the current point, which moves to its end.
-    void Line(float x, float y);
-    void Line(float x1, float y1, float x2, float y2);
+    void Line(float x, float y) {
+        if (dibuja_) AlLinea(actualX_, actualY_, x, y);
+        actualX_ = x;
+        actualY_ = y;
+    }
+    void Line(float x1, float y1, float x2, float y2) {
+        if (dibuja_) AlLinea(x1, y1, x2, y2);
+        actualX_ = x2;
+        actualY_ = y2;
+    }
     // A box from the corner (x1, y1) to (x2, y2), filled with color.
     void LineBox(float x1, float y1, float x2, float y2, int32_t color);
 
@@ -71,6 +83,10 @@ public:
     virtual float TextHeight(std::string_view texto) const = 0;
 
 protected:
+    // False for a surface whose points and lines go nowhere: the calculation
+    // then makes no call for each of them.
+    bool dibuja_ = true;
+
     // Drawing hooks, in user coordinates, onto the layer AutoRedraw names.
     virtual void AlLimpiar() {}
     virtual void AlPunto(float, float) {}
@@ -91,6 +107,7 @@ private:
 // Draws nothing; text has no size.
 class SuperficieNula : public Superficie {
 public:
+    SuperficieNula() { dibuja_ = false; }
     float TextWidth(std::string_view) const override { return 0; }
     float TextHeight(std::string_view) const override { return 0; }
 };

@@ -338,6 +338,20 @@ struct PasadasGammaMedio {
     int humos = 0;  // expansion
 };
 
+// The six species (Ar, CO, CO2, H2O, N2, O2) of each range as the last
+// evaluation in that range left them, the same values as CpArBaja … S0O2Alta,
+// held as arrays for the mixtures' sums, with the temperature of the last
+// evaluation that stored values: evaluating again at that temperature gives
+// the same values, so it is not done twice. Derived data, not a variable of
+// the calculation.
+struct EspeciesEvaluadas {
+    struct Rango {
+        double cp[6], h[6], s0[6];
+    };
+    Rango baja{}, alta{};
+    double temperatura = -1;  // none yet: no evaluation stores at T <= 0
+};
+
 struct Estado : RegistroTransformacion,
                 ValoresObtenidos,
                 Varios,
@@ -349,6 +363,7 @@ struct Estado : RegistroTransformacion,
                 Graficas {
     LogaritmosFracciones logaritmos;
     PasadasGammaMedio pasadas;
+    EspeciesEvaluadas especies;
     // The decimal separator of every number the calculation writes: "." by
     // default (command line, tests); the window takes the system's.
     char SeparadorDecimal = '.';

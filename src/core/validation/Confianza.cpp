@@ -13,7 +13,7 @@ std::string EstadoJSONConfianza(const Estado& e, std::string_view combustible, b
     if (bien) {
         bool primero = true;
         for (const Aviso& a : AvisosValidez(e, combustible)) {
-            json += (primero ? "" : ",") + TextoJSON(a.texto);
+            json += (primero ? "" : ",") + TextoCadenaJSON(a.texto);
             primero = false;
         }
     }
@@ -21,11 +21,11 @@ std::string EstadoJSONConfianza(const Estado& e, std::string_view combustible, b
     if (bien) {
         const DistanciaIdeal d = DistanciaAlIdeal(e);
         if (d.aireEstandar.valido)
-            json += ",\"RendimientoIdealAireEstandar\":" + NumeroJSON(d.aireEstandar.rendimiento);
+            json += ",\"RendimientoIdealAireEstandar\":" + TextoNumeroJSON(d.aireEstandar.rendimiento);
         if (d.exponentes.valido) {
-            json += ",\"RendimientoIdealExponentes\":" + NumeroJSON(d.exponentes.rendimiento);
-            json += ",\"ExponenteMedioCompresion\":" + NumeroJSON(d.exponentes.gammaCompresion);
-            json += ",\"ExponenteMedioExpansion\":" + NumeroJSON(d.exponentes.gammaExpansion);
+            json += ",\"RendimientoIdealExponentes\":" + TextoNumeroJSON(d.exponentes.rendimiento);
+            json += ",\"ExponenteMedioCompresion\":" + TextoNumeroJSON(d.exponentes.gammaCompresion);
+            json += ",\"ExponenteMedioExpansion\":" + TextoNumeroJSON(d.exponentes.gammaExpansion);
         }
     }
     return json + "}";

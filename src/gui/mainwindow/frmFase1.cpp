@@ -31,6 +31,8 @@
 #include "gui/resources/Dibujos.h"
 #include "gui/resources/Programa.h"
 #include "gui/services/Controles.h"
+#include "gui/studies/OpcionesVentanas.h"
+#include "gui/studies/frmEstudio.h"
 #include "gui/tables/frmHerramientas.h"
 #include "gui/validation/PanelConfianza.h"
 #include "gui/validation/frmValidacion.h"
@@ -325,6 +327,8 @@ void frmFase1::CrearMenus() {
     mnuTablasActual_ =
         Entrada(mnuHerramientas_, "mnuTablasActual", "Tablas del aire y gases del ciclo &actual");
     mnuTablas_ = Entrada(mnuHerramientas_, "mnuTablas", "&Tablas del aire y gases");
+    mnuEstudio_ = Entrada(mnuHerramientas_, "mnuEstudio", "&Estudio paramétrico");
+    connect(mnuEstudio_, &QAction::triggered, this, &frmFase1::mnuEstudio_Click);
     barra->addMenu(mnuHerramientas_);
 
     mnuAyuda_ = Menu(barra, "mnuAyuda", "Ay&uda");
@@ -640,6 +644,18 @@ void frmFase1::mnuTablas_Click() {
     vanta::mnuTablas_Click(flujo_);
     Mostrar();
     Herramientas().MostrarParaDefinir();
+}
+
+void frmFase1::mnuEstudio_Click() {
+    if (!frmEstudio_) {
+        auto base = [this] {
+            return OpcionesDeLasVentanas(
+                {frmAireHumedad_, frmCombustible_, frmGasesCombustion_, frmOtto_Diesel_, this}, e_.TipoCiclo);
+        };
+        frmEstudio_ =
+            std::make_unique<frmEstudio>(std::move(base), *dlg_, e_.SeparadorDecimal, nullptr, this);
+    }
+    frmEstudio_->Mostrar();
 }
 
 void frmFase1::mnuAyuda2_Click() {

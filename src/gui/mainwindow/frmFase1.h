@@ -44,6 +44,7 @@ class frmCombustible;
 class frmGasesCombustion;
 class frmOtto_Diesel;
 class PanelConfianza;
+class frmEstudio;
 
 class frmFase1 : public QMainWindow, public VentanaPrincipal {
     Q_OBJECT
@@ -125,6 +126,7 @@ public slots:
     void mnuCalcular_Click();
     void mnuTablasActual_Click();
     void mnuTablas_Click();
+    void mnuEstudio_Click();
     void mnuAyuda2_Click();
     void mnuAcercaDe_Click();
     // The diagrams (with scales) and charts of the calculation as figures.
@@ -254,6 +256,9 @@ private:
     Flujo flujo_;
     LecturaEstado lectura_;
     std::unique_ptr<frmHerramientas> frmHerramientas_;
+    // Herramientas › Estudio paramétrico, made at its first opening.
+    QAction* mnuEstudio_ = nullptr;
+    std::unique_ptr<frmEstudio> frmEstudio_;
     std::unique_ptr<frmBaseDatos> frmBaseDatos_;
     // The report windows and the buffer rthInforme, which lives with them.
     std::unique_ptr<VisoresInforme> visores_;
