@@ -82,3 +82,20 @@ TEST(Registro, UnaCifraQueNoEsFinitaNoLlegaAlRegistroComoNaNNiInfinito) {
     }
     EXPECT_EQ(bd::ValoresRegistro(e, "", "", "")[0], "");
 }
+
+TEST(Registro, LoQueLePasaAlArchivoSeDiceComoEs) {
+    // A folder that cannot be written, though the file can, is not a file
+    // that cannot be written.
+    EXPECT_NE(bd::CausaSQLite(1544, "attempt to write a readonly database").find("la carpeta"),
+              std::string::npos);
+    EXPECT_EQ(bd::CausaSQLite(8, ""), "el archivo es de solo lectura");
+    EXPECT_EQ(bd::CausaSQLite(99, "raro"), "error de la base de datos (raro)");
+    for (int danado : {11, 26, 267}) EXPECT_TRUE(bd::EsDano(danado)) << danado;
+    for (int otro : {1, 13, 1544}) EXPECT_FALSE(bd::EsDano(otro)) << otro;
+    // A damaged file promises nothing of the records saved before.
+    const std::string danado =
+        bd::MsgArchivoDanado("/x/BD.sqlite", "Page 3: btreeInitPage() returns error code 11");
+    EXPECT_EQ(danado.find("siguen"), std::string::npos);
+    EXPECT_NE(danado.find("/x/BD.sqlite está dañado"), std::string::npos);
+    EXPECT_NE(bd::MsgNoSeGuarda("x").find("siguen en la base de datos"), std::string::npos);
+}
