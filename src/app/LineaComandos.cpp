@@ -6,6 +6,7 @@
 #include <set>
 #include <sstream>
 
+#include "core/database/Direccion.h"
 #include "core/fluids/Combustible.h"
 
 namespace vanta::cli {
@@ -13,7 +14,7 @@ namespace vanta::cli {
 namespace {
 
 // The options with a value that are not inputs of the calculation.
-const char* kOpcionesSalida[] = {"html", "guardar"};
+const char* kOpcionesSalida[] = {"html", "guardar", "base-datos"};
 
 bool EsOpcion(const std::string& nombre) {
     for (const char* o : kOpcionesSalida)
@@ -54,6 +55,11 @@ std::string Comprobar(const OpcionesCalcular& o) {
     if (o.Tiene("fr") && o.Tiene("lambda")) return "--fr y --lambda se excluyen entre sí";
     if (o.Tiene("proporcion-vcte") && o.Tiene("pmax"))
         return "--proporcion-vcte y --pmax se excluyen entre sí";
+    if (o.Tiene("base-datos")) {
+        if (!o.Tiene("guardar")) return "--base-datos va con --guardar";
+        if (const auto d = bd::LeerDireccion(o.Valor("base-datos")); !d.direccion)
+            return "--base-datos: " + d.error;
+    }
     return {};
 }
 
@@ -76,8 +82,10 @@ Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
     if (std::string error = Comprobar(o); !error.empty()) return {std::nullopt, error};
     o.html = o.Valor("html");
     o.guardar = o.Valor("guardar");
+    o.baseDatos = o.Valor("base-datos");
     o.valores.erase("html");
     o.valores.erase("guardar");
+    o.valores.erase("base-datos");
     return {o, {}};
 }
 
@@ -90,6 +98,11 @@ std::string TextoUso() {
            "  --json                          en lugar del informe, todas las variables del cálculo en JSON\n"
            "  --html CARPETA                  escribe también la página HTML y sus siete imágenes\n"
            "  --guardar NOMBRE                guarda también el resultado en la base de datos\n"
+           "  --base-datos RUTA|DIRECCIÓN     dónde la guarda: un archivo SQLite (por defecto BD.sqlite\n"
+           "                                  en la carpeta actual) o un servidor PostgreSQL,\n"
+           "                                  "
+           "postgresql://usuario@servidor:5432/basedatos[?sslmode=require];\n"
+           "                                  la contraseña, en PGPASSFILE (~/.pgpass) o PGPASSWORD\n"
            "  --presion-ambiente PA (100000)  --temperatura-ambiente K (300)  --humedad PCT (0)\n"
            "  --combustible NOMBRE (Gasolina) | --formula C,H,N,O,S --entalpia-formacion J_MOL\n"
            "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion "

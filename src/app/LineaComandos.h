@@ -23,6 +23,9 @@ struct OpcionesCalcular : OpcionesCalculo {
     bool json = false;
     std::string html;     // folder for the page and its bitmaps, empty for none
     std::string guardar;  // record name for the results database, empty for none
+    // The results database: a file, or a postgresql:// address; empty for
+    // BD.sqlite in the current folder.
+    std::string baseDatos;
 };
 
 struct Parseo {

@@ -67,7 +67,8 @@ int Calcular(const std::vector<std::string>& argumentos) {
         }
     }
     if (!o.guardar.empty()) {
-        if (!GuardarRegistro(e, o.guardar, tipo, informe, imagenes, dlg)) return cli::kSalidaFallo;
+        if (!GuardarRegistro(e, o.guardar, tipo, informe, imagenes, dlg, QString::fromStdString(o.baseDatos)))
+            return cli::kSalidaFallo;
     }
     return cli::kSalidaBien;
 }
