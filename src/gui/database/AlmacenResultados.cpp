@@ -238,7 +238,12 @@ bool AlmacenResultados::Abrir() {
         Cerrar();
         return false;
     }
+    // The look at a file is one read transaction, so that another program's
+    // creation is seen whole or not at all.
+    QSqlDatabase db = QSqlDatabase::database(conexion_, false);
+    const bool lectura = !Servidor() && db.transaction();
     const auto hallazgo = Comprobar();
+    if (lectura) db.rollback();
     if (!hallazgo || hallazgo == Hallazgo::Ajena) {
         Cerrar();
         return false;
