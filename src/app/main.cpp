@@ -15,6 +15,7 @@
 #include "app/LineaTablas.h"
 #include "core/services/Numeros.h"
 #include "gui/database/GuardarBaseDatos.h"
+#include "gui/database/frmElegirBaseDatos.h"
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/reports/PaginaWeb.h"
 #include "gui/resources/Programa.h"
@@ -99,6 +100,7 @@ int Ventanas(int argc, char** argv) {
     vanta::Estado e;
     e.SeparadorDecimal = SeparadorDelSistema();
     vanta::frmFase1 principal(e);
+    principal.FijarDireccionBaseDatos(vanta::DireccionRecordada());
     principal.show();
     return QApplication::exec();
 }

@@ -87,6 +87,10 @@ public:
     // How a stage window is shown modal: exec() unless replaced (the window
     // tests show it and drive it without a nested event loop).
     void FijarMostrarModal(std::function<void(QDialog&)> mostrar) { mostrarModal_ = std::move(mostrar); }
+    // Where the results database is: a file, a postgresql:// address, or
+    // empty for BD.sqlite in the current folder (the program gives the choice
+    // remembered from the last session).
+    void FijarDireccionBaseDatos(const QString& direccion);
 
 public slots:
     void cmdElegirComburente_Click();
@@ -113,6 +117,7 @@ public slots:
     void mnuAbrirInforme_Click();
     void mnuInforme_Click();
     void mnuBDatos_Click();
+    void mnuElegirBD_Click();
     void mnuGuardarTexto_Click();
     void mnuGuardarHTML_Click();
     void mnuVerTodo_Click();
@@ -230,7 +235,7 @@ private:
             *mnuBDatos_ = nullptr, *mnuGuardarTexto_ = nullptr, *mnuGuardarHTML_ = nullptr,
             *mnuVerTodo_ = nullptr, *mnuPV_ = nullptr, *mnuTV_ = nullptr, *mnuTS_ = nullptr,
             *mnuHS_ = nullptr, *mnuCalcular_ = nullptr, *mnuTablasActual_ = nullptr, *mnuTablas_ = nullptr,
-            *mnuAyuda2_ = nullptr, *mnuAcercaDe_ = nullptr;
+            *mnuAyuda2_ = nullptr, *mnuAcercaDe_ = nullptr, *mnuElegirBD_ = nullptr;
 
     frmAireHumedad* frmAireHumedad_ = nullptr;
     frmCombustible* frmCombustible_ = nullptr;
@@ -241,6 +246,7 @@ private:
     LecturaEstado lectura_;
     std::unique_ptr<frmHerramientas> frmHerramientas_;
     std::unique_ptr<frmBaseDatos> frmBaseDatos_;
+    QString direccionBaseDatos_;
     // The report windows and the buffer rthInforme, which lives with them.
     std::unique_ptr<VisoresInforme> visores_;
 };
