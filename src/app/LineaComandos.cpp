@@ -91,6 +91,9 @@ Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
 
 std::string TextoUso() {
     return "Uso: vanta                              la ventana principal\n"
+           "     vanta --carpeta-datos              la ventana principal, con los datos (BD.sqlite) en\n"
+           "                                        ~/.local/share/vanta; así la abre el menú del "
+           "escritorio\n"
            "     vanta calcular [opciones]          el cálculo completo sin ventana; escribe el informe\n"
            "     vanta tablas [opciones]            las tablas de propiedades como texto\n"
            "\n"

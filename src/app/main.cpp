@@ -14,6 +14,7 @@
 #include "app/LineaComandos.h"
 #include "app/LineaTablas.h"
 #include "core/services/Numeros.h"
+#include "gui/database/CarpetaDatos.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/frmElegirBaseDatos.h"
 #include "gui/mainwindow/frmFase1.h"
@@ -111,6 +112,12 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     const std::vector<std::string> argumentos(argv + 1, argv + argc);
     if (argumentos.empty()) return Ventanas(argc, argv);
+    // The desktop entry's start: the data in the user's folder.
+    if (argumentos.size() == 1 && argumentos[0] == "--carpeta-datos") {
+        QString error;
+        if (!vanta::EntrarEnCarpetaDatos(error)) std::cerr << "vanta: " << error.toStdString() << '\n';
+        return Ventanas(argc, argv);
+    }
     if (argumentos[0] == "calcular") return Calcular({argumentos.begin() + 1, argumentos.end()});
     if (argumentos[0] == "tablas")
         return vanta::cli::EjecutarTablas({argumentos.begin() + 1, argumentos.end()}, std::cout, std::cerr);

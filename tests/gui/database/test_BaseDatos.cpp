@@ -13,6 +13,7 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include "gui/database/CarpetaDatos.h"
 #include "gui/database/ControlImagen.h"
 #include "tests/Dorados.h"
 #include "tests/gui/database/Banco.h"
@@ -372,6 +373,30 @@ private slots:
         const std::string diferencia =
             CompararDorado("bd/registros-linea-ordenes.txt", volcado.toStdString());
         QVERIFY2(diferencia.empty(), diferencia.c_str());
+    }
+
+    void elEscritorioAbreElProgramaEnLaCarpetaDeDatosDelUsuario() {
+        QTemporaryDir datos;
+        const QString anterior = QDir::currentPath();
+        const QByteArray xdg = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", QFile::encodeName(datos.path()));
+        QString error;
+        // Made on the first start, used as it is on the next.
+        for (int vez = 0; vez < 2; ++vez) {
+            QVERIFY2(EntrarEnCarpetaDatos(error), qPrintable(error));
+            QCOMPARE(QDir::currentPath(), datos.filePath(QStringLiteral("vanta")));
+        }
+        // A file where the folder should be: said, and the folder kept.
+        QDir::setCurrent(anterior);
+        QVERIFY(QDir(datos.path()).removeRecursively() && QDir().mkpath(datos.path()));
+        QFile(datos.filePath(QStringLiteral("vanta"))).open(QIODevice::WriteOnly);
+        QVERIFY(!EntrarEnCarpetaDatos(error));
+        QVERIFY(error.contains(datos.filePath(QStringLiteral("vanta"))));
+        QCOMPARE(QDir::currentPath(), anterior);
+        if (xdg.isNull())
+            qunsetenv("XDG_DATA_HOME");
+        else
+            qputenv("XDG_DATA_HOME", xdg);
     }
 
     void laRutaSeFijaAlPrimerUsoYLaLineaDeOrdenesGuardaSinVentana() {
