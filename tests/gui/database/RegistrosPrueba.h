@@ -22,16 +22,17 @@ inline bd::TextosRegistro TextosNumerados(int k, int cliente = 0) {
     return bd::ValoresRegistro(e, nombre, "Gasolina", "informe " + std::to_string(k));
 }
 
-// Seven pictures of 400 x 300; with pesadas, of some weight to encode, so that
-// a save takes its time.
+// Seven pictures: of 400 x 300 and some weight to encode, so that a save
+// takes its time; or light ones, of 160 x 120, for many saves.
 inline ImagenesRegistro ImagenesNumeradas(int k, bool pesadas = true) {
     ImagenesRegistro imagenes;
+    const int ancho = pesadas ? 400 : 160, alto = pesadas ? 300 : 120;
     for (size_t i = 0; i < imagenes.size(); ++i) {
-        QImage img(400, 300, QImage::Format_RGB32);
+        QImage img(ancho, alto, QImage::Format_RGB32);
         img.fill(Qt::white);
         QPainter p(&img);
-        for (int x = 0; x < 400; x += pesadas ? 3 : 40)
-            p.drawLine(x, 0, (x * (k + 7) + static_cast<int>(i) * 13) % 400, 299);
+        for (int x = 0; x < ancho; x += pesadas ? 3 : 16)
+            p.drawLine(x, 0, (x * (k + 7) + static_cast<int>(i) * 13) % ancho, alto - 1);
         imagenes[i] = img;
     }
     return imagenes;

@@ -7,13 +7,14 @@
 //   ayudante_bd guardar RUTA N [--parar]   saves N records, "guardado K" after each;
 //                                           with --parar, then stops inside the next one
 //                                           and says "a mitad"
-//   ayudante_bd cliente RUTA N C            client C of many: N light records named for it,
-//                                           waiting for a busy file as the command line does
+//   ayudante_bd cliente RUTA N C [--pesadas]  client C of many: N light records named for it
+//                                           (or with the heavy pictures), waiting for a busy
+//                                           file as the command line does
 //   ayudante_bd bloquear RUTA               holds a write lock, says "bloqueada", waits
 //   ayudante_bd sin-permisos RUTA           saves one record as user nobody when run as root
 #include <unistd.h>
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <csignal>
@@ -45,20 +46,24 @@ void Esperar() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
+    // A GUI application, as vanta is, so that its pictures are the same PNG
+    // to the byte (the resolution written in the file follows the screen's).
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
     if (argc < 3) return 2;
     const std::string orden = argv[1];
     const QString ruta = QString::fromLocal8Bit(argv[2]);
 
     if ((orden == "guardar" || orden == "cliente") && argc >= 4) {
         const int cliente = orden == "cliente" && argc >= 5 ? std::stoi(argv[4]) : 0;
+        const bool pesadas = !cliente || (argc >= 6 && std::string(argv[5]) == "--pesadas");
         AlmacenResultados almacen(*bd::LeerDireccion(ruta.toStdString()).direccion);
         if (cliente) almacen.FijarEspera(15000);
         if (!almacen.Abrir()) return std::cout << almacen.Error() << std::endl, 1;
         const int n = std::stoi(argv[3]);
         for (int k = 1; k <= n; ++k) {
             if (!almacen.Insertar(pruebas::TextosNumerados(k, cliente),
-                                  pruebas::ImagenesNumeradas(k, !cliente)))
+                                  pruebas::ImagenesNumeradas(k, pesadas)))
                 return std::cout << almacen.Error() << std::endl, 1;
             std::cout << "guardado " << k << std::endl;
         }
