@@ -406,6 +406,14 @@ private slots:
             auto* v = p.f.findChild<frmElegirBaseDatos*>();
             QVERIFY(v && v->isVisible());
             if (!texto.isNull()) v->findChild<QLineEdit*>(QStringLiteral("txtDireccion"))->setText(texto);
+            const QString capturas = qEnvironmentVariable("VANTA_CAPTURAS");
+            if (!capturas.isEmpty() && EnServidor() && texto == lugar) {
+                auto* caja = v->findChild<QLineEdit*>(QStringLiteral("txtDireccion"));
+                caja->setText(
+                    QStringLiteral("postgresql://clase@aula.example.org:5432/motores?sslmode=require"));
+                QVERIFY(v->grab().save(QDir(capturas).filePath(QStringLiteral("base-datos-elegir.png"))));
+                caja->setText(texto);
+            }
             if (std::string_view(boton) == "cmdPredeterminada")
                 QTest::mouseClick(v->findChild<QPushButton*>(QStringLiteral("cmdPredeterminada")),
                                   Qt::LeftButton);
