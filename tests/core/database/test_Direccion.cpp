@@ -34,7 +34,7 @@ TEST(Direccion, UnArchivoOUnServidorConSusPartes) {
         {"postgresql://ana@[2001:db8::1]:6000/clase", "ana|2001:db8::1|6000|clase|"},
         {"postgresql://ana@[::1]/clase", "ana|::1|-1|clase|"},
         // A server on a Unix socket: its folder, coded or as a parameter.
-        {"postgresql://vanta@%2Ftmp%2Fpg:7000/prueba", "vanta|/tmp/pg|7000|prueba|"},
+        {"postgresql://vanta@%2Ftmp%2Fpg:7009/prueba%09b", "vanta|/tmp/pg|7009|prueba\tb|"},
         {"postgresql://vanta@/prueba?host=/tmp/pg&port=7000", "vanta|/tmp/pg|7000|prueba|"},
         {"postgresql://Jos%C3%A9@aula/m%C3%A1quinas", "José|aula|-1|máquinas|"},
         {"postgresql://aula/motores?sslmode=verify-full&sslrootcert=/etc/ssl/aula.pem&connect_timeout=3",

@@ -99,3 +99,9 @@ TEST(Registro, LoQueLePasaAlArchivoSeDiceComoEs) {
     EXPECT_NE(danado.find("/x/BD.sqlite está dañado"), std::string::npos);
     EXPECT_NE(bd::MsgNoSeGuarda("x").find("siguen en la base de datos"), std::string::npos);
 }
+
+TEST(Registro, TrasBorrarQuedaElSiguienteOElAnteriorSiEraElUltimo) {
+    const int casos[][3] = {{0, 4, 0}, {1, 4, 1}, {3, 4, 2}, {0, 1, -1}, {0, 2, 0}, {1, 2, 0}};
+    for (const auto& [posicion, cuenta, destino] : casos)
+        EXPECT_EQ(bd::PosicionTrasBorrar(posicion, cuenta), destino) << posicion << " de " << cuenta;
+}
