@@ -65,21 +65,41 @@ std::string Comprobar(const OpcionesCalcular& o) {
 
 }  // namespace
 
+std::vector<std::string> SepararIgual(const std::vector<std::string>& argumentos) {
+    std::vector<std::string> palabras;
+    for (const std::string& a : argumentos) {
+        const size_t igual = a.find('=');
+        if (a.rfind("--", 0) == 0 && igual != std::string::npos) {
+            palabras.push_back(a.substr(0, igual));
+            palabras.push_back(a.substr(igual + 1));
+        } else {
+            palabras.push_back(a);
+        }
+    }
+    return palabras;
+}
+
 Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
     OpcionesCalcular o;
-    for (size_t i = 0; i < argumentos.size(); ++i) {
-        const std::string& a = argumentos[i];
+    const std::vector<std::string> palabras = SepararIgual(argumentos);
+    for (size_t i = 0; i < palabras.size(); ++i) {
+        const std::string& a = palabras[i];
         if (a == "--json") {
+            if (o.json) return {std::nullopt, "--json se ha dado dos veces"};
             o.json = true;
             continue;
         }
         if (a.rfind("--", 0) != 0) return {std::nullopt, "argumento inesperado: " + a};
         const std::string nombre = a.substr(2);
         if (!EsOpcion(nombre)) return {std::nullopt, "opción desconocida: " + a};
-        if (i + 1 >= argumentos.size()) return {std::nullopt, "falta el valor de " + a};
-        o.valores[nombre] = argumentos[++i];
+        if (i + 1 >= palabras.size()) return {std::nullopt, "falta el valor de " + a};
+        if (o.Tiene(nombre)) return {std::nullopt, a + " se ha dado dos veces"};
+        o.valores[nombre] = palabras[++i];
     }
     if (std::string error = Comprobar(o); !error.empty()) return {std::nullopt, error};
+    if (o.Tiene("html") && o.Valor("html").empty()) return {std::nullopt, "--html necesita una carpeta"};
+    if (o.Tiene("guardar") && o.Valor("guardar").empty())
+        return {std::nullopt, "--guardar necesita el nombre del registro"};
     o.html = o.Valor("html");
     o.guardar = o.Valor("guardar");
     o.baseDatos = o.Valor("base-datos");
@@ -96,6 +116,7 @@ std::string TextoUso() {
            "escritorio\n"
            "     vanta calcular [opciones]          el cálculo completo sin ventana; escribe el informe\n"
            "     vanta tablas [opciones]            las tablas de propiedades como texto\n"
+           "     vanta --version                    la versión del programa\n"
            "\n"
            "Opciones de calcular (por defecto, lo que muestran las pantallas al abrirse):\n"
            "  --json                          en lugar del informe, todas las variables del cálculo en JSON\n"
@@ -117,7 +138,8 @@ std::string TextoUso() {
            "  --proporcion-vcte PCT (50) | --pmax PA (10000000)   ciclo Mixto: reparto del calor o presión "
            "máxima\n"
            "  --rpm N                         escribe también la potencia a ese régimen\n"
-           "Los números se escriben como en las casillas: \"1,39\" y \"1.39\" valen lo mismo.\n";
+           "Los números se escriben como en las casillas: \"1,39\" y \"1.39\" valen lo mismo.\n"
+           "Una opción se escribe \"--opción valor\" o \"--opción=valor\", una vez.\n";
 }
 
 namespace {
@@ -127,7 +149,9 @@ namespace {
 bool EscribirPotencia(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, const TextosResultados& r,
                       std::ostream& out) {
     CajaTextoSimple txtRpm(o.Valor("rpm")), txtPotencia, txtPotenciaCV;
-    txtRpm_Change(e, dlg, txtRpm, txtPotencia, txtPotenciaCV);
+    txtRpm_Change(e, dlg, e.Wciclo, txtRpm, txtPotencia, txtPotenciaCV);
+    // A refused speed is told, and not written into the report.
+    if (e.ErrorCalculo) return false;
     out << "r.p.m. = " << txtRpm.Text() << "\r\n"
         << "Potencia = " << txtPotencia.Text() << " W = " << txtPotenciaCV.Text() << " CV\r\n"
         << "Consumo = " << r.txtConsumoMJ << " g / MJ = " << r.txtConsumoKwh << " g / (kW·h)\r\n";

@@ -18,6 +18,9 @@ inline constexpr int kSalidaBien = 0;
 inline constexpr int kSalidaFallo = 1;
 inline constexpr int kSalidaUso = 2;
 
+// After a usage error: where the options are told (followed by the command).
+inline constexpr const char* kVerAyuda = "Las opciones, con ";
+
 // The inputs of the calculation, and what to write besides the report.
 struct OpcionesCalcular : OpcionesCalculo {
     bool json = false;
@@ -34,6 +37,10 @@ struct Parseo {
 };
 
 Parseo ParsearCalcular(const std::vector<std::string>& argumentos);
+
+// The words of a subcommand with "--name=value" split in two, as
+// "--name value".
+std::vector<std::string> SepararIgual(const std::vector<std::string>& argumentos);
 std::string TextoUso();
 
 // Runs the stages in order; writes the report (or the JSON) on out and returns

@@ -1,5 +1,6 @@
 #include "app/LineaTablas.h"
 
+#include <algorithm>
 #include <ostream>
 
 #include "app/LineaComandos.h"
@@ -44,8 +45,10 @@ bool EsEspecie(const std::string& fluido) {
 }
 
 // Why the words are off, or empty.
-std::string Parsear(const std::vector<std::string>& argumentos, OpcionesTablas& o) {
+std::string Parsear(const std::vector<std::string>& palabras, OpcionesTablas& o) {
+    const std::vector<std::string> argumentos = SepararIgual(palabras);
     std::vector<std::string> delFluido;
+    std::vector<std::string> dadas;
     for (size_t i = 0; i < argumentos.size(); ++i) {
         const std::string& a = argumentos[i];
         if (a.rfind("--", 0) != 0) return "argumento inesperado: " + a;
@@ -58,6 +61,8 @@ std::string Parsear(const std::vector<std::string>& argumentos, OpcionesTablas& 
                                                   : nullptr;
         if (!propia && !EsOpcionFluido(nombre)) return "opción desconocida: " + a;
         if (i + 1 >= argumentos.size()) return "falta el valor de " + a;
+        if (std::find(dadas.begin(), dadas.end(), nombre) != dadas.end()) return a + " se ha dado dos veces";
+        dadas.push_back(nombre);
         if (propia) {
             *propia = argumentos[++i];
         } else {
@@ -80,7 +85,7 @@ public:
     explicit DialogosFlujo(std::ostream& err) : err_(err) {}
     void MsgBox(std::string_view mensaje) override {
         ++cuenta;
-        err_ << mensaje << '\n';
+        err_ << "vanta tablas: " << mensaje << '\n';
     }
     std::string InputBox(std::string_view, std::string_view porDefecto) override {
         return std::string(porDefecto);
@@ -139,7 +144,8 @@ std::string TextoUsoTablas() {
            "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion "
            "J_MOL\n"
            "  --fr X (1) | --lambda X\n"
-           "Los números se escriben como en las casillas: \"0,5\" y \"0.5\" valen lo mismo.\n";
+           "Los números se escriben como en las casillas: \"0,5\" y \"0.5\" valen lo mismo.\n"
+           "Una opción se escribe \"--opción valor\" o \"--opción=valor\", una vez.\n";
 }
 
 int EjecutarTablas(const std::vector<std::string>& argumentos, std::ostream& out, std::ostream& err) {
@@ -149,7 +155,7 @@ int EjecutarTablas(const std::vector<std::string>& argumentos, std::ostream& out
     }
     OpcionesTablas o;
     if (std::string error = Parsear(argumentos, o); !error.empty()) {
-        err << "vanta tablas: " << error << "\n\n" << TextoUsoTablas();
+        err << "vanta tablas: " << error << "\n" << kVerAyuda << "vanta tablas --help\n";
         return kSalidaUso;
     }
 

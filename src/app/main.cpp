@@ -24,6 +24,20 @@
 
 namespace {
 
+// Qt's own notes (a folder of the runtime it made up, a font it fell back
+// from) are not messages of the program: the command line keeps to its own.
+void SoloMensajesGraves(QtMsgType tipo, const QMessageLogContext&, const QString& mensaje) {
+    if (tipo == QtCriticalMsg || tipo == QtFatalMsg) std::cerr << "vanta: " << mensaje.toStdString() << '\n';
+}
+
+// A window needs a screen: on a system with none, Qt would end the program
+// with its own words.
+bool HayPantalla() {
+    for (const char* variable : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        if (!qEnvironmentVariableIsEmpty(variable)) return true;
+    return false;
+}
+
 int Calcular(const std::vector<std::string>& argumentos) {
     using namespace vanta;
     if (argumentos.size() == 1 && (argumentos[0] == "--help" || argumentos[0] == "-h")) {
@@ -32,13 +46,13 @@ int Calcular(const std::vector<std::string>& argumentos) {
     }
     const cli::Parseo p = cli::ParsearCalcular(argumentos);
     if (!p.opciones) {
-        std::cerr << "vanta calcular: " << p.error << "\n\n" << cli::TextoUso();
+        std::cerr << "vanta calcular: " << p.error << "\n" << cli::kVerAyuda << "vanta calcular --help\n";
         return cli::kSalidaUso;
     }
     const cli::OpcionesCalcular& o = *p.opciones;
     Estado e;
     GuardarColoresDiagramas(e);
-    DialogosConsola dlg;
+    DialogosConsola dlg("vanta calcular: ");
     if (o.html.empty() && o.guardar.empty()) {
         SuperficiesNulas nulas;
         SuperficiesCalculo s = nulas.Todas();
@@ -61,10 +75,9 @@ int Calcular(const std::vector<std::string>& argumentos) {
     const std::string tipo = TextoListaCombustible(o);
     const std::array<QImage, 7> imagenes = cajas.Imagenes();
     if (!o.html.empty()) {
-        const QString carpeta = QString::fromStdString(o.html);
-        QDir().mkpath(carpeta);
-        if (!EscribirPaginaEnCarpeta(carpeta, e, tipo, imagenes)) {
-            std::cerr << "vanta calcular: no se ha podido escribir la página en " << o.html << '\n';
+        if (const auto fallo = EscribirPaginaEnCarpeta(QString::fromStdString(o.html), e, tipo, imagenes)) {
+            std::cerr << "vanta calcular: no se ha podido escribir la página en " << o.html << ": " << *fallo
+                      << '\n';
             return cli::kSalidaFallo;
         }
     }
@@ -85,6 +98,12 @@ char SeparadorDelSistema() {
 
 // The desktop program: the main window until the user closes it.
 int Ventanas(int argc, char** argv) {
+    if (!HayPantalla()) {
+        std::cerr << "vanta: la ventana del programa necesita una pantalla, y este sistema no tiene ninguna "
+                     "(ni DISPLAY ni WAYLAND_DISPLAY).\n"
+                     "«vanta calcular» y «vanta tablas» funcionan sin ella; «vanta --help» dice cómo.\n";
+        return vanta::cli::kSalidaFallo;
+    }
     QApplication aplicacion(argc, argv);
     // Creating the application set the C library's numbers to the system's
     // locale; the program's own conversions follow the separator below.
@@ -118,9 +137,19 @@ int main(int argc, char** argv) {
         if (!vanta::EntrarEnCarpetaDatos(error)) std::cerr << "vanta: " << error.toStdString() << '\n';
         return Ventanas(argc, argv);
     }
-    if (argumentos[0] == "calcular") return Calcular({argumentos.begin() + 1, argumentos.end()});
-    if (argumentos[0] == "tablas")
-        return vanta::cli::EjecutarTablas({argumentos.begin() + 1, argumentos.end()}, std::cout, std::cerr);
-    std::cerr << vanta::cli::TextoUso();
+    qInstallMessageHandler(SoloMensajesGraves);
+    const std::string orden = argumentos[0];
+    const std::vector<std::string> resto(argumentos.begin() + 1, argumentos.end());
+    if (orden == "calcular") return Calcular(resto);
+    if (orden == "tablas") return vanta::cli::EjecutarTablas(resto, std::cout, std::cerr);
+    if (orden == "--help" || orden == "-h") {
+        std::cout << vanta::cli::TextoUso();
+        return vanta::cli::kSalidaBien;
+    }
+    if (orden == "--version") {
+        std::cout << "vanta " << vanta::VersionPrograma().toStdString() << '\n';
+        return vanta::cli::kSalidaBien;
+    }
+    std::cerr << "vanta: orden desconocida: " << orden << "\n" << vanta::cli::kVerAyuda << "vanta --help\n";
     return vanta::cli::kSalidaUso;
 }

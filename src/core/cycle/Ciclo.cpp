@@ -405,11 +405,11 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     e.W45acumulado = 0;
     LeerEntradas(e, dlg, c);
     ComprobarEntradas(e, dlg, c);
-    if (!e.ErrorCalculo) MasasYVolumenes(e, dlg);
-    if (!e.ErrorCalculo) {
-        EstadoUno(e, dlg);
-        ActualizarMaximos(e);
-    }
+    // A refused text does not stop the steps up to state 1: the first test of
+    // the flag comes after them (the maxima take p1 and T1 all the same).
+    MasasYVolumenes(e, dlg);
+    EstadoUno(e, dlg);
+    ActualizarMaximos(e);
     if (e.ErrorCalculo) return;
 
     // First pass: no drawing; finds the maxima of states 1 to 4.
@@ -482,13 +482,13 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     if (c.chkOcultar.Value()) c.ventana.Hide();
 }
 
-void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPotencia,
+void txtRpm_Change(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm, CajaTexto& txtPotencia,
                    CajaTexto& txtPotenciaCV) {
     if (txtRpm.Text().empty()) return;
     double rpm = 0;
     ValidarNumero(e, dlg, txtRpm, rpm, " rpm ");
     // One power stroke in two revolutions.
-    const double potencia = e.Wciclo * rpm * 0.5 / 60;
+    const double potencia = Wciclo * rpm * 0.5 / 60;
     if (!std::isfinite(potencia)) return FalloAritmetico(e, dlg, kCausaPotencia);
     txtPotencia.SetText(Format(Round(potencia, 1), kMascaraPotencia, e.SeparadorDecimal));
     txtPotenciaCV.SetText(Format(Round(potencia / kVatiosCV, 1), kMascaraPotencia, e.SeparadorDecimal));

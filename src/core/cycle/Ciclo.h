@@ -135,8 +135,10 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
 // The texts of the result labels from the state, with their masks.
 TextosResultados TextosDeResultados(const Estado& e);
 
-// The power boxes, when the text of txtRpm changes.
-void txtRpm_Change(Estado& e, Dialogos& dlg, CajaTexto& txtRpm, CajaTexto& txtPotencia,
+// The power boxes, when the text of txtRpm changes, from the cycle work of
+// the figures on screen (Wciclo as the calculation that showed them closed
+// it: a later calculation that failed leaves other work in the state).
+void txtRpm_Change(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm, CajaTexto& txtPotencia,
                    CajaTexto& txtPotenciaCV);
 
 }  // namespace vanta

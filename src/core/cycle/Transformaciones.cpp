@@ -145,15 +145,18 @@ void TrazarVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, Dibujo dibuj
         PropiedadesAireHumosFraccion(e, dlg, e.FraccionQuemada);
         if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
     };
-    // A failure stops the walk: its evaluations would do nothing from there on.
     while (e.TemperaturaIsocora - 2 > e.Temperatura && !e.ErrorCalculo) {
         e.Temperatura += 1;
         paso();
     }
-    if (e.Temperatura < e.TemperaturaIsocora && !e.ErrorCalculo) {
-        e.Temperatura = e.TemperaturaIsocora;
-        paso();
-    }
+    if (e.Temperatura >= e.TemperaturaIsocora) return;
+    // The walk has no test of the flag: once an evaluation has tripped the
+    // limit, the rest of it evaluates nothing (and is never drawn: the flag
+    // ends the calculation in its silent pass) and only takes Temperatura,
+    // Presion and FraccionQuemada on to its last step, which is taken here at
+    // once.
+    e.Temperatura = e.TemperaturaIsocora;
+    paso();
 }
 
 // Up to Pmax: bisection on the burnt moles.

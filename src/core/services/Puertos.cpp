@@ -6,7 +6,7 @@ namespace vanta {
 
 void DialogosConsola::MsgBox(std::string_view mensaje) {
     ++cuenta;
-    std::cerr << mensaje << '\n';
+    std::cerr << prefijo_ << mensaje << '\n';
 }
 
 std::string DialogosConsola::InputBox(std::string_view, std::string_view porDefecto) {

@@ -63,13 +63,17 @@ public:
     }
 };
 
-// The command line: one message a line on standard error; input boxes take
-// their default.
+// The command line: one message a line on standard error, after the name of
+// the subcommand ("vanta calcular: "); input boxes take their default.
 class DialogosConsola : public Dialogos {
 public:
+    explicit DialogosConsola(std::string prefijo = "") : prefijo_(std::move(prefijo)) {}
     void MsgBox(std::string_view mensaje) override;
     std::string InputBox(std::string_view prompt, std::string_view porDefecto) override;
     int cuenta = 0;  // messages shown
+
+private:
+    std::string prefijo_;
 };
 
 class CajaTextoSimple : public CajaTexto {

@@ -175,6 +175,9 @@ std::optional<Especie> EspecieDe(std::string_view texto) {
 
 bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
                      VisorTablas& v, std::string_view tipoCombustible) {
+    // Each press starts clear, as CALCULAR does: a refused text of the last
+    // table must not silence the evaluations of this one.
+    e.ErrorCalculo = Falso;
     v.Mostrar();
     v.PonerTexto(" ");
     const bool aire = c.optAire.Value(), humos = c.optHumos.Value();
@@ -237,6 +240,7 @@ bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, Miembro
 
 bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
                   VisorTablas& v) {
+    e.ErrorCalculo = Falso;
     v.Mostrar();
     if (!LeerLimites(e, dlg, c, m)) {
         v.Ocultar();

@@ -385,6 +385,9 @@ void frmFase1::PonerInforme(const std::string& texto) {
 }
 
 void frmFase1::MostrarResultados(const TextosResultados& t) {
+    // The figures shown close with this work; the power follows it until
+    // another calculation ends well.
+    wcicloEnPantalla_ = e_.Wciclo;
     for (int i = 0; i < 5; ++i) {
         celdaPuntos_[0][i]->setText(ATexto(t.lblP[i]));
         celdaPuntos_[1][i]->setText(ATexto(t.lblV[i]));
@@ -490,7 +493,7 @@ void frmFase1::txtCilindrada_Click() {
 }
 
 void frmFase1::txtRpm_Change() {
-    vanta::txtRpm_Change(e_, *dlg_, *cajaRpm_, *cajaPotencia_, *cajaPotenciaCV_);
+    vanta::txtRpm_Change(e_, *dlg_, wcicloEnPantalla_, *cajaRpm_, *cajaPotencia_, *cajaPotenciaCV_);
 }
 
 void frmFase1::txtRpm_Click() {

@@ -169,6 +169,7 @@ private:
     std::unique_ptr<Dialogos> dlgPropios_;
     Dialogos* dlg_;
     std::string txtInformeF1_;
+    double wcicloEnPantalla_ = 0;
     std::function<void(QDialog&)> mostrarModal_;
 
     // Drawing surfaces.

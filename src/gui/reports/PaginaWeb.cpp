@@ -1,10 +1,10 @@
 #include "gui/reports/PaginaWeb.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QPainter>
-#include <QSaveFile>
 
 #include "core/reports/ArchivosInforme.h"
 #include "gui/reports/DialogosInforme.h"
@@ -32,15 +32,12 @@ QImage ImagenOpaca(const QImage& imagen) {
     return opaca;
 }
 
-bool EscribirBitmap(const QString& archivo, const QImage& imagen) {
-    QSaveFile salida(archivo);
-    if (!salida.open(QIODevice::WriteOnly)) return false;
-    QImageWriter escritor(&salida, kFormatoBitmap);
-    if (!escritor.write(ImagenOpaca(imagen))) {
-        salida.cancelWriting();
-        return false;
-    }
-    return salida.commit();
+std::string Bitmap(const QImage& imagen) {
+    QByteArray bytes;
+    QBuffer memoria(&bytes);
+    memoria.open(QIODevice::WriteOnly);
+    QImageWriter(&memoria, kFormatoBitmap).write(ImagenOpaca(imagen));
+    return bytes.toStdString();
 }
 
 }  // namespace
@@ -55,20 +52,18 @@ QString ArchivoImagenEn(const QString& carpeta, const ImagenPagina& imagen) {
     return QDir(carpeta).filePath(ATexto(ImagenEnPagina(imagen)));
 }
 
-bool EscribirImagenesPagina(const QString& carpeta, const ImagenesPagina& imagenes) {
+std::optional<std::string> EscribirPaginaWeb(const QString& archivo, std::string_view pagina,
+                                             const ImagenesPagina& imagenes) {
+    std::vector<ArchivoDeConjunto> conjunto{{RutaArchivo(archivo), BytesPagina(pagina)}};
+    const QString carpeta = QFileInfo(archivo).absolutePath();
     for (size_t i = 0; i < kImagenesPagina.size(); ++i)
-        if (!EscribirBitmap(ArchivoImagenEn(carpeta, kImagenesPagina[i]), imagenes[i])) return false;
-    return true;
+        conjunto.push_back({RutaArchivo(ArchivoImagenEn(carpeta, kImagenesPagina[i])), Bitmap(imagenes[i])});
+    return EscribirConjunto(conjunto);
 }
 
-bool EscribirPaginaWeb(const QString& archivo, std::string_view pagina, const ImagenesPagina& imagenes) {
-    if (!EscribirArchivoEntero(RutaArchivo(archivo), BytesPagina(pagina))) return false;
-    return EscribirImagenesPagina(QFileInfo(archivo).absolutePath(), imagenes);
-}
-
-bool EscribirPaginaEnCarpeta(const QString& carpeta, const Estado& e, std::string_view tipoCombustible,
-                             const ImagenesPagina& imagenes) {
-    if (!QDir().mkpath(carpeta)) return false;
+std::optional<std::string> EscribirPaginaEnCarpeta(const QString& carpeta, const Estado& e,
+                                                   std::string_view tipoCombustible,
+                                                   const ImagenesPagina& imagenes) {
     const QString archivo = QDir(carpeta).filePath(ATexto(NombreConExtension(kDialogoPaginaPrincipal)));
     return EscribirPaginaWeb(archivo, HTMLInforme(e, tipoCombustible), imagenes);
 }

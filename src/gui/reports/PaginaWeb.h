@@ -11,6 +11,7 @@
 #include <QString>
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,21 +29,19 @@ ImagenesPagina ImagenesDe(const std::function<QImage(CuadroImagen)>& imagen);
 // The file a picture is written to in a folder: the name the page uses.
 QString ArchivoImagenEn(const QString& carpeta, const ImagenPagina& imagen);
 
-// Writes the seven bitmaps into the folder, in order, each as a whole file
-// (never half-written under its name). Stops at the first that fails and
-// returns false; what was written stays. A picture with no pixels is written
-// as one white pixel, so that the page still finds a picture.
-bool EscribirImagenesPagina(const QString& carpeta, const ImagenesPagina& imagenes);
-
-// Writes the page to the file (whole, never half-written under its name) and
-// then its seven bitmaps into the same folder. False at the first failure;
-// what was written stays.
-bool EscribirPaginaWeb(const QString& archivo, std::string_view pagina, const ImagenesPagina& imagenes);
+// Writes the page to the file and its seven bitmaps beside it, the eight as
+// one set: all of them, or none, the folder's earlier page and pictures then
+// left as they were. A picture with no pixels is written as one white pixel,
+// so that the page still finds a picture. Returns why it could not be
+// written, in words for the user, or nothing.
+std::optional<std::string> EscribirPaginaWeb(const QString& archivo, std::string_view pagina,
+                                             const ImagenesPagina& imagenes);
 
 // The page of a calculated cycle and its seven bitmaps in a folder (made when
 // missing), the page under the main window's name for it, "Index.htm".
-// tipoCombustible: the text of the fuel list. False when anything fails.
-bool EscribirPaginaEnCarpeta(const QString& carpeta, const Estado& e, std::string_view tipoCombustible,
-                             const ImagenesPagina& imagenes);
+// tipoCombustible: the text of the fuel list.
+std::optional<std::string> EscribirPaginaEnCarpeta(const QString& carpeta, const Estado& e,
+                                                   std::string_view tipoCombustible,
+                                                   const ImagenesPagina& imagenes);
 
 }  // namespace vanta

@@ -62,7 +62,11 @@ void VisoresInforme::GuardarPaginaWeb(QWidget* ventana, const DialogoArchivo& di
     // The pictures are read as the boxes stand now, after the dialog.
     const ImagenesPagina imagenes =
         ImagenesDe([this](CuadroImagen c) { return fuente_.imagen ? fuente_.imagen(c) : QImage(); });
-    if (EscribirPaginaWeb(nombre, rthHTML_, imagenes)) archivoPagina_ = nombre;
+    // The page and its pictures go in whole or not at all; why not is told.
+    if (const auto fallo = EscribirPaginaWeb(nombre, rthHTML_, imagenes))
+        dlg_.MsgBox(std::string(kPaginaNoGuardada) + *fallo);
+    else
+        archivoPagina_ = nombre;
 }
 
 void VisoresInforme::Imprimir(QWidget* ventana, const QString& texto, const QString& seleccion) {

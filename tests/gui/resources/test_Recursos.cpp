@@ -1,5 +1,4 @@
-// The program's pictures, the help pages as built, and the about and
-// bibliography windows.
+// The help pages as built, and the about and bibliography windows.
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -22,40 +21,9 @@
 #include "gui/resources/Programa.h"
 #include "tests/gui/mainwindow/Pruebas.h"
 
-#ifndef VANTA_DIR_CONSTRUCCION
-#define VANTA_DIR_CONSTRUCCION ""
-#endif
-
 using namespace vanta;
 
 namespace {
-
-// Pixels of a picture by the family of their colour: the heat at constant
-// volume is purple, the heat at constant pressure red.
-struct Tonos {
-    int purpuras = 0;
-    int rojos = 0;
-    int intensos = 0;  // strongly coloured pixels of any hue
-};
-
-Tonos ContarTonos(const QPixmap& pm) {
-    const QImage im = pm.toImage().convertToFormat(QImage::Format_ARGB32);
-    Tonos t;
-    for (int y = 0; y < im.height(); ++y)
-        for (int x = 0; x < im.width(); ++x) {
-            const QColor c = QColor::fromRgba(im.pixel(x, y));
-            if (c.alpha() < 250) continue;
-            const int r = c.red(), g = c.green(), b = c.blue();
-            if (r > 90 && b > 90 && g < 40 && std::abs(r - b) < 40) ++t.purpuras;
-            if (r > 180 && g < 70 && b < 70) ++t.rojos;
-            if (c.hsvSaturation() > 200 && c.value() > 90) ++t.intensos;
-        }
-    return t;
-}
-
-bool Iguales(const QPixmap& a, const QPixmap& b) {
-    return a.toImage() == b.toImage();
-}
 
 void Escribir(const QString& ruta) {
     QDir().mkpath(QFileInfo(ruta).absolutePath());
@@ -65,87 +33,6 @@ void Escribir(const QString& ruta) {
 }
 
 }  // namespace
-
-// ---- Pictures ----------------------------------------------------------------------
-
-class PruebasDibujos : public QObject {
-    Q_OBJECT
-
-private slots:
-    // Any size and pixel ratio gives a pixmap of exactly that many device
-    // pixels that carries its ratio, so it is painted crisp, not scaled.
-    void tamanosYRelacion_data() {
-        QTest::addColumn<QSize>("tamano");
-        QTest::addColumn<double>("dpr");
-        QTest::newRow("miniatura") << QSize(60, 50) << 1.0;
-        QTest::newRow("normal") << QSize(120, 100) << 1.0;
-        QTest::newRow("alta resolucion") << QSize(120, 100) << 2.0;
-        QTest::newRow("fraccionaria") << QSize(101, 77) << 1.25;
-    }
-    void tamanosYRelacion() {
-        QFETCH(QSize, tamano);
-        QFETCH(double, dpr);
-        const QSize dispositivo(static_cast<int>(std::ceil(tamano.width() * dpr)),
-                                static_cast<int>(std::ceil(tamano.height() * dpr)));
-        for (const char* ciclo : {kCicloOtto, kCicloDiesel, kCicloMixto})
-            for (bool elegido : {false, true}) {
-                const QPixmap pm = DibujoCiclo(QLatin1String(ciclo), elegido, tamano, dpr);
-                QCOMPARE(pm.size(), dispositivo);
-                QCOMPARE(pm.devicePixelRatio(), dpr);
-            }
-        QCOMPARE(DibujoElegirCiclo(tamano, dpr).size(), dispositivo);
-        QCOMPARE(DibujoPresentacion(tamano, dpr).size(), dispositivo);
-    }
-
-    // Each cycle shows the heat additions it has: Otto at constant volume
-    // only, Diesel at constant pressure only, Mixto both; and the three
-    // pictures, idle and chosen, are six different pictures.
-    void cadaCicloConSusAportes() {
-        const QSize t(240, 180);
-        const Tonos otto = ContarTonos(DibujoCiclo(QLatin1String(kCicloOtto), true, t, 1));
-        const Tonos diesel = ContarTonos(DibujoCiclo(QLatin1String(kCicloDiesel), true, t, 1));
-        const Tonos mixto = ContarTonos(DibujoCiclo(QLatin1String(kCicloMixto), true, t, 1));
-        QVERIFY2(otto.purpuras > 20 && otto.rojos == 0, "Otto: heat at constant volume only");
-        QVERIFY2(diesel.rojos > 20 && diesel.purpuras == 0, "Diesel: heat at constant pressure only");
-        QVERIFY2(mixto.purpuras > 10 && mixto.rojos > 10, "Mixto: both");
-
-        QList<QPixmap> todas;
-        for (const char* ciclo : {kCicloOtto, kCicloDiesel, kCicloMixto})
-            for (bool elegido : {false, true}) todas << DibujoCiclo(QLatin1String(ciclo), elegido, t, 1);
-        for (int i = 0; i < todas.size(); ++i)
-            for (int j = i + 1; j < todas.size(); ++j)
-                QVERIFY2(!Iguales(todas[i], todas[j]), "two pictures alike");
-    }
-
-    // The chosen variant is the stronger one.
-    void elegidoMasIntenso() {
-        for (const char* ciclo : {kCicloOtto, kCicloDiesel, kCicloMixto}) {
-            const Tonos reposo = ContarTonos(DibujoCiclo(QLatin1String(ciclo), false, QSize(160, 120), 1));
-            const Tonos elegido = ContarTonos(DibujoCiclo(QLatin1String(ciclo), true, QSize(160, 120), 1));
-            QVERIFY2(elegido.intensos > 2 * reposo.intensos, ciclo);
-        }
-    }
-
-    // A wrong size, a wrong ratio or an unknown cycle still gives a picture:
-    // small, capped, never a failed allocation.
-    void entradasMalas() {
-        const double nan = std::numeric_limits<double>::quiet_NaN();
-        const double inf = std::numeric_limits<double>::infinity();
-        for (const QSize& t : {QSize(0, 0), QSize(-5, 10), QSize(30, 20)})
-            for (double dpr : {0.0, -1.0, nan, inf, 1.0}) {
-                for (const QPixmap& pm : {DibujoCiclo(QStringLiteral("Wankel"), true, t, dpr),
-                                          DibujoCiclo(QString(), false, t, dpr), DibujoElegirCiclo(t, dpr),
-                                          DibujoPresentacion(t, dpr)}) {
-                    QVERIFY(!pm.isNull());
-                    QVERIFY(pm.width() >= 1 && pm.width() <= 30 && pm.height() >= 1 && pm.height() <= 20);
-                    QVERIFY(std::isfinite(pm.devicePixelRatio()) && pm.devicePixelRatio() > 0);
-                }
-            }
-        // An absurd size is capped to a few thousand device pixels a side.
-        const QPixmap enorme = DibujoCiclo(QLatin1String(kCicloOtto), false, QSize(1000000, 3), 8);
-        QVERIFY(enorme.width() <= 4096 && enorme.height() == 24);
-    }
-};
 
 // ---- Help ----------------------------------------------------------------------------
 
@@ -182,7 +69,6 @@ private slots:
     // every page can be reached from the index.
     void paginasEnlazadas() {
         const QString construccion = QStringLiteral(VANTA_DIR_CONSTRUCCION);
-        if (construccion.isEmpty()) QSKIP("no build folder given");
         const QString indice = RutaAyudaDesde(construccion);
         QVERIFY2(QFileInfo::exists(indice), qPrintable(indice));
         const QDir dir = QFileInfo(indice).absoluteDir();
@@ -260,13 +146,9 @@ private slots:
         for (int fila : {0, static_cast<int>(libros.size()) - 1})
             QCOMPARE(b->lstLibros()->item(fila, 0)->text(), libros[static_cast<size_t>(fila)].titulo);
     }
-
-    // The check of an ISBN: both lengths, the X of ISBN-10, hyphens and
-    // blanks ignored; a wrong check digit, length or character refused.
 };
 
 namespace {
-const vanta::pruebas::Registrar<PruebasDibujos> registroDibujos;
 const vanta::pruebas::Registrar<PruebasAyuda> registroAyuda;
 const vanta::pruebas::Registrar<PruebasAcercaDe> registroAcercaDe;
 }  // namespace

@@ -97,31 +97,6 @@ class PruebaHerramientas : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() {}
-
-    void empiezaConSusTextosYSinFluido() {
-        Herramienta h;
-        h.f.MostrarParaDefinir();
-        QCOMPARE(h.f.windowTitle(), QStringLiteral("Tablas del aire seco o húmedo y Gases de combustión"));
-        QCOMPARE(h.Visor()->windowTitle(), QStringLiteral("Tablas del aire y gases de combustión"));
-        QCOMPARE(h.Caja("txtAT")->text(), QStringLiteral("100"));
-        QCOMPARE(h.Caja("txtTinicial")->text(), QStringLiteral("300"));
-        QCOMPARE(h.Caja("txtTfinal")->text(), QStringLiteral("5000"));
-        auto* lista = Hijo<QComboBox>(&h.f, "cboElemento");
-        QCOMPARE(lista->currentText(), QStringLiteral("Elegir"));
-        QCOMPARE(lista->count(), 6);
-        QCOMPARE(lista->itemText(5), QStringLiteral("O2"));
-        QVERIFY(h.Opcion("optMol")->isChecked() && h.Opcion("optAire")->isChecked());
-        QCOMPARE(h.Opcion("optKg")->text(), QStringLiteral("Por kg"));
-        QCOMPARE(h.Opcion("optHumos")->text(), QStringLiteral("Gases de combustión"));
-        for (const char* b : {"cmdComburente", "cmdCombustible", "cmdCombustion"})
-            QVERIFY2(h.Boton(b)->isVisible(), b);
-        QCOMPARE(h.Habilitados(), QStringLiteral("000"));
-        QVERIFY(h.Boton("cmdComburente")->isEnabled());
-        QVERIFY(h.Boton("cmdTab")->isEnabled());
-        QVERIFY(!h.Visor()->isVisible());
-    }
-
     void cadaBotonDeDefinicionHabilitaLoQueLeSigue() {
         Herramienta h;
         h.f.MostrarParaDefinir();

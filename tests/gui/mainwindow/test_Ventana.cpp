@@ -1,0 +1,199 @@
+// The main window driven as a user drives it. After every action the window
+// shows the workflow's value (what is enabled, in view, marked and where it
+// stands), whose transitions the core tests; the results of the stage
+// windows equal the same calculation headless; the readout follows the
+// pointer in the overview and in an enlarged view; the power follows the
+// speed typed.
+#include <QCheckBox>
+#include <QTest>
+
+#include "core/cycle/Ciclo.h"
+#include "core/diagrams/LecturaRaton.h"
+#include "core/sequence/Secuencia.h"
+#include "core/services/Numeros.h"
+#include "tests/gui/mainwindow/Programa.h"
+#include "tests/gui/mainwindow/Pruebas.h"
+
+using namespace vanta;
+using namespace vanta::pruebas;
+
+namespace {
+
+// Where the window differs from the workflow's value; empty when it renders it.
+QString Diferencias(Programa& p) {
+    const Flujo& f = p.f.flujo();
+    QString d;
+    auto ver = [&](const char* nombre, bool esperado, bool visto) {
+        if (esperado != visto) d += QStringLiteral(" %1=%2").arg(QLatin1String(nombre)).arg(visto);
+    };
+    const Visibles& v = f.visible;
+    const std::pair<const char*, bool> visibles[] = {{"imgPresentacion", v.imgPresentacion},
+                                                     {"fraBotonera", v.fraBotonera},
+                                                     {"pct1", v.pct1},
+                                                     {"pct2", v.pct2},
+                                                     {"pct3", v.pct3},
+                                                     {"pctPV", v.pctPV},
+                                                     {"pctTV", v.pctTV},
+                                                     {"pctTS", v.pctTS},
+                                                     {"pctHS", v.pctHS},
+                                                     {"fraPuntos", v.fraPuntos},
+                                                     {"fraTransformaciones", v.fraTransformaciones},
+                                                     {"fraPotencia", v.fraPotencia},
+                                                     {"fraEstadoActual", v.fraEstadoActual},
+                                                     {"cmdInforme", v.cmdInforme},
+                                                     {"cmdEnvBaseDatos", v.cmdEnvBaseDatos},
+                                                     {"chkVerHs", v.chkVerHs}};
+    for (auto [nombre, visible] : visibles) ver(nombre, visible, !p.Control(nombre)->isHidden());
+    const Habilitados& h = f.habilitado;
+    const std::pair<const char*, bool> botones[] = {{"cmdElegirComburente", h.cmdElegirComburente},
+                                                    {"cmdCombustible", h.cmdCombustible},
+                                                    {"cmdCarCombustion", h.cmdCarCombustion},
+                                                    {"cmdCarCiclo", h.cmdCarCiclo}};
+    for (auto [nombre, habilitado] : botones) ver(nombre, habilitado, p.Boton(nombre)->isEnabled());
+    const std::pair<const char*, bool> menus[] = {
+        {"mnuInforme", h.mnuInforme},           {"mnuBDatos", h.mnuBDatos},     {"mnuGuardar", h.mnuGuardar},
+        {"mnuTablasActual", h.mnuTablasActual}, {"mnuCalcular", h.mnuCalcular}, {"mnuVerTodo", h.mnuVerTodo},
+        {"mnuVerCiclo", h.mnuVerCiclo}};
+    for (auto [nombre, habilitado] : menus) ver(nombre, habilitado, p.Menu(nombre)->isEnabled());
+    const Marcas& m = f.marcado;
+    const std::pair<const char*, bool> marcas[] = {{"mnuVerTodo", m.mnuVerTodo},
+                                                   {"mnuPV", m.mnuPV},
+                                                   {"mnuTV", m.mnuTV},
+                                                   {"mnuTS", m.mnuTS},
+                                                   {"mnuHS", m.mnuHS}};
+    for (auto [nombre, marcada] : marcas) ver(nombre, marcada, p.Menu(nombre)->isChecked());
+    ver("chkVerHs marcada", m.chkVerHs, Hijo<QCheckBox>(&p.f, "chkVerHs")->isChecked());
+    const Lugares& l = f.lugar;
+    const std::pair<const char*, const Lugar*> lugares[] = {{"pct1", &l.pct1},
+                                                            {"pct2", &l.pct2},
+                                                            {"pct3", &l.pct3},
+                                                            {"pctPV", &l.pctPV},
+                                                            {"pctTV", &l.pctTV},
+                                                            {"pctTS", &l.pctTS},
+                                                            {"pctHS", &l.pctHS},
+                                                            {"fraBotonera", &l.fraBotonera},
+                                                            {"fraPuntos", &l.fraPuntos},
+                                                            {"fraPotencia", &l.fraPotencia},
+                                                            {"fraTransformaciones", &l.fraTransformaciones},
+                                                            {"cmdElegirComburente", &l.cmdElegirComburente},
+                                                            {"cmdCarCiclo", &l.cmdCarCiclo},
+                                                            {"cmdInforme", &l.cmdInforme},
+                                                            {"chkVerHs", &l.chkVerHs},
+                                                            {"fraEstadoActual", &l.fraEstadoActual}};
+    for (auto [nombre, lugar] : lugares)
+        if (p.Control(nombre)->geometry() != QRect(lugar->Left, lugar->Top, lugar->Width, lugar->Height))
+            d += QStringLiteral(" lugar de %1").arg(QLatin1String(nombre));
+    return d;
+}
+
+#define MUESTRA_EL_FLUJO(p, paso) QVERIFY2(Diferencias(p).isEmpty(), qPrintable(paso + Diferencias(p)))
+
+}  // namespace
+
+class PruebaVentana : public QObject {
+    Q_OBJECT
+
+private slots:
+    void laVentanaMuestraElFlujoTrasCadaAccion() {
+        Programa p;
+        MUESTRA_EL_FLUJO(p, QStringLiteral("al abrir"));
+        QVERIFY(p.Etapa1());
+        MUESTRA_EL_FLUJO(p, QStringLiteral("etapa 1"));
+        QVERIFY(p.Etapa2(QStringLiteral("Metanol")));
+        MUESTRA_EL_FLUJO(p, QStringLiteral("etapa 2"));
+        QVERIFY(p.Etapa3());
+        MUESTRA_EL_FLUJO(p, QStringLiteral("etapa 3"));
+        QVERIFY(p.Etapa4());
+        MUESTRA_EL_FLUJO(p, QStringLiteral("etapa 4"));
+        QTest::mouseClick(p.f.pctPV(), Qt::LeftButton);
+        MUESTRA_EL_FLUJO(p, QStringLiteral("p-V ampliado"));
+        QVERIFY(Dibujada(p.f.pctPV(), 0.6));  // drawn at its new size
+        QTest::mouseClick(Hijo<QCheckBox>(&p.f, "chkVerHs"), Qt::LeftButton);
+        MUESTRA_EL_FLUJO(p, QStringLiteral("casilla h-s"));
+        p.Menu("mnuHS")->trigger();
+        MUESTRA_EL_FLUJO(p, QStringLiteral("h-s por el menú"));
+        p.Menu("mnuVerTodo")->trigger();
+        MUESTRA_EL_FLUJO(p, QStringLiteral("todos los gráficos"));
+        p.Menu("mnuTablas")->trigger();
+        MUESTRA_EL_FLUJO(p, QStringLiteral("tablas"));
+        // With the cycle stage closed a double click on p-V says why.
+        QTest::mouseDClick(p.f.pctPV(), Qt::LeftButton);
+        QCOMPARE(p.dlg.mensajes.back(),
+                 std::string("Antes debe especificar: comburente, combustible y combustión"));
+        p.Menu("mnuNuevo")->trigger();
+        MUESTRA_EL_FLUJO(p, QStringLiteral("nuevo ciclo"));
+    }
+
+    void lasEtapasDanLoMismoQueElCalculoSinVentanas() {
+        Programa p;
+        QVERIFY(p.Etapa1() && p.Etapa2(QStringLiteral("Gasoil")) && p.Etapa3() && p.AbrirCiclo("imgDiesel"));
+        frmOtto_Diesel* ciclo = p.f.Otto_Diesel();
+        Hijo<QLineEdit>(ciclo, "txtRc")->setText(QStringLiteral("18"));
+        Programa::Elegir(Hijo<QRadioButton>(ciclo, "optGvariable"));
+        QVERIFY(p.Calcular());
+        QVERIFY2(p.dlg.mensajes.empty(), p.dlg.mensajes.empty() ? "" : p.dlg.mensajes.front().c_str());
+
+        Estado e;
+        DialogosGrabados dlg;
+        SuperficiesNulas nulas;
+        SuperficiesCalculo s = nulas.Todas();
+        VentanaPrincipalSimple v;
+        OpcionesCalculo o;
+        o.valores = {
+            {"combustible", "Gasoil"}, {"ciclo", "Diesel"}, {"rc", "18"}, {"compresion", "variable"}};
+        QVERIFY(CalcularTodo(e, o, dlg, s, v));
+        QCOMPARE(Q(p.f.InformeF1()), Q(v.informe));
+        const TextosResultados& t = v.resultados;
+        QCOMPARE(p.Etiqueta("lblP3"), Q(t.lblP[2]));
+        QCOMPARE(p.Etiqueta("lblS5"), Q(t.lblS[4]));
+        QCOMPARE(p.Etiqueta("lblG45"), Q(t.lblG45));
+        QCOMPARE(p.Etiqueta("lblRen"), Q(t.lblRen));
+        QCOMPARE(Hijo<QLineEdit>(&p.f, "txtConsumoKwh")->text(), Q(t.txtConsumoKwh));
+        for (SuperficieQt* sup :
+             {p.f.pct1(), p.f.pct2(), p.f.pct3(), p.f.pctPV(), p.f.pctTV(), p.f.pctTS(), p.f.pctHS()})
+            QVERIFY(Dibujada(sup));
+    }
+
+    void laLecturaYLaPotenciaSiguenAlUsuario() {
+        Programa p;
+        QVERIFY(p.CuatroEtapas());
+        Estado copia = p.e;
+        for (bool ampliado : {false, true}) {
+            if (ampliado) QTest::mouseClick(p.f.pctTV(), Qt::LeftButton);
+            SuperficieQt* tv = p.f.pctTV();
+            const QPoint punto(tv->width() / 2, tv->height() / 3);
+            QTest::mouseMove(tv, punto);
+            const QPointF u = tv->AUsuario(punto - tv->contentsRect().topLeft());
+            LecturaEstado esperada;
+            DialogosGrabados dlg;
+            DiagramasNulos nulos;
+            Diagramas g = nulos.Todos();
+            copia = p.e;
+            pctTV_MouseMove(copia, dlg, g, true, float(u.x()), float(u.y()), esperada);
+            QCOMPARE(p.Etiqueta("lblTmouseVal"), Q(esperada.lblTmouseVal));
+            QCOMPARE(p.Etiqueta("lblhmouseVal"), Q(esperada.lblhmouseVal));
+            QCOMPARE(Hijo<QLineEdit>(&p.f, "txtTransformacion")->text(), Q(esperada.txtTransformacion));
+            QVERIFY(!p.Etiqueta("lblSmouseVal").isEmpty());
+        }
+        p.Menu("mnuVerTodo")->trigger();
+        // A calculation that fails leaves the figures of the last one on
+        // screen, and the power follows them, not the work the failure left.
+        const double wciclo = p.e.Wciclo;
+        QVERIFY(p.AbrirCiclo("imgDiesel"));
+        Hijo<QLineEdit>(p.f.Otto_Diesel(), "txtRc")->setText(QStringLiteral("2"));
+        QVERIFY(p.Calcular());
+        QVERIFY(p.e.ErrorCalculo && p.e.Wciclo != wciclo);
+        p.f.Otto_Diesel()->hide();
+        auto* rpm = Hijo<QLineEdit>(&p.f, "txtRpm");
+        QTest::mouseClick(rpm, Qt::LeftButton);  // the prompt "rpm" goes
+        QTest::keyClicks(rpm, QStringLiteral("3000"));
+        CajaTextoSimple r("3000"), w, cv;
+        DialogosGrabados dlg;
+        txtRpm_Change(p.e, dlg, wciclo, r, w, cv);
+        QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotencia")->text(), Q(w.Text()));
+        QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotenciaCV")->text(), Q(cv.Text()));
+    }
+};
+
+static Registrar<PruebaVentana> registrar;
+#include "test_Ventana.moc"
