@@ -45,15 +45,15 @@ set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${VANTA_MANTENEDOR}")
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 # The shared libraries the program links come from dpkg-shlibdeps; what Qt
-# loads at run time must be named: the SQLite driver of the results database,
-# the platform plugins that open windows, Qt's own Spanish texts, and the
-# opener of the help pages in the browser.
+# loads at run time must be named: the SQLite and PostgreSQL drivers of the
+# results database, the platform plugins that open windows, Qt's own Spanish
+# texts, and the opener of the help pages in the browser.
 find_program(VANTA_DPKG_SHLIBDEPS dpkg-shlibdeps)
 if(VANTA_DPKG_SHLIBDEPS)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 endif()
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "libqt6widgets6 (>= 6.4), libqt6printsupport6 (>= 6.4), libqt6sql6 (>= 6.4), libqt6sql6-sqlite (>= 6.4), \
-libqt6charts6 (>= 6.4), libqt6svg6 (>= 6.4), qt6-qpa-plugins (>= 6.4), qt6-translations-l10n, xdg-utils")
+libqt6charts6 (>= 6.4), libqt6svg6 (>= 6.4), libqt6sql6-psql (>= 6.4), qt6-qpa-plugins (>= 6.4), qt6-translations-l10n, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core")
 include(CPack)

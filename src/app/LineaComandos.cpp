@@ -6,6 +6,7 @@
 #include <set>
 #include <sstream>
 
+#include "core/database/Direccion.h"
 #include "core/fluids/Combustible.h"
 #include "core/services/Numeros.h"
 #include "core/validation/Avisos.h"
@@ -16,7 +17,7 @@ namespace vanta::cli {
 namespace {
 
 // The options with a value that are not inputs of the calculation.
-const char* kOpcionesSalida[] = {"html", "guardar", "figuras", "formato", "tamano"};
+const char* kOpcionesSalida[] = {"html", "guardar", "base-datos", "figuras", "formato", "tamano"};
 
 bool EsOpcion(const std::string& nombre) {
     for (const char* o : kOpcionesSalida)
@@ -61,6 +62,11 @@ std::string Comprobar(const OpcionesCalcular& o) {
         return "--formato y --tamano van con --figuras";
     if (o.Tiene("formato") && !std::set<std::string>{"png", "svg", "pdf"}.count(o.Valor("formato")))
         return "formato de figura desconocido: " + o.Valor("formato") + " (png, svg o pdf)";
+    if (o.Tiene("base-datos")) {
+        if (!o.Tiene("guardar")) return "--base-datos va con --guardar";
+        if (const auto d = bd::LeerDireccion(o.Valor("base-datos")); !d.direccion)
+            return "--base-datos: " + d.error;
+    }
     return {};
 }
 
@@ -121,6 +127,7 @@ Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
         return {std::nullopt, "--figuras necesita una carpeta"};
     o.html = o.Valor("html");
     o.guardar = o.Valor("guardar");
+    o.baseDatos = o.Valor("base-datos");
     o.figuras = o.Valor("figuras");
     if (o.Tiene("formato")) o.formato = o.Valor("formato");
     for (const char* salida : kOpcionesSalida) o.valores.erase(salida);
@@ -129,6 +136,9 @@ Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
 
 std::string TextoUso() {
     return "Uso: vanta                              la ventana principal\n"
+           "     vanta --carpeta-datos              la ventana principal, con los datos (BD.sqlite) en\n"
+           "                                        ~/.local/share/vanta; así la abre el menú del "
+           "escritorio\n"
            "     vanta calcular [opciones]          el cálculo completo sin ventana; escribe el informe\n"
            "     vanta tablas [opciones]            las tablas de propiedades como texto\n"
            "     vanta estudio [opciones]           un estudio paramétrico (vanta estudio --help)\n"
@@ -140,6 +150,11 @@ std::string TextoUso() {
            "  --json                          en lugar del informe, todas las variables del cálculo en JSON\n"
            "  --html CARPETA                  escribe también la página HTML y sus siete imágenes\n"
            "  --guardar NOMBRE                guarda también el resultado en la base de datos\n"
+           "  --base-datos RUTA|DIRECCIÓN     dónde la guarda: un archivo SQLite (por defecto BD.sqlite\n"
+           "                                  en la carpeta actual) o un servidor PostgreSQL,\n"
+           "                                  "
+           "postgresql://usuario@servidor:5432/basedatos[?sslmode=require];\n"
+           "                                  la contraseña, en PGPASSFILE (~/.pgpass) o PGPASSWORD\n"
            "  --figuras CARPETA               escribe también los cuatro diagramas, con escalas, y las tres\n"
            "                                  gráficas, como figuras: --formato png|svg|pdf (png)\n"
            "                                  --tamano ANCHOxALTO (1200x900)\n"

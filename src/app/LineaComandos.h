@@ -24,8 +24,11 @@ inline constexpr const char* kVerAyuda = "Las opciones, con ";
 // The inputs of the calculation, and what to write besides the report.
 struct OpcionesCalcular : OpcionesCalculo {
     bool json = false;
-    std::string html;              // folder for the page and its bitmaps, empty for none
-    std::string guardar;           // record name for the results database, empty for none
+    std::string html;     // folder for the page and its bitmaps, empty for none
+    std::string guardar;  // record name for the results database, empty for none
+    // The results database: a file, or a postgresql:// address; empty for
+    // BD.sqlite in the current folder.
+    std::string baseDatos;
     std::string figuras;           // folder for the diagrams and charts as figures, empty for none
     std::string formato = "png";   // of the figures: png, svg or pdf
     int ancho = 1200, alto = 900;  // of the figures, in pixels

@@ -21,7 +21,9 @@
 #include "app/LineaValidacion.h"
 #include "core/services/Numeros.h"
 #include "gui/comparison/Figuras.h"
+#include "gui/database/CarpetaDatos.h"
 #include "gui/database/GuardarBaseDatos.h"
+#include "gui/database/frmElegirBaseDatos.h"
 #include "gui/mainwindow/frmFase1.h"
 #include "gui/reports/PaginaWeb.h"
 #include "gui/resources/Programa.h"
@@ -87,7 +89,8 @@ int Calcular(const std::vector<std::string>& argumentos) {
         }
     }
     if (!o.guardar.empty()) {
-        if (!GuardarRegistro(e, o.guardar, tipo, informe, imagenes, dlg)) return cli::kSalidaFallo;
+        if (!GuardarRegistro(e, o.guardar, tipo, informe, imagenes, dlg, QString::fromStdString(o.baseDatos)))
+            return cli::kSalidaFallo;
     }
     if (!o.figuras.empty()) {
         const std::string error = EscribirFiguras(
@@ -149,6 +152,7 @@ int Ventanas(int argc, char** argv) {
     vanta::Estado e;
     e.SeparadorDecimal = SeparadorDelSistema();
     vanta::frmFase1 principal(e);
+    principal.FijarDireccionBaseDatos(vanta::DireccionRecordada());
     principal.show();
     return QApplication::exec();
 }
@@ -159,6 +163,12 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     const std::vector<std::string> argumentos(argv + 1, argv + argc);
     if (argumentos.empty()) return Ventanas(argc, argv);
+    // The desktop entry's start: the data in the user's folder.
+    if (argumentos.size() == 1 && argumentos[0] == "--carpeta-datos") {
+        QString error;
+        if (!vanta::EntrarEnCarpetaDatos(error)) std::cerr << "vanta: " << error.toStdString() << '\n';
+        return Ventanas(argc, argv);
+    }
     qInstallMessageHandler(SoloMensajesGraves);
     const std::string orden = argumentos[0];
     const std::vector<std::string> resto(argumentos.begin() + 1, argumentos.end());

@@ -104,15 +104,17 @@ std::string Citado(std::string_view nombre) {
     return s + '"';
 }
 
-std::string SQLCrearTabla() {
+std::string SQLCrearTabla(Motor motor) {
+    const bool servidor = motor == Motor::PostgreSQL;
     std::string s = "CREATE TABLE " + Citado(kTabla) + " (";
     for (const auto& c : kColumnasTexto) s += Citado(c.nombre) + " TEXT, ";
-    for (const auto& c : kColumnasImagen) s += Citado(c.nombre) + " BLOB, ";
+    for (const auto& c : kColumnasImagen) s += Citado(c.nombre) + (servidor ? " BYTEA, " : " BLOB, ");
+    if (servidor) s += "rowid BIGINT GENERATED ALWAYS AS IDENTITY PRIMARY KEY, ";
     s.resize(s.size() - 2);
     return s + ")";
 }
 
-std::string SQLInsertar() {
+std::string SQLInsertar(Motor motor) {
     std::string columnas, parametros;
     auto agregar = [&](std::string_view nombre) {
         columnas += (columnas.empty() ? "" : ", ") + Citado(nombre);
@@ -120,7 +122,8 @@ std::string SQLInsertar() {
     };
     for (const auto& c : kColumnasTexto) agregar(c.nombre);
     for (const auto& c : kColumnasImagen) agregar(c.nombre);
-    return "INSERT INTO " + Citado(kTabla) + " (" + columnas + ") VALUES (" + parametros + ")";
+    return "INSERT INTO " + Citado(kTabla) + " (" + columnas + ") VALUES (" + parametros + ")" +
+           (motor == Motor::PostgreSQL ? " RETURNING rowid" : "");
 }
 
 namespace {
@@ -144,6 +147,11 @@ std::string SQLLeerImagenes() {
 // ---- Texts -------------------------------------------------------------------------
 
 std::string CausaSQLite(int codigo, std::string_view descripcion) {
+    // SQLITE_READONLY_DIRECTORY: the file may be written, but not its folder,
+    // where each write makes and removes the rollback journal.
+    if (codigo == 1544)
+        return "la carpeta que lo contiene es de solo lectura, y SQLite necesita crear en ella su diario "
+               "(BD.sqlite-journal) para escribir";
     switch (codigo & 0xFF) {
         case 3:  // SQLITE_PERM
         case 8:  // SQLITE_READONLY
@@ -164,6 +172,74 @@ std::string CausaSQLite(int codigo, std::string_view descripcion) {
         default:
             return Unir({"error de la base de datos (", descripcion, ")"});
     }
+}
+
+bool EsDano(int codigo) {
+    return (codigo & 0xFF) == 11 || (codigo & 0xFF) == 26;  // SQLITE_CORRUPT, SQLITE_NOTADB
+}
+
+namespace {
+
+bool Contiene(std::string_view texto, std::string_view pieza) {
+    return texto.find(pieza) != std::string_view::npos;
+}
+
+// The first line of the server's text, without its "ERROR:  " (Qt puts the
+// SQLSTATE on a line of its own after it).
+std::string PrimeraLinea(std::string_view texto) {
+    std::string_view linea = texto.substr(0, texto.find('\n'));
+    for (std::string_view prefijo : {"ERROR:", "FATAL:"})
+        if (linea.substr(0, prefijo.size()) == prefijo) linea.remove_prefix(prefijo.size());
+    while (!linea.empty() && linea.front() == ' ') linea.remove_prefix(1);
+    return std::string(linea);
+}
+
+}  // namespace
+
+bool EsConexionPerdida(std::string_view estado, std::string_view texto) {
+    // Class 08: connection exceptions; 57P01-57P03: the server shutting down
+    // or starting. With no SQLSTATE, libpq's own words.
+    if (estado.substr(0, 2) == "08" || estado == "57P01" || estado == "57P02" || estado == "57P03")
+        return true;
+    return estado.empty() &&
+           (Contiene(texto, "server closed the connection") ||
+            Contiene(texto, "no connection to the server") || Contiene(texto, "terminating connection"));
+}
+
+bool FaltaClave(std::string_view texto) {
+    return Contiene(texto, "no password supplied");
+}
+
+bool ClaveRechazada(std::string_view texto) {
+    // The server's words, in its own language.
+    return Contiene(texto, "authentication failed") || Contiene(texto, "autentificación") ||
+           Contiene(texto, "autenticación");
+}
+
+std::string CausaPostgreSQL(std::string_view estado, std::string_view texto, std::string_view usuario) {
+    if (EsConexionPerdida(estado, texto)) return std::string(kCausaConexionPerdida);
+    if (estado == "42501") {
+        const std::string quien = usuario.empty() ? "el usuario" : Unir({"el usuario ", usuario});
+        return Unir({quien,
+                     " no tiene permiso para ello en el servidor (pídalo a quien administra la base de "
+                     "datos)"});
+    }
+    if (estado == "25006") return "la base de datos del servidor es de solo lectura";
+    if (estado == "53100") return "el disco del servidor está lleno";
+    if (estado == "3D000") return std::string(kCausaNoHayBase);
+    if (estado.empty()) {
+        // Failures to connect come with no SQLSTATE, only libpq's text (and
+        // the server's, in the server's language).
+        if (FaltaClave(texto)) return std::string(kCausaSinClave);
+        if (ClaveRechazada(texto)) return std::string(kCausaClaveRechazada);
+        if (Contiene(texto, "database \"") && Contiene(texto, "does not exist"))
+            return std::string(kCausaNoHayBase);
+        if (Contiene(texto, "connection to server") || Contiene(texto, "could not connect") ||
+            Contiene(texto, "could not translate host name") || Contiene(texto, "timeout expired") ||
+            Contiene(texto, "Connection refused") || Contiene(texto, "No such file or directory"))
+            return Unir({kCausaSinServidor, " (", PrimeraLinea(texto), ")"});
+    }
+    return Unir({"error del servidor de la base de datos (", PrimeraLinea(texto), ")"});
 }
 
 std::string MsgNoSeAbre(std::string_view ruta, std::string_view causa) {
@@ -189,6 +265,14 @@ std::string MsgNoSeBorra(std::string_view causa) {
 
 std::string MsgNoSeGuardaInforme(std::string_view causa) {
     return Unir({"No se ha guardado el informe en el registro: ", causa, "."});
+}
+
+std::string MsgArchivoDanado(std::string_view ruta, std::string_view detalle) {
+    return Unir(
+        {"No se ha guardado el registro: el archivo ", ruta,
+         " está dañado y falla su comprobación de integridad (", detalle,
+         "). Puede que se hayan perdido registros guardados antes; haga una copia del archivo antes de "
+         "seguir usándolo."});
 }
 
 }  // namespace vanta::bd

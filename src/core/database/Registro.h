@@ -16,6 +16,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/database/Direccion.h"
 #include "core/reports/Informes.h"
 #include "core/state/Estado.h"
 
@@ -138,9 +139,10 @@ TextosRegistro ValoresRegistro(const Estado& e, std::string_view nombre, std::st
 // was the last; -1 when none is left.
 int PosicionTrasBorrar(int posicion, int cuenta);
 
-// ---- The file ------------------------------------------------------------------
+// ---- The store -----------------------------------------------------------------
 
-// Its name, resolved against the current folder when the browser first loads.
+// The file's name, resolved against the current folder when the browser first
+// loads, unless another file or a server is chosen.
 inline constexpr std::string_view kArchivoBaseDatos = "BD.sqlite";
 inline constexpr std::string_view kTabla = "ResultadosGuardados";
 // Marks a file made by this program ("VANT"), set when the file is created.
@@ -148,10 +150,14 @@ inline constexpr int32_t kIdAplicacion = 0x56414E54;
 
 // A name of the file quoted for SQL: "Guardado como".
 std::string Citado(std::string_view nombre);
-// CREATE TABLE with the 68 columns in order: TEXT, and BLOB for the pictures.
-std::string SQLCrearTabla();
-// INSERT of the 68 columns in order, with positional parameters.
-std::string SQLInsertar();
+// CREATE TABLE with the 68 columns in order: TEXT, and BLOB (SQLite) or BYTEA
+// (PostgreSQL) for the pictures. SQLite numbers the records itself in its
+// hidden rowid; on PostgreSQL an identity column of that name follows the 68,
+// so that the same statements name a record on both.
+std::string SQLCrearTabla(Motor motor = Motor::SQLite);
+// INSERT of the 68 columns in order, with positional parameters; on
+// PostgreSQL it returns the new record's rowid.
+std::string SQLInsertar(Motor motor = Motor::SQLite);
 // SELECT of the text columns, or of the picture columns, of one record by its
 // rowid (one parameter).
 std::string SQLLeerTextos();
@@ -168,6 +174,20 @@ inline constexpr std::string_view kMsgRegistroBorrado =
 // (primary or extended); descripcion is the engine's own text, for the codes
 // that have no plain words here.
 std::string CausaSQLite(int codigo, std::string_view descripcion);
+// Whether an SQLite result code says that the file is damaged.
+bool EsDano(int codigo);
+
+// What went wrong on a PostgreSQL server, from the SQLSTATE of the error (empty
+// when the connection itself failed) and the server's or libpq's text.
+// usuario: the one of the address, to name it when it lacks a permission.
+std::string CausaPostgreSQL(std::string_view estado, std::string_view texto, std::string_view usuario);
+// Whether the failure cut the connection (the server stopped, restarted or
+// could not be reached): the next operation connects again.
+bool EsConexionPerdida(std::string_view estado, std::string_view texto);
+// Whether libpq found no password for a server that wants one, or the server
+// refused the one given.
+bool FaltaClave(std::string_view texto);
+bool ClaveRechazada(std::string_view texto);
 
 // Failures of the store, each ending the operation with nothing written.
 // ruta: the file; causa: CausaSQLite or one of the reasons below.
@@ -177,11 +197,31 @@ std::string MsgNoSeGuarda(std::string_view causa);
 std::string MsgNoSeLee(std::string_view causa);
 std::string MsgNoSeBorra(std::string_view causa);
 std::string MsgNoSeGuardaInforme(std::string_view causa);
+// A save that met a damaged file whose integrity check fails: the earlier
+// records are not promised. detalle: the first fault the check found.
+std::string MsgArchivoDanado(std::string_view ruta, std::string_view detalle);
 
 inline constexpr std::string_view kCausaNoEsDeVanta =
     "no es una base de datos de resultados de Vanta (ni se usa ni se modifica)";
 inline constexpr std::string_view kCausaSinColumnas =
     "le falta la tabla ResultadosGuardados o alguna de sus 68 columnas (ni se usa ni se modifica)";
 inline constexpr std::string_view kCausaEsCarpeta = "es una carpeta, no un archivo";
+inline constexpr std::string_view kCausaSinDriverSQLite =
+    "falta el controlador QSQLITE de Qt (paquete libqt6sql6-sqlite)";
+inline constexpr std::string_view kCausaSinDriverPostgreSQL =
+    "falta el controlador QPSQL de Qt (paquete libqt6sql6-psql)";
+inline constexpr std::string_view kCausaRegistroNoEsta = "el registro ya no está en la base de datos";
+inline constexpr std::string_view kCausaConexionPerdida =
+    "se ha perdido la conexión con el servidor (se ha parado o reiniciado); vuelva a intentarlo cuando esté "
+    "en marcha";
+inline constexpr std::string_view kCausaSinServidor =
+    "no se puede conectar con el servidor; compruebe que está en marcha y que la dirección es correcta";
+inline constexpr std::string_view kCausaSinClave =
+    "el servidor pide una contraseña: póngala en el archivo de contraseñas (PGPASSFILE, ~/.pgpass) o en la "
+    "variable PGPASSWORD";
+inline constexpr std::string_view kCausaClaveRechazada = "el servidor no acepta el usuario o la contraseña";
+inline constexpr std::string_view kCausaNoHayBase = "esa base de datos no existe en el servidor";
+// The prompt of the window when the server wants a password.
+inline constexpr std::string_view kPromptClave = "Contraseña para ";
 
 }  // namespace vanta::bd

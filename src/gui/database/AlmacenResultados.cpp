@@ -22,13 +22,14 @@ int Codigo(const QSqlError& error) {
     return error.nativeErrorCode().toInt();
 }
 
-std::string Causa(const QSqlError& error) {
-    return bd::CausaSQLite(Codigo(error), error.databaseText().toStdString());
-}
-
-const char* const kDriver = "QSQLITE";
-const char* const kCausaSinDriver = "falta el controlador QSQLITE de Qt (paquete libqt6sql6-sqlite)";
-const char* const kCausaRegistroNoEsta = "el registro ya no está en la base de datos";
+// Takes the locks that make the creation of the table one at a time: SQLite's
+// write lock, or a lock of the server's own for this program's mark.
+const char* const kEmpezarSQLite = "BEGIN IMMEDIATE";
+const char* const kEmpezarServidor = "BEGIN";
+const char* const kBloquearCreacion = "SELECT pg_advisory_xact_lock(%1)";
+// The columns of the table that names resolve to, none when there is no table.
+const char* const kColumnasServidor =
+    "SELECT attname FROM pg_attribute WHERE attrelid = to_regclass(?) AND attnum > 0 AND NOT attisdropped";
 
 }  // namespace
 
@@ -68,10 +69,14 @@ QImage PNGAImagen(const QByteArray& datos) {
     return QImage::fromData(datos, "PNG");
 }
 
-AlmacenResultados::AlmacenResultados(QString ruta) : ruta_(std::move(ruta)) {
+AlmacenResultados::AlmacenResultados(bd::Direccion direccion, QString clave)
+    : direccion_(std::move(direccion)), clave_(std::move(clave)) {
     static std::atomic<int> cuenta{0};
     conexion_ = QStringLiteral("vanta_resultados_%1").arg(++cuenta);
 }
+
+AlmacenResultados::AlmacenResultados(const QString& ruta)
+    : AlmacenResultados(*bd::LeerDireccion(ruta.toStdString()).direccion) {}
 
 AlmacenResultados::~AlmacenResultados() {
     Cerrar();
@@ -87,94 +92,170 @@ void AlmacenResultados::Cerrar() {
     abierto_ = false;
 }
 
+std::string AlmacenResultados::Causa(const QSqlError& error) const {
+    if (Servidor())
+        return bd::CausaPostgreSQL(error.nativeErrorCode().toStdString(), error.databaseText().toStdString(),
+                                   direccion_.usuario);
+    return bd::CausaSQLite(Codigo(error), error.databaseText().toStdString());
+}
+
 bool AlmacenResultados::Fallo(const QSqlError& error, std::string (*mensaje)(std::string_view)) {
     error_ = mensaje(Causa(error));
     return false;
 }
 
 bool AlmacenResultados::Conectar() {
-    if (!QSqlDatabase::isDriverAvailable(QString::fromLatin1(kDriver))) {
-        error_ = bd::MsgNoSeAbre(ruta_.toStdString(), kCausaSinDriver);
+    const std::string ruta = direccion_.texto;
+    const QString driver = Servidor() ? QStringLiteral("QPSQL") : QStringLiteral("QSQLITE");
+    if (!QSqlDatabase::isDriverAvailable(driver)) {
+        error_ =
+            bd::MsgNoSeAbre(ruta, Servidor() ? bd::kCausaSinDriverPostgreSQL : bd::kCausaSinDriverSQLite);
         return false;
     }
-    QSqlDatabase db = QSqlDatabase::addDatabase(QString::fromLatin1(kDriver), conexion_);
-    db.setDatabaseName(ruta_);
-    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(espera_));
+    QSqlDatabase db = QSqlDatabase::addDatabase(driver, conexion_);
+    if (Servidor()) {
+        db.setHostName(Q(direccion_.servidor));
+        db.setPort(direccion_.puerto);
+        db.setDatabaseName(Q(direccion_.base));
+        db.setUserName(Q(direccion_.usuario));
+        db.setPassword(clave_);
+        db.setConnectOptions(Q(bd::OpcionesConexion(direccion_)));
+    } else {
+        db.setDatabaseName(Q(direccion_.ruta));
+        db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(espera_));
+    }
     if (!db.open()) {
-        error_ = bd::MsgNoSeAbre(ruta_.toStdString(), Causa(db.lastError()));
+        const std::string texto = db.lastError().databaseText().toStdString();
+        pideClave_ = Servidor() && (bd::FaltaClave(texto) || bd::ClaveRechazada(texto));
+        error_ = bd::MsgNoSeAbre(ruta, Causa(db.lastError()));
         return false;
     }
     return true;
 }
 
-// An existing file is ours when it carries the program's mark and the table
-// with every column. A database with no table at all (a creation that was cut
-// short) holds nothing to lose and is made ours.
-bool AlmacenResultados::Comprobar(bool& vacia) {
-    const std::string ruta = ruta_.toStdString();
+bool AlmacenResultados::Viva() {
+    QSqlDatabase db = QSqlDatabase::database(conexion_, false);
+    if (db.isOpen()) return true;
+    if (db.open()) return true;
+    error_ = bd::MsgNoSeAbre(direccion_.texto, Causa(db.lastError()));
+    return false;
+}
+
+bool AlmacenResultados::ConReintento(const std::function<bool()>& f) {
+    if (!Viva()) return false;
+    if (f()) return true;
+    // Qt closes a server connection that it finds cut.
+    if (!Servidor() || QSqlDatabase::database(conexion_, false).isOpen()) return false;
+    const std::string primero = error_;
+    if (!Viva()) {
+        error_ = primero;
+        return false;
+    }
+    return f();
+}
+
+// A SQLite file is ours when it carries the program's mark and the table with
+// every column; a database with no table at all (a creation that was cut
+// short, or a file just made) holds nothing to lose and is made ours. On a
+// server, the table is ours when it has every column.
+std::optional<AlmacenResultados::Hallazgo> AlmacenResultados::Comprobar() {
+    const std::string ruta = direccion_.texto;
     QSqlQuery q(QSqlDatabase::database(conexion_, false));
     q.setForwardOnly(true);
-    if (!q.exec(QStringLiteral("PRAGMA application_id")) || !q.next()) {
+    auto fallo = [&] {
         error_ = bd::MsgNoSeAbre(ruta, Causa(q.lastError()));
-        return false;
-    }
-    if (q.value(0).toInt() != bd::kIdAplicacion) {
-        const bool sinMarca = q.value(0).toInt() == 0;
-        if (!q.exec(QStringLiteral("SELECT count(*) FROM sqlite_master")) || !q.next()) {
-            error_ = bd::MsgNoSeAbre(ruta, Causa(q.lastError()));
-            return false;
-        }
-        vacia = sinMarca && q.value(0).toInt() == 0;
-        if (!vacia) error_ = bd::MsgNoSeAbre(ruta, bd::kCausaNoEsDeVanta);
-        return vacia;
-    }
-    if (!q.exec(Q("PRAGMA table_info(" + bd::Citado(bd::kTabla) + ")"))) {
-        error_ = bd::MsgNoSeAbre(ruta, Causa(q.lastError()));
-        return false;
-    }
+        return std::nullopt;
+    };
     std::set<QString> nombres;
-    while (q.next()) nombres.insert(q.value(1).toString());
+    if (Servidor()) {
+        q.prepare(QString::fromLatin1(kColumnasServidor));
+        q.addBindValue(Q(bd::Citado(bd::kTabla)));
+        if (!q.exec()) return fallo();
+        while (q.next()) nombres.insert(q.value(0).toString());
+        if (q.lastError().isValid()) return fallo();
+        if (nombres.empty()) return Hallazgo::Vacia;
+        if (!nombres.count(QStringLiteral("rowid"))) {
+            error_ = bd::MsgNoSeAbre(ruta, bd::kCausaSinColumnas);
+            return Hallazgo::Ajena;
+        }
+    } else {
+        if (!q.exec(QStringLiteral("PRAGMA application_id")) || !q.next()) return fallo();
+        const int marca = q.value(0).toInt();
+        if (marca != bd::kIdAplicacion) {
+            if (!q.exec(QStringLiteral("SELECT count(*) FROM sqlite_master")) || !q.next()) return fallo();
+            if (marca == 0 && q.value(0).toInt() == 0) return Hallazgo::Vacia;
+            error_ = bd::MsgNoSeAbre(ruta, bd::kCausaNoEsDeVanta);
+            return Hallazgo::Ajena;
+        }
+        if (!q.exec(Q("PRAGMA table_info(" + bd::Citado(bd::kTabla) + ")"))) return fallo();
+        while (q.next()) nombres.insert(q.value(1).toString());
+    }
+    auto falta = [&](std::string_view nombre) { return !nombres.count(Q(nombre)); };
     for (const auto& c : bd::kColumnasTexto)
-        if (!nombres.count(Q(c.nombre))) return error_ = bd::MsgNoSeAbre(ruta, bd::kCausaSinColumnas), false;
+        if (falta(c.nombre)) return error_ = bd::MsgNoSeAbre(ruta, bd::kCausaSinColumnas), Hallazgo::Ajena;
     for (const auto& c : bd::kColumnasImagen)
-        if (!nombres.count(Q(c.nombre))) return error_ = bd::MsgNoSeAbre(ruta, bd::kCausaSinColumnas), false;
-    return true;
+        if (falta(c.nombre)) return error_ = bd::MsgNoSeAbre(ruta, bd::kCausaSinColumnas), Hallazgo::Ajena;
+    return Hallazgo::Nuestra;
 }
 
-// The mark and the table in one transaction: a creation cut short leaves a
-// database with no table, which the next opening makes again.
+// The table (and the mark of a file) in one transaction, after a second look
+// under the lock: whoever comes second finds it made and makes nothing. A
+// creation cut short leaves no table, which the next opening makes again.
 bool AlmacenResultados::Crear() {
-    QSqlQuery q(QSqlDatabase::database(conexion_, false));
-    const bool bien = q.exec(QStringLiteral("BEGIN IMMEDIATE")) &&
-                      q.exec(QStringLiteral("PRAGMA application_id = %1").arg(bd::kIdAplicacion)) &&
-                      q.exec(Q(bd::SQLCrearTabla())) && q.exec(QStringLiteral("COMMIT"));
+    QSqlDatabase db = QSqlDatabase::database(conexion_, false);
+    QSqlQuery q(db);
+    const bool bloqueada = Servidor()
+                               ? q.exec(QString::fromLatin1(kEmpezarServidor)) &&
+                                     q.exec(QString::fromLatin1(kBloquearCreacion).arg(bd::kIdAplicacion))
+                               : q.exec(QString::fromLatin1(kEmpezarSQLite));
+    if (!bloqueada) {
+        error_ = bd::MsgNoSeCrea(direccion_.texto, Causa(q.lastError()));
+        q.exec(QStringLiteral("ROLLBACK"));
+        return false;
+    }
+    const auto hallazgo = Comprobar();
+    if (hallazgo != Hallazgo::Vacia) {
+        q.exec(QString::fromLatin1(hallazgo == Hallazgo::Nuestra ? "COMMIT" : "ROLLBACK"));
+        return hallazgo == Hallazgo::Nuestra;
+    }
+    const bool bien =
+        (Servidor() || q.exec(QStringLiteral("PRAGMA application_id = %1").arg(bd::kIdAplicacion))) &&
+        q.exec(Q(bd::SQLCrearTabla(direccion_.motor))) && q.exec(QStringLiteral("COMMIT"));
     if (bien) return true;
-    error_ = bd::MsgNoSeCrea(ruta_.toStdString(), Causa(q.lastError()));
+    error_ = bd::MsgNoSeCrea(direccion_.texto, Causa(q.lastError()));
     q.exec(QStringLiteral("ROLLBACK"));
     return false;
 }
 
 bool AlmacenResultados::Abrir() {
     if (abierto_) return true;
-    const QFileInfo archivo(ruta_);
-    if (archivo.isDir()) {
-        error_ = bd::MsgNoSeAbre(ruta_.toStdString(), bd::kCausaEsCarpeta);
+    pideClave_ = false;
+    if (!Servidor() && QFileInfo(Q(direccion_.ruta)).isDir()) {
+        error_ = bd::MsgNoSeAbre(direccion_.texto, bd::kCausaEsCarpeta);
         return false;
     }
-    const bool existe = archivo.exists() && archivo.size() > 0;
-    bool vacia = !existe;
-    if (!Conectar() || (existe && !Comprobar(vacia))) {
+    if (!Conectar()) {
         Cerrar();
         return false;
     }
-    {
+    // The look at a file is one read transaction, so that another program's
+    // creation is seen whole or not at all.
+    QSqlDatabase db = QSqlDatabase::database(conexion_, false);
+    const bool lectura = !Servidor() && db.transaction();
+    const auto hallazgo = Comprobar();
+    if (lectura) db.rollback();
+    if (!hallazgo || hallazgo == Hallazgo::Ajena) {
+        Cerrar();
+        return false;
+    }
+    if (!Servidor()) {
         // The rollback journal with a full sync at each commit. A file left in
         // another journal mode by some other tool keeps it when it is in use.
         QSqlQuery q(QSqlDatabase::database(conexion_, false));
         q.exec(QStringLiteral("PRAGMA journal_mode = DELETE"));
         q.exec(QStringLiteral("PRAGMA synchronous = FULL"));
     }
-    if (vacia && !Crear()) {
+    if (hallazgo == Hallazgo::Vacia && !Crear()) {
         Cerrar();
         return false;
     }
@@ -183,18 +264,17 @@ bool AlmacenResultados::Abrir() {
 }
 
 std::optional<std::vector<qint64>> AlmacenResultados::Identificadores() {
-    QSqlQuery q(QSqlDatabase::database(conexion_, false));
-    q.setForwardOnly(true);
-    if (!q.exec(Q("SELECT rowid FROM " + bd::Citado(bd::kTabla) + " ORDER BY rowid"))) {
-        Fallo(q.lastError(), bd::MsgNoSeLee);
-        return std::nullopt;
-    }
     std::vector<qint64> ids;
-    while (q.next()) ids.push_back(q.value(0).toLongLong());
-    if (q.lastError().isValid()) {
-        Fallo(q.lastError(), bd::MsgNoSeLee);
-        return std::nullopt;
-    }
+    const bool bien = ConReintento([&] {
+        ids.clear();
+        QSqlQuery q(QSqlDatabase::database(conexion_, false));
+        q.setForwardOnly(true);
+        if (!q.exec(Q("SELECT rowid FROM " + bd::Citado(bd::kTabla) + " ORDER BY rowid")))
+            return Fallo(q.lastError(), bd::MsgNoSeLee);
+        while (q.next()) ids.push_back(q.value(0).toLongLong());
+        return !q.lastError().isValid() || Fallo(q.lastError(), bd::MsgNoSeLee);
+    });
+    if (!bien) return std::nullopt;
     return ids;
 }
 
@@ -204,26 +284,42 @@ bool AlmacenResultados::LeerFila(QSqlQuery& q, const std::string& sql, qint64 id
     q.addBindValue(id);
     if (q.exec() && q.next()) return true;
     if (q.lastError().isValid()) return Fallo(q.lastError(), bd::MsgNoSeLee);
-    error_ = bd::MsgNoSeLee(kCausaRegistroNoEsta);
+    error_ = bd::MsgNoSeLee(bd::kCausaRegistroNoEsta);
     return false;
 }
 
 std::optional<bd::TextosRegistro> AlmacenResultados::LeerTextos(qint64 id) {
-    QSqlQuery q(QSqlDatabase::database(conexion_, false));
-    if (!LeerFila(q, bd::SQLLeerTextos(), id)) return std::nullopt;
     bd::TextosRegistro textos;
-    for (size_t i = 0; i < textos.size(); ++i)
-        textos[i] = q.value(static_cast<int>(i)).toString().toStdString();
+    const bool bien = ConReintento([&] {
+        QSqlQuery q(QSqlDatabase::database(conexion_, false));
+        if (!LeerFila(q, bd::SQLLeerTextos(), id)) return false;
+        for (size_t i = 0; i < textos.size(); ++i)
+            textos[i] = q.value(static_cast<int>(i)).toString().toStdString();
+        return true;
+    });
+    if (!bien) return std::nullopt;
     return textos;
 }
 
 std::optional<ImagenesRegistro> AlmacenResultados::LeerImagenes(qint64 id) {
-    QSqlQuery q(QSqlDatabase::database(conexion_, false));
-    if (!LeerFila(q, bd::SQLLeerImagenes(), id)) return std::nullopt;
     ImagenesRegistro imagenes;
-    for (size_t i = 0; i < imagenes.size(); ++i)
-        imagenes[i] = PNGAImagen(q.value(static_cast<int>(i)).toByteArray());
+    const bool bien = ConReintento([&] {
+        QSqlQuery q(QSqlDatabase::database(conexion_, false));
+        if (!LeerFila(q, bd::SQLLeerImagenes(), id)) return false;
+        for (size_t i = 0; i < imagenes.size(); ++i)
+            imagenes[i] = PNGAImagen(q.value(static_cast<int>(i)).toByteArray());
+        return true;
+    });
+    if (!bien) return std::nullopt;
     return imagenes;
+}
+
+std::string AlmacenResultados::FalloDeIntegridad() {
+    QSqlQuery q(QSqlDatabase::database(conexion_, false));
+    if (!q.exec(QStringLiteral("PRAGMA quick_check(1)")) || !q.next())
+        return q.lastError().databaseText().toStdString();
+    const QString resultado = q.value(0).toString();
+    return resultado == QLatin1String("ok") ? std::string() : resultado.toStdString();
 }
 
 std::optional<qint64> AlmacenResultados::Insertar(const bd::TextosRegistro& textos,
@@ -232,49 +328,61 @@ std::optional<qint64> AlmacenResultados::Insertar(const bd::TextosRegistro& text
     std::array<QByteArray, bd::kNumColumnasImagen> png;
     for (size_t i = 0; i < png.size(); ++i) png[i] = ImagenAPNG(imagenes[i]);
 
+    // Only the start is tried again on a connection found lost: once the
+    // record is sent, a lost connection is a failed save.
+    const QString empezar = QString::fromLatin1(Servidor() ? kEmpezarServidor : kEmpezarSQLite);
+    if (!ConReintento([&] {
+            QSqlQuery control(QSqlDatabase::database(conexion_, false));
+            return control.exec(empezar) || Fallo(control.lastError(), bd::MsgNoSeGuarda);
+        }))
+        return std::nullopt;
+
     QSqlDatabase db = QSqlDatabase::database(conexion_, false);
     QSqlQuery control(db);
-    if (!control.exec(QStringLiteral("BEGIN IMMEDIATE"))) {
-        Fallo(control.lastError(), bd::MsgNoSeGuarda);
-        return std::nullopt;
-    }
-    qint64 id = 0;
-    bool bien;
-    {
-        QSqlQuery q(db);
-        bien = q.prepare(Q(bd::SQLInsertar()));
-        for (const std::string& t : textos) q.addBindValue(QString::fromStdString(t));
-        for (const QByteArray& p : png)
-            q.addBindValue(p.isEmpty() ? QVariant(QMetaType(QMetaType::QByteArray)) : QVariant(p));
-        bien = bien && q.exec();
-        if (bien)
-            id = q.lastInsertId().toLongLong();
-        else
-            Fallo(q.lastError(), bd::MsgNoSeGuarda);
-    }
+    // The statement outlives the end of the transaction: a server frees its
+    // prepared form only outside a failed one.
+    QSqlQuery q(db);
+    bool bien = q.prepare(Q(bd::SQLInsertar(direccion_.motor)));
+    for (const std::string& t : textos) q.addBindValue(Q(t));
+    for (const QByteArray& p : png)
+        q.addBindValue(p.isEmpty() ? QVariant(QMetaType(QMetaType::QByteArray)) : QVariant(p));
+    bien = bien && q.exec() && (!Servidor() || q.next());
+    const qint64 id = !bien ? 0 : Servidor() ? q.value(0).toLongLong() : q.lastInsertId().toLongLong();
+    QSqlError error = q.lastError();
+    q.finish();
     if (bien && antesDeConfirmar_) antesDeConfirmar_();
-    if (bien && !control.exec(QStringLiteral("COMMIT"))) bien = Fallo(control.lastError(), bd::MsgNoSeGuarda);
-    if (!bien) {
-        control.exec(QStringLiteral("ROLLBACK"));
-        return std::nullopt;
+    if (bien && !control.exec(QStringLiteral("COMMIT"))) {
+        bien = false;
+        error = control.lastError();
     }
-    return id;
+    if (bien) return id;
+    Fallo(error, bd::MsgNoSeGuarda);
+    if (db.isOpen()) control.exec(QStringLiteral("ROLLBACK"));
+    // A damaged file promises nothing of the records saved before.
+    if (!Servidor() && bd::EsDano(Codigo(error)))
+        if (const std::string detalle = FalloDeIntegridad(); !detalle.empty())
+            error_ = bd::MsgArchivoDanado(direccion_.texto, detalle);
+    return std::nullopt;
 }
 
 bool AlmacenResultados::Borrar(qint64 id) {
-    QSqlQuery q(QSqlDatabase::database(conexion_, false));
-    q.prepare(Q("DELETE FROM " + bd::Citado(bd::kTabla) + " WHERE rowid = ?"));
-    q.addBindValue(id);
-    return q.exec() || Fallo(q.lastError(), bd::MsgNoSeBorra);
+    return ConReintento([&] {
+        QSqlQuery q(QSqlDatabase::database(conexion_, false));
+        q.prepare(Q("DELETE FROM " + bd::Citado(bd::kTabla) + " WHERE rowid = ?"));
+        q.addBindValue(id);
+        return q.exec() || Fallo(q.lastError(), bd::MsgNoSeBorra);
+    });
 }
 
 bool AlmacenResultados::EscribirInforme(qint64 id, const std::string& informe) {
-    QSqlQuery q(QSqlDatabase::database(conexion_, false));
-    q.prepare(Q("UPDATE " + bd::Citado(bd::kTabla) + " SET " +
-                bd::Citado(bd::kColumnasTexto[bd::kColumnaInforme].nombre) + " = ? WHERE rowid = ?"));
-    q.addBindValue(QString::fromStdString(informe));
-    q.addBindValue(id);
-    return q.exec() || Fallo(q.lastError(), bd::MsgNoSeGuardaInforme);
+    return ConReintento([&] {
+        QSqlQuery q(QSqlDatabase::database(conexion_, false));
+        q.prepare(Q("UPDATE " + bd::Citado(bd::kTabla) + " SET " +
+                    bd::Citado(bd::kColumnasTexto[bd::kColumnaInforme].nombre) + " = ? WHERE rowid = ?"));
+        q.addBindValue(Q(informe));
+        q.addBindValue(id);
+        return q.exec() || Fallo(q.lastError(), bd::MsgNoSeGuardaInforme);
+    });
 }
 
 }  // namespace vanta

@@ -1,12 +1,18 @@
-// The results database on disk: an SQLite file reached through Qt SQL, with
-// the one table ResultadosGuardados. The file is checked before it is
-// trusted, made when it is missing, and written one transaction per change
-// with the rollback journal and full syncs, so that a program killed in the
-// middle of a save leaves every earlier record as it was.
+// The results database: the one table ResultadosGuardados, reached through Qt
+// SQL in a SQLite file (QSQLITE) or on a PostgreSQL server (QPSQL). Both hold
+// the same 68 columns with the same meaning, the figures as text and the
+// pictures as binary columns, and both are written one transaction per change.
 //
-// Records are named by SQLite's rowid, which follows the order of saving. The
+// The store is checked before it is trusted and made when it is missing, with
+// the table created inside a transaction under a lock, so that several
+// programs that start together against a missing store all find it made once.
+// A SQLite file keeps the rollback journal with full syncs, so that a program
+// killed in the middle of a save leaves every earlier record as it was.
+//
+// Records are named by their rowid, which follows the order of saving. The
 // list of records holds those ids only; the texts and the pictures of one
-// record are read when it is shown.
+// record are read when it is shown. A connection to a server that was lost (the
+// server stopped or restarted) is made again by the next operation.
 #pragma once
 
 #include <QImage>
@@ -17,6 +23,7 @@
 #include <string>
 #include <vector>
 
+#include "core/database/Direccion.h"
 #include "core/database/Registro.h"
 
 class QSqlError;
@@ -29,19 +36,28 @@ using ImagenesRegistro = std::array<QImage, bd::kNumColumnasImagen>;
 
 class AlmacenResultados {
 public:
-    // ruta: the file, already resolved.
-    explicit AlmacenResultados(QString ruta);
+    // direccion: a file already resolved, or a server. clave: the password
+    // asked by the window, when the server wants one (libpq takes it from
+    // PGPASSWORD or the password file otherwise).
+    explicit AlmacenResultados(bd::Direccion direccion, QString clave = {});
+    // A SQLite file, already resolved.
+    explicit AlmacenResultados(const QString& ruta);
     ~AlmacenResultados();
     AlmacenResultados(const AlmacenResultados&) = delete;
     AlmacenResultados& operator=(const AlmacenResultados&) = delete;
 
-    const QString& Ruta() const { return ruta_; }
+    // The file or the address, as messages name it.
+    QString Ruta() const { return QString::fromStdString(direccion_.texto); }
+    bd::Motor Motor() const { return direccion_.motor; }
 
-    // Opens the file, or makes it with its table when it is missing or empty.
-    // A file that is not this program's database, or lacks a column, is left
+    // Opens the store, or makes its table when it is missing. A file that is
+    // not this program's database, or a table that lacks a column, is left
     // untouched. False with Error() set on failure; true at once when open.
     bool Abrir();
     bool Abierto() const { return abierto_; }
+    // Whether the last opening failed on the password: a server asked for one
+    // it was not given, or refused the one given.
+    bool PideClave() const { return pideClave_; }
 
     // The message of the last failure, ready for a message box.
     const std::string& Error() const { return error_; }
@@ -52,12 +68,12 @@ public:
     std::optional<ImagenesRegistro> LeerImagenes(qint64 id);
 
     // Adds a record in one transaction; its id, or nothing on failure (and
-    // then nothing of it is in the file).
+    // then nothing of it is in the store).
     std::optional<qint64> Insertar(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes);
     bool Borrar(qint64 id);
     bool EscribirInforme(qint64 id, const std::string& informe);
 
-    // How long to wait for another program that holds the file, in ms.
+    // How long to wait for another program that holds a SQLite file, in ms.
     void FijarEspera(int milisegundos) { espera_ = milisegundos; }
     // Called inside a save's transaction, after the record is written and
     // before it is committed (for the tests of a program killed mid-save).
@@ -66,18 +82,31 @@ public:
     const QString& NombreConexion() const { return conexion_; }
 
 private:
+    enum class Hallazgo { Nuestra, Vacia, Ajena };
+    bool Servidor() const { return direccion_.motor == bd::Motor::PostgreSQL; }
     bool Conectar();
+    // A server connection that was lost is opened again.
+    bool Viva();
+    // Runs f, which makes its own queries; when it fails on a server
+    // connection that turns out lost before anything was written, connects
+    // again and runs it once more.
+    bool ConReintento(const std::function<bool()>& f);
+    std::optional<Hallazgo> Comprobar();
     bool Crear();
-    bool Comprobar(bool& vacia);
     void Cerrar();
+    std::string Causa(const QSqlError& error) const;
     // Runs a SELECT of one record by its id and stands on its row.
     bool LeerFila(QSqlQuery& q, const std::string& sql, qint64 id);
     // Sets Error() from a failed statement with the message maker given.
     bool Fallo(const QSqlError& error, std::string (*mensaje)(std::string_view));
+    // The first fault that SQLite's integrity check finds; empty when none.
+    std::string FalloDeIntegridad();
 
-    QString ruta_;
+    bd::Direccion direccion_;
+    QString clave_;
     QString conexion_;
     bool abierto_ = false;
+    bool pideClave_ = false;
     int espera_ = 2000;
     std::string error_;
     std::function<void()> antesDeConfirmar_;

@@ -11,6 +11,13 @@
 
 namespace vanta {
 
+namespace {
+
+// ms that a save of the command line waits for another program holding the file.
+constexpr int kEsperaLineaOrdenes = 15000;
+
+}  // namespace
+
 ImagenesRegistro ImagenesDeColumnas(const ImagenesPrincipal& imagenes) {
     ImagenesRegistro columnas;
     for (size_t i = 0; i < columnas.size(); ++i)
@@ -42,11 +49,24 @@ bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombu
     return true;
 }
 
+bd::LecturaDireccion ResolverDireccion(const QString& texto) {
+    const QString archivo = texto.isEmpty() ? ATexto(bd::kArchivoBaseDatos) : texto;
+    bd::LecturaDireccion l = bd::LeerDireccion(archivo.toStdString());
+    if (l.direccion && l.direccion->motor == bd::Motor::SQLite)
+        l.direccion->texto = l.direccion->ruta = QDir::current().absoluteFilePath(archivo).toStdString();
+    return l;
+}
+
 bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
                      std::string_view informe, const ImagenesPrincipal& imagenes, Dialogos& dlg,
-                     const QString& ruta) {
-    AlmacenResultados almacen(ruta.isEmpty() ? QDir::current().absoluteFilePath(ATexto(bd::kArchivoBaseDatos))
-                                             : ruta);
+                     const QString& baseDatos) {
+    const bd::LecturaDireccion direccion = ResolverDireccion(baseDatos);
+    if (!direccion.direccion) {
+        dlg.MsgBox(direccion.error);
+        return false;
+    }
+    AlmacenResultados almacen(*direccion.direccion);
+    almacen.FijarEspera(kEsperaLineaOrdenes);
     std::optional<qint64> id;
     if (!almacen.Abrir() || !(id = almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe),
                                                     ImagenesDeColumnas(imagenes)))) {

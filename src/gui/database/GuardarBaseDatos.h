@@ -36,10 +36,16 @@ bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombu
                       std::string_view informe, const ImagenesPrincipal& imagenes, frmBaseDatos& navegador);
 
 // The command line's save: one record with the name given, in the file BD.sqlite
-// of the current folder (or ruta), made when missing. No clipboard, no window.
+// of the current folder, or in the file or on the server that baseDatos names;
+// made when missing. No clipboard, no window. It waits longer than the window
+// for another program holding a file, since scripts start several at once.
 // Returns whether the record was added; a failure goes through dlg.
 bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
                      std::string_view informe, const ImagenesPrincipal& imagenes, Dialogos& dlg,
-                     const QString& ruta = {});
+                     const QString& baseDatos = {});
+
+// A file or an address as the user wrote it, made ready for the store: empty
+// is BD.sqlite, and a relative file is taken from the current folder.
+bd::LecturaDireccion ResolverDireccion(const QString& texto);
 
 }  // namespace vanta

@@ -6,16 +6,20 @@
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "gui/database/ControlImagen.h"
+#include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/frmAmpliador.h"
 #include "gui/services/PuertosQt.h"
 
@@ -26,6 +30,11 @@ namespace {
 const char* const kCaptionVerInforme = "Ver informe";
 const char* const kCaptionVerResumen = "Ver resumen";
 const char* const kCaptionNavegador = "   Cambiar de registro";
+
+// The window as designed, and the room that its frame takes on the screen
+// when the window manager has not yet told it.
+const QSize kTamanoDiseno(1100, 780);
+const QMargins kMarcoSupuesto(4, 30, 4, 4);
 
 // The report box in the report view and under the mouse, in parts of the
 // form's size.
@@ -59,12 +68,35 @@ frmBaseDatos::frmBaseDatos(Dialogos& dlg, std::function<std::string()> informeF1
     setObjectName(QStringLiteral("frmBaseDatos"));
     setWindowTitle(QStringLiteral("Base de datos"));
     setModal(false);
+    pedirClave_ = [this](const QString& pregunta) -> std::optional<QString> {
+        bool aceptada = false;
+        const QString clave =
+            QInputDialog::getText(this, windowTitle(), pregunta, QLineEdit::Password, QString(), &aceptada);
+        if (!aceptada) return std::nullopt;
+        return clave;
+    };
     CrearControles();
-    QSize tam(1100, 780);
-    if (const QScreen* pantalla = QGuiApplication::primaryScreen())
-        tam = tam.boundedTo(pantalla->availableSize());
-    resize(tam);
+    const QScreen* pantalla = padre && padre->screen() ? padre->screen() : QGuiApplication::primaryScreen();
+    if (pantalla)
+        AjustarAPantalla(pantalla->availableGeometry());
+    else
+        resize(kTamanoDiseno);
     ampliador_ = new frmAmpliador(this);
+}
+
+void frmBaseDatos::AjustarAPantalla(const QRect& libre) {
+    const QWindow* ventana = windowHandle();
+    const QMargins marco =
+        ventana && !ventana->frameMargins().isNull() ? ventana->frameMargins() : kMarcoSupuesto;
+    const QSize cabe = libre.size().shrunkBy(marco);
+    resize(kTamanoDiseno.boundedTo(cabe));
+    // Wholly inside the free area, as near as can be to where it stood.
+    QRect sitio = frameGeometry().marginsAdded(frameGeometry() == geometry() ? marco : QMargins());
+    sitio.moveLeft(
+        std::clamp(sitio.left(), libre.left(), std::max(libre.left(), libre.right() - sitio.width() + 1)));
+    sitio.moveTop(
+        std::clamp(sitio.top(), libre.top(), std::max(libre.top(), libre.bottom() - sitio.height() + 1)));
+    move(sitio.topLeft());
 }
 
 frmBaseDatos::~frmBaseDatos() {
@@ -145,7 +177,7 @@ void frmBaseDatos::CrearControles() {
 
     // The summary: fluid on the left, cycle on the right, the pictures under
     // both. The report box lies over this area when it shows.
-    auto* resumen = new QWidget(this);
+    auto* resumen = new QWidget;
     auto* izquierda = new QVBoxLayout;
     izquierda->addWidget(fraAire_);
     izquierda->addWidget(fraCombustible_);
@@ -199,8 +231,17 @@ void frmBaseDatos::CrearControles() {
     botones->addWidget(cmdComparar_);
     botones->addWidget(cmdCerrar_);
 
+    // The summary scrolls when the screen is smaller than the design.
+    auto* desplazable = new QScrollArea(this);
+    desplazable->setObjectName(QStringLiteral("desplazableResumen"));
+    desplazable->setFrameShape(QFrame::NoFrame);
+    desplazable->setWidgetResizable(true);
+    desplazable->setWidget(resumen);
+    desplazable->setMouseTracking(true);
+    desplazable->viewport()->setMouseTracking(true);
+
     auto* todo = new QVBoxLayout(this);
-    todo->addWidget(resumen, 1);
+    todo->addWidget(desplazable, 1);
     todo->addLayout(nombre);
     todo->addLayout(botones);
 
@@ -337,12 +378,31 @@ QWidget* frmBaseDatos::CrearNavegador() {
 
 bool frmBaseDatos::Cargar() {
     if (almacen_) return true;
-    if (ruta_.isEmpty()) ruta_ = QDir::current().absoluteFilePath(T(bd::kArchivoBaseDatos));
-    auto almacen = std::make_unique<AlmacenResultados>(ruta_);
-    almacen->FijarEspera(espera_);
-    if (!almacen->Abrir()) {
-        dlg_.MsgBox(almacen->Error());
+    const bd::LecturaDireccion direccion = ResolverDireccion(direccion_);
+    if (!direccion.direccion) {
+        dlg_.MsgBox(bd::MsgNoSeAbre(direccion_.toStdString(), direccion.error));
         return false;
+    }
+    // The file name is resolved once: a later change of folder does not move it.
+    if (direccion_.isEmpty()) direccion_ = QString::fromStdString(direccion.direccion->ruta);
+    auto almacen = std::make_unique<AlmacenResultados>(*direccion.direccion, clave_);
+    almacen->FijarEspera(espera_);
+    while (!almacen->Abrir()) {
+        // A server that wants a password not given, or refuses the one given:
+        // asked until it takes one or the question is cancelled.
+        const bool dicha = !clave_.isEmpty();
+        if (!almacen->PideClave() || dicha) dlg_.MsgBox(almacen->Error());
+        clave_.clear();
+        if (!almacen->PideClave()) return false;
+        const auto clave =
+            pedirClave_(T(bd::kPromptClave) + T(direccion.direccion->texto) + QLatin1Char(':'));
+        if (!clave) {
+            if (!dicha) dlg_.MsgBox(almacen->Error());
+            return false;
+        }
+        clave_ = *clave;
+        almacen = std::make_unique<AlmacenResultados>(*direccion.direccion, clave_);
+        almacen->FijarEspera(espera_);
     }
     auto ids = almacen->Identificadores();
     if (!ids) {
@@ -367,6 +427,23 @@ bool frmBaseDatos::AgregarRegistro(const bd::TextosRegistro& textos, const Image
     // The record left keeps what its report box showed.
     IrA(RecordCount() - 1);
     return true;
+}
+
+void frmBaseDatos::CerrarAlmacen() {
+    if (almacen_) DejarRegistro();
+    almacen_.reset();
+    ids_.clear();
+    posicion_ = -1;
+    hayRegistro_ = false;
+    Vaciar();
+}
+
+void frmBaseDatos::FijarDireccion(const QString& direccion) {
+    if (direccion == direccion_ && almacen_) return;
+    CerrarAlmacen();
+    direccion_ = direccion;
+    clave_.clear();
+    if (isVisible()) Cargar();
 }
 
 void frmBaseDatos::MoveFirst() {

@@ -1,8 +1,10 @@
 // "Base de datos": the browser of the saved results. It shows one record at a
 // time, as a summary (every figure in its box, the seven pictures as
 // thumbnails) or as the report text, and moves, deletes and enlarges. It is
-// made once and only hidden when closed; the file is opened when it is first
-// needed, and stays open for the program's life.
+// made once and only hidden when closed; the store (BD.sqlite in the current
+// folder, or the file or server chosen) is opened when it is first needed,
+// and stays open until another is chosen. It works the same on a SQLite file
+// and on a PostgreSQL server.
 //
 // The report view shows the main window's report buffer, not the record's own
 // report; the record being left gets that text in its Informe column when it
@@ -13,6 +15,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,10 +45,27 @@ public:
     ~frmBaseDatos() override;
 
     // The first call resolves the file name against the current folder and
-    // opens the file (making it when missing) on the first record; later
-    // calls do nothing once it is open. False, with the message shown, when
-    // the file cannot be used.
+    // opens the store (making it when missing) on the first record; later
+    // calls do nothing once it is open. A server that wants a password it was
+    // not given gets it asked. False, with the message shown, when the store
+    // cannot be used.
     bool Cargar();
+
+    // The store to use from now on: a file, a postgresql:// address, or empty
+    // for BD.sqlite in the current folder at the next load. The record left
+    // keeps its report; a browser in view shows the new store at once.
+    void FijarDireccion(const QString& direccion);
+    const QString& Direccion() const { return direccion_; }
+    // How the password of a server is asked: nothing for a cancel. By default
+    // an input box that hides what is typed.
+    void FijarPedirClave(std::function<std::optional<QString>(const QString&)> pedir) {
+        pedirClave_ = std::move(pedir);
+    }
+
+    // The designed size where the free area of the screen holds it (with
+    // the window's frame); otherwise the size of that area. The summary
+    // scrolls inside, so that the navigator and the buttons stay in view.
+    void AjustarAPantalla(const QRect& libre);
 
     // Adds a record in one transaction and moves to it, as the last one.
     // False, with the message shown, when nothing was saved.
@@ -100,6 +120,8 @@ private:
     QGroupBox* CrearPuntos();
     QGroupBox* CrearTransformaciones();
     QWidget* CrearNavegador();
+    // Closes the store in use, keeping the report of the record left.
+    void CerrarAlmacen();
     QWidget* Control(std::string_view nombre) const;
     // Rows of a caption, a box and its unit.
     struct Fila {
@@ -126,7 +148,9 @@ private:
     std::function<void()> comparar_;
     int espera_ = 2000;
 
-    QString ruta_;  // resolved at the first load
+    QString direccion_;  // as chosen; empty for BD.sqlite
+    QString clave_;      // the password asked, for this session only
+    std::function<std::optional<QString>(const QString&)> pedirClave_;
     std::unique_ptr<AlmacenResultados> almacen_;
     std::vector<qint64> ids_;
     int posicion_ = -1;

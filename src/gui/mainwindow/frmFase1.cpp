@@ -22,6 +22,7 @@
 #include "gui/cycle/frmOtto_Diesel.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/frmBaseDatos.h"
+#include "gui/database/frmElegirBaseDatos.h"
 #include "gui/fluids/frmAireHumedad.h"
 #include "gui/fluids/frmCombustible.h"
 #include "gui/fluids/frmGasesCombustion.h"
@@ -308,6 +309,8 @@ void frmFase1::CrearMenus() {
     mnuGuardarTexto_ = Entrada(mnuGuardar_, "mnuGuardarTexto", "&Texto");
     mnuGuardarHTML_ = Entrada(mnuGuardar_, "mnuGuardarHTML", "&HTML (Página Web)");
     mnuExportarDiagramas_ = Entrada(mnuArchivo_, "mnuExportarDiagramas", "E&xportar diagramas…");
+    mnuArchivo_->addSeparator();
+    mnuElegirBD_ = Entrada(mnuArchivo_, "mnuElegirBD", "&Base de datos…");
     barra->addMenu(mnuArchivo_);
 
     mnuVer_ = Menu(barra, "mnuVer", "&Ver");
@@ -350,6 +353,7 @@ void frmFase1::CrearMenus() {
         {mnuAbrirInforme_, &frmFase1::mnuAbrirInforme_Click},
         {mnuInforme_, &frmFase1::mnuInforme_Click},
         {mnuBDatos_, &frmFase1::mnuBDatos_Click},
+        {mnuElegirBD_, &frmFase1::mnuElegirBD_Click},
         {mnuGuardarTexto_, &frmFase1::mnuGuardarTexto_Click},
         {mnuGuardarHTML_, &frmFase1::mnuGuardarHTML_Click},
         {mnuVerTodo_, &frmFase1::mnuVerTodo_Click},
@@ -476,8 +480,14 @@ frmBaseDatos& frmFase1::BaseDatos() {
             frmBaseDatos& b = *frmBaseDatos_;
             Comparar(&b, b.Almacen(), std::nullopt, b.IdActual(), e_.SeparadorDecimal, *dlg_);
         });
+        frmBaseDatos_->FijarDireccion(direccionBaseDatos_);
     }
     return *frmBaseDatos_;
+}
+
+void frmFase1::FijarDireccionBaseDatos(const QString& direccion) {
+    direccionBaseDatos_ = direccion;
+    if (frmBaseDatos_) frmBaseDatos_->FijarDireccion(direccion);
 }
 
 void frmFase1::cmdEnvBaseDatos_Click() {
@@ -586,6 +596,17 @@ void frmFase1::mnuInforme_Click() {
 }
 void frmFase1::mnuBDatos_Click() {
     cmdEnvBaseDatos_Click();
+}
+void frmFase1::mnuElegirBD_Click() {
+    // Made anew each time, on the choice in use; kept by the program's
+    // settings when accepted.
+    auto* elegir = new frmElegirBaseDatos(*dlg_, direccionBaseDatos_, this);
+    elegir->setAttribute(Qt::WA_DeleteOnClose);
+    connect(elegir, &QDialog::accepted, this, [this, elegir] {
+        RecordarDireccion(elegir->Direccion());
+        FijarDireccionBaseDatos(elegir->Direccion());
+    });
+    MostrarModal(*elegir);
 }
 void frmFase1::mnuGuardarTexto_Click() {
     visores_->GuardarTexto(this);

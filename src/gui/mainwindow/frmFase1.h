@@ -90,6 +90,10 @@ public:
     // How a stage window is shown modal: exec() unless replaced (the window
     // tests show it and drive it without a nested event loop).
     void FijarMostrarModal(std::function<void(QDialog&)> mostrar) { mostrarModal_ = std::move(mostrar); }
+    // Where the results database is: a file, a postgresql:// address, or
+    // empty for BD.sqlite in the current folder (the program gives the choice
+    // remembered from the last session).
+    void FijarDireccionBaseDatos(const QString& direccion);
 
 public slots:
     void cmdElegirComburente_Click();
@@ -116,6 +120,7 @@ public slots:
     void mnuAbrirInforme_Click();
     void mnuInforme_Click();
     void mnuBDatos_Click();
+    void mnuElegirBD_Click();
     void mnuGuardarTexto_Click();
     void mnuGuardarHTML_Click();
     void mnuVerTodo_Click();
@@ -246,7 +251,7 @@ private:
             *mnuVerTodo_ = nullptr, *mnuPV_ = nullptr, *mnuTV_ = nullptr, *mnuTS_ = nullptr,
             *mnuHS_ = nullptr, *mnuCalcular_ = nullptr, *mnuTablasActual_ = nullptr, *mnuTablas_ = nullptr,
             *mnuAyuda2_ = nullptr, *mnuAcercaDe_ = nullptr, *mnuExportarDiagramas_ = nullptr,
-            *mnuComparar_ = nullptr;
+            *mnuComparar_ = nullptr, *mnuElegirBD_ = nullptr;
 
     frmAireHumedad* frmAireHumedad_ = nullptr;
     frmCombustible* frmCombustible_ = nullptr;
@@ -260,6 +265,7 @@ private:
     QAction* mnuEstudio_ = nullptr;
     std::unique_ptr<frmEstudio> frmEstudio_;
     std::unique_ptr<frmBaseDatos> frmBaseDatos_;
+    QString direccionBaseDatos_;
     // The report windows and the buffer rthInforme, which lives with them.
     std::unique_ptr<VisoresInforme> visores_;
 };

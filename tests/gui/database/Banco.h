@@ -1,11 +1,14 @@
 // What the results database tests share: real calculations with their
-// pictures, a browser on a folder of its own, and a look into the file that
+// pictures, a browser on a store of its own (a SQLite file in a folder of its
+// own, or a new database on the test server), and a look into the store that
 // does not go through the browser.
 #pragma once
 
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTemporaryDir>
@@ -21,6 +24,7 @@
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/frmBaseDatos.h"
 #include "gui/services/SuperficieQt.h"
+#include "tests/gui/database/ServidorPrueba.h"
 
 namespace vanta::pruebas {
 
@@ -70,6 +74,37 @@ inline bool MismaImagen(const QImage& a, const QImage& b) {
     return a.convertToFormat(QImage::Format_RGB32) == b.convertToFormat(QImage::Format_RGB32);
 }
 
+// The vanta program run as a user runs it, in a folder and with an
+// environment.
+struct Salida {
+    int estado = -1;
+    QString out, err;
+};
+
+inline QProcess* LanzarVanta(const QStringList& argumentos, const QString& carpeta,
+                             const QProcessEnvironment& entorno = QProcessEnvironment::systemEnvironment()) {
+    auto* p = new QProcess;
+    p->setWorkingDirectory(carpeta);
+    p->setProcessEnvironment(entorno);
+    p->start(QStringLiteral(VANTA_BINARIO), argumentos);
+    return p;
+}
+
+inline Salida Esperar(QProcess* p) {
+    Salida s;
+    if (!p->waitForFinished(120000)) p->kill();
+    s.estado = p->exitStatus() == QProcess::NormalExit ? p->exitCode() : -1;
+    s.out = QString::fromUtf8(p->readAllStandardOutput());
+    s.err = QString::fromUtf8(p->readAllStandardError());
+    delete p;
+    return s;
+}
+
+inline Salida Vanta(const QStringList& argumentos, const QString& carpeta,
+                    const QProcessEnvironment& entorno = QProcessEnvironment::systemEnvironment()) {
+    return Esperar(LanzarVanta(argumentos, carpeta, entorno));
+}
+
 // Texts of a record whose every part names it.
 inline bd::TextosRegistro TextosDe(const std::string& nombre) {
     Estado e;
@@ -78,15 +113,23 @@ inline bd::TextosRegistro TextosDe(const std::string& nombre) {
 }
 
 // A browser on an empty folder of its own, which is the current folder while
-// the bench stands. Modal windows are shown without a nested event loop.
+// the bench stands, and BD.sqlite there; or, with servidor, on a new database
+// of the test server. Modal windows are shown without a nested event loop.
 struct Banco {
     QTemporaryDir carpeta;
     QString anterior = QDir::currentPath();
     DialogosGrabados dlg;
     std::string buffer;  // the main window's report buffer
+    QString direccion;   // empty for BD.sqlite in the folder
     std::unique_ptr<frmBaseDatos> f;
 
-    Banco() {
+    explicit Banco(bool servidor = false) {
+        QDir::setCurrent(carpeta.path());
+        if (servidor) direccion = ServidorPrueba::Uno().Direccion(ServidorPrueba::Uno().NuevaBase());
+        f = Nuevo();
+    }
+    // On a store given.
+    explicit Banco(const QString& almacen) : direccion(almacen) {
         QDir::setCurrent(carpeta.path());
         f = Nuevo();
     }
@@ -99,10 +142,13 @@ struct Banco {
         auto n = std::make_unique<frmBaseDatos>(dlg, [this] { return buffer; });
         n->FijarMostrarModal([](QDialog& d) { d.show(); });
         n->FijarEspera(200);
+        n->FijarDireccion(direccion);
         return n;
     }
 
     QString Ruta() const { return carpeta.filePath(QStringLiteral("BD.sqlite")); }
+    // The store, as the address of a connection that looks into it.
+    QString Donde() const { return direccion.isEmpty() ? Ruta() : direccion; }
 
     // Adds records named so, straight through the browser.
     void Agregar(std::initializer_list<const char*> nombres) {
@@ -120,17 +166,33 @@ struct Banco {
     }
 
     std::string Mensaje() const { return dlg.mensajes.empty() ? std::string() : dlg.mensajes.back(); }
+
+    // Whether the store has been made: the file, or the table on the server.
+    bool AlmacenCreado() const;
 };
 
-// The file seen with SQLite alone, on a connection of its own.
+// The store seen with its engine alone, on a connection of its own: a file,
+// or the address of a database of the test server.
 struct Mirada {
     QString nombre;
-    explicit Mirada(const QString& ruta)
+    bool servidor = false;
+    explicit Mirada(const QString& almacen)
         : nombre(QStringLiteral("mirada_%1").arg(reinterpret_cast<quintptr>(this))) {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), nombre);
-        db.setDatabaseName(ruta);
-        db.open();
+        const bd::Direccion d = *bd::LeerDireccion(almacen.toStdString()).direccion;
+        servidor = d.motor == bd::Motor::PostgreSQL;
+        QSqlDatabase db =
+            QSqlDatabase::addDatabase(servidor ? QStringLiteral("QPSQL") : QStringLiteral("QSQLITE"), nombre);
+        if (servidor) {
+            db.setHostName(QString::fromStdString(d.servidor));
+            db.setPort(d.puerto);
+            db.setUserName(QString::fromStdString(d.usuario));
+            db.setDatabaseName(QString::fromStdString(d.base));
+        } else {
+            db.setDatabaseName(almacen);
+        }
+        if (!db.open()) qFatal("no se mira %s", qPrintable(almacen));
     }
+    explicit Mirada(const Banco& b) : Mirada(b.Donde()) {}
     ~Mirada() {
         QSqlDatabase::database(nombre, false).close();
         QSqlDatabase::removeDatabase(nombre);
@@ -143,10 +205,17 @@ struct Mirada {
     QStringList Nombres() const {
         QSqlQuery q(QSqlDatabase::database(nombre, false));
         QStringList nombres;
-        if (q.exec(QStringLiteral("SELECT \"Guardado como\" FROM ResultadosGuardados ORDER BY rowid")))
+        if (q.exec(QStringLiteral("SELECT \"Guardado como\" FROM \"ResultadosGuardados\" ORDER BY rowid")))
             while (q.next()) nombres << q.value(0).toString();
         return nombres;
     }
 };
+
+inline bool Banco::AlmacenCreado() const {
+    if (direccion.isEmpty()) return QFile::exists(Ruta());
+    return Mirada(*this)
+        .Valor(QStringLiteral("SELECT to_regclass('\"ResultadosGuardados\"') IS NOT NULL"))
+        .toBool();
+}
 
 }  // namespace vanta::pruebas

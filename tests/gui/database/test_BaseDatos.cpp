@@ -1,8 +1,11 @@
-// The file of the results database: made when missing, checked before it is
-// trusted, and never losing a record saved before, whatever happens to a save
-// (a full disk, a file that cannot be written, another Vanta holding it, a
-// program killed in the middle). Each failure is a message, never a crash.
+// The file of the results database: made when missing (also by several
+// programs at once), checked before it is trusted, and never losing a record
+// saved before, whatever happens to a save (a full disk, a file or a folder
+// that cannot be written, another Vanta holding it, a program killed in the
+// middle). Each failure is a message that says what happened, never a crash.
+// And the record that the command line saves, as it always was.
 #include <QClipboard>
+#include <QCryptographicHash>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
@@ -10,7 +13,9 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include "gui/database/CarpetaDatos.h"
 #include "gui/database/ControlImagen.h"
+#include "tests/Dorados.h"
 #include "tests/gui/database/Banco.h"
 #include "tests/gui/mainwindow/Pruebas.h"
 
@@ -185,6 +190,13 @@ private slots:
         QVERIFY(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
         QCOMPARE(b.dlg.mensajes.size(), size_t(2));
         QVERIFY(Leer(b.Ruta()) == datos);
+        // The command line's save opens it (its first page is whole) and meets
+        // the damage: the message says so, and promises nothing of the records
+        // saved before.
+        QVERIFY(!GuardarRegistro(c.e, "x", c.combustible, c.informe, c.imagenes, b.dlg));
+        const std::string danado = bd::MsgArchivoDanado(b.Ruta().toStdString(), "");
+        QVERIFY2(b.Mensaje().rfind(danado.substr(0, danado.find('(')), 0) == 0, b.Mensaje().c_str());
+        QVERIFY(Leer(b.Ruta()) == datos);
     }
 
     void conElDiscoLlenoNoSeGuardaYNoSePierdeNada() {
@@ -229,23 +241,38 @@ private slots:
         QCOMPARE(segundo->RecordCount(), 2);
     }
 
-    void sinPermisoDeEscrituraSoloHayUnMensaje() {
-        Banco b;
-        b.Agregar({"A"});
-        b.f.reset();
+    void sinPermisoDeEscrituraSoloHayUnMensajeQueDiceQue() {
         // The other program runs as an unprivileged user when this one is root.
-        QFile::setPermissions(b.carpeta.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                                    QFile::ReadOther | QFile::ExeOther | QFile::ReadGroup |
-                                                    QFile::ExeGroup);
-        QFile::setPermissions(b.Ruta(), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-        const QByteArray antes = Leer(b.Ruta());
-        Ayudante otra({QStringLiteral("sin-permisos"), b.Ruta()});
-        QVERIFY(otra.p.waitForFinished(20000));
-        otra.salida += QString::fromUtf8(otra.p.readAllStandardOutput());
-        QCOMPARE(otra.p.exitCode(), 1);
-        QCOMPARE(otra.salida.trimmed().toStdString(), bd::MsgNoSeGuarda(bd::CausaSQLite(8, "")));
-        QVERIFY(Leer(b.Ruta()) == antes);
-        QFile::setPermissions(b.Ruta(), QFile::ReadOwner | QFile::WriteOwner);
+        const auto todos = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup |
+                           QFile::ReadOther | QFile::WriteOther;
+        const auto lectura = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+        const auto entrar = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+        struct Caso {
+            const char* nombre;
+            QFile::Permissions archivo, carpeta;
+            int codigo;  // what SQLite answers
+        } const casos[] = {
+            {"archivo de solo lectura", lectura, todos | entrar, 8},
+            // The file may be written; its journal may not be made beside it.
+            {"carpeta de solo lectura", todos, lectura | entrar, 1544},
+        };
+        for (const Caso& caso : casos) {
+            Banco b;
+            b.Agregar({"A"});
+            b.f.reset();
+            QFile::setPermissions(b.Ruta(), caso.archivo);
+            QFile::setPermissions(b.carpeta.path(), caso.carpeta);
+            const QByteArray antes = Leer(b.Ruta());
+            Ayudante otra({QStringLiteral("sin-permisos"), b.Ruta()});
+            QVERIFY(otra.p.waitForFinished(20000));
+            otra.salida += QString::fromUtf8(otra.p.readAllStandardOutput());
+            QCOMPARE(otra.p.exitCode(), 1);
+            QCOMPARE(otra.salida.trimmed().toStdString(),
+                     bd::MsgNoSeGuarda(bd::CausaSQLite(caso.codigo, "")));
+            QVERIFY2(Leer(b.Ruta()) == antes, caso.nombre);
+            QFile::setPermissions(b.carpeta.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            QFile::setPermissions(b.Ruta(), QFile::ReadOwner | QFile::WriteOwner);
+        }
     }
 
     void unaVantaMatadaAMitadDeGuardarDejaLoAnteriorEntero() {
@@ -278,6 +305,98 @@ private slots:
             total = hay;
         }
         QVERIFY(b.f->AgregarRegistro(TextosDe("registro final"), {}));
+    }
+
+    void ochoProgramasALaVezEnUnArchivoQueNoExisteGuardanTodos() {
+        QTemporaryDir carpeta;
+        for (int vuelta = 1; vuelta <= 3; ++vuelta) {
+            const QString ruta = carpeta.filePath(QStringLiteral("BD%1.sqlite").arg(vuelta));
+            std::vector<QProcess*> programas;
+            QStringList nombres;
+            for (int i = 1; i <= 8; ++i) {
+                nombres << QStringLiteral("vuelta %1 programa %2").arg(vuelta).arg(i);
+                programas.push_back(LanzarVanta({QStringLiteral("calcular"), QStringLiteral("--guardar"),
+                                                 nombres.back(), QStringLiteral("--base-datos"), ruta},
+                                                carpeta.path()));
+            }
+            for (QProcess* p : programas) {
+                const Salida s = Esperar(p);
+                QVERIFY2(s.estado == 0, qPrintable(s.err));
+            }
+            QStringList guardados = Mirada(ruta).Nombres();
+            guardados.sort();
+            QCOMPARE(guardados, nombres);
+        }
+    }
+
+    void laLineaDeOrdenesGuardaElInformeYElRegistroDeSiempre() {
+        QTemporaryDir carpeta;
+        const QStringList ordenes[] = {
+            {QStringLiteral("calcular"), QStringLiteral("--guardar"), QStringLiteral("prueba uno")},
+            {QStringLiteral("calcular"), QStringLiteral("--ciclo"), QStringLiteral("Diesel"),
+             QStringLiteral("--combustible"), QStringLiteral("Gasoil"), QStringLiteral("--rc"),
+             QStringLiteral("18"), QStringLiteral("--guardar"), QStringLiteral("dos")},
+        };
+        QStringList informes;
+        for (const QStringList& orden : ordenes) {
+            const Salida s = Vanta(orden, carpeta.path());
+            QVERIFY2(s.estado == 0, qPrintable(s.err));
+            informes << s.out.chopped(2);  // the report, without the line end that closes it
+        }
+        // Every column as it was always saved, and now the report that the
+        // command line writes.
+        Mirada m(carpeta.filePath(QStringLiteral("BD.sqlite")));
+        QSqlQuery q(QSqlDatabase::database(m.nombre, false));
+        QVERIFY(q.exec(QStringLiteral("SELECT * FROM \"ResultadosGuardados\" ORDER BY rowid")));
+        QString volcado;
+        for (int r = 0; q.next(); ++r) {
+            QCOMPARE(q.value(bd::kColumnaInforme).toString(), informes[r]);
+            for (size_t i = 0; i < bd::kNumColumnas; ++i) {
+                const QVariant v = q.value(static_cast<int>(i));
+                if (i < bd::kNumColumnasTexto) {
+                    volcado += QString::fromUtf8(bd::kColumnasTexto[i].nombre.data()) + QStringLiteral(": ") +
+                               v.toString() + QLatin1Char('\n');
+                    continue;
+                }
+                // A picture: its size and its pixels' sum.
+                const QImage img = PNGAImagen(v.toByteArray()).convertToFormat(QImage::Format_RGB32);
+                volcado += QString::fromUtf8(bd::kColumnasImagen[i - bd::kNumColumnasTexto].nombre.data()) +
+                           QStringLiteral(": %1x%2 ").arg(img.width()).arg(img.height()) +
+                           QString::fromLatin1(
+                               QCryptographicHash::hash(QByteArrayView(img.constBits(), img.sizeInBytes()),
+                                                        QCryptographicHash::Md5)
+                                   .toHex()) +
+                           QLatin1Char('\n');
+            }
+        }
+        QCOMPARE(informes.size(), 2);
+        const std::string diferencia =
+            CompararDorado("bd/registros-linea-ordenes.txt", volcado.toStdString());
+        QVERIFY2(diferencia.empty(), diferencia.c_str());
+    }
+
+    void elEscritorioAbreElProgramaEnLaCarpetaDeDatosDelUsuario() {
+        QTemporaryDir datos;
+        const QString anterior = QDir::currentPath();
+        const QByteArray xdg = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", QFile::encodeName(datos.path()));
+        QString error;
+        // Made on the first start, used as it is on the next.
+        for (int vez = 0; vez < 2; ++vez) {
+            QVERIFY2(EntrarEnCarpetaDatos(error), qPrintable(error));
+            QCOMPARE(QDir::currentPath(), datos.filePath(QStringLiteral("vanta")));
+        }
+        // A file where the folder should be: said, and the folder kept.
+        QDir::setCurrent(anterior);
+        QVERIFY(QDir(datos.path()).removeRecursively() && QDir().mkpath(datos.path()));
+        QFile(datos.filePath(QStringLiteral("vanta"))).open(QIODevice::WriteOnly);
+        QVERIFY(!EntrarEnCarpetaDatos(error));
+        QVERIFY(error.contains(datos.filePath(QStringLiteral("vanta"))));
+        QCOMPARE(QDir::currentPath(), anterior);
+        if (xdg.isNull())
+            qunsetenv("XDG_DATA_HOME");
+        else
+            qputenv("XDG_DATA_HOME", xdg);
     }
 
     void laRutaSeFijaAlPrimerUsoYLaLineaDeOrdenesGuardaSinVentana() {

@@ -1,18 +1,20 @@
 // Another program on the same results database, for the window tests: it
 // saves records (and may stop for good in the middle of one, to be killed
 // there), holds the file locked as a second Vanta in the middle of a save
-// would, or saves as an unprivileged user.
+// would, or saves as an unprivileged user. RUTA is a file or a server's
+// address.
 //
 //   ayudante_bd guardar RUTA N [--parar]   saves N records, "guardado K" after each;
 //                                           with --parar, then stops inside the next one
 //                                           and says "a mitad"
+//   ayudante_bd cliente RUTA N C [--pesadas]  client C of many: N light records named for it
+//                                           (or with the heavy pictures), waiting for a busy
+//                                           file as the command line does
 //   ayudante_bd bloquear RUTA               holds a write lock, says "bloqueada", waits
 //   ayudante_bd sin-permisos RUTA           saves one record as user nobody when run as root
 #include <unistd.h>
 
-#include <QCoreApplication>
-#include <QImage>
-#include <QPainter>
+#include <QGuiApplication>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <csignal>
@@ -23,6 +25,7 @@
 #include "core/database/Registro.h"
 #include "gui/database/AlmacenResultados.h"
 #include "gui/database/GuardarBaseDatos.h"
+#include "tests/gui/database/RegistrosPrueba.h"
 
 using namespace vanta;
 
@@ -36,28 +39,6 @@ public:
     }
 };
 
-// A record whose every figure tells its number, with pictures of some weight.
-bd::TextosRegistro Textos(int k) {
-    Estado e;
-    e.T1 = 300 + k;
-    e.p1 = 100000 + k;
-    return bd::ValoresRegistro(e, "registro " + std::to_string(k), "Gasolina",
-                               "informe " + std::to_string(k));
-}
-
-ImagenesRegistro Imagenes(int k) {
-    ImagenesRegistro imagenes;
-    for (size_t i = 0; i < imagenes.size(); ++i) {
-        QImage img(400, 300, QImage::Format_RGB32);
-        img.fill(Qt::white);
-        QPainter p(&img);
-        for (int x = 0; x < 400; x += 3)
-            p.drawLine(x, 0, (x * (k + 7) + static_cast<int>(i) * 13) % 400, 299);
-        imagenes[i] = img;
-    }
-    return imagenes;
-}
-
 void Esperar() {
     for (;;) pause();
 }
@@ -65,17 +46,24 @@ void Esperar() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
+    // A GUI application, as vanta is, so that its pictures are the same PNG
+    // to the byte (the resolution written in the file follows the screen's).
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
     if (argc < 3) return 2;
     const std::string orden = argv[1];
     const QString ruta = QString::fromLocal8Bit(argv[2]);
 
-    if (orden == "guardar" && argc >= 4) {
-        AlmacenResultados almacen(ruta);
+    if ((orden == "guardar" || orden == "cliente") && argc >= 4) {
+        const int cliente = orden == "cliente" && argc >= 5 ? std::stoi(argv[4]) : 0;
+        const bool pesadas = !cliente || (argc >= 6 && std::string(argv[5]) == "--pesadas");
+        AlmacenResultados almacen(*bd::LeerDireccion(ruta.toStdString()).direccion);
+        if (cliente) almacen.FijarEspera(15000);
         if (!almacen.Abrir()) return std::cout << almacen.Error() << std::endl, 1;
         const int n = std::stoi(argv[3]);
         for (int k = 1; k <= n; ++k) {
-            if (!almacen.Insertar(Textos(k), Imagenes(k)))
+            if (!almacen.Insertar(pruebas::TextosNumerados(k, cliente),
+                                  pruebas::ImagenesNumeradas(k, pesadas)))
                 return std::cout << almacen.Error() << std::endl, 1;
             std::cout << "guardado " << k << std::endl;
         }
@@ -84,7 +72,7 @@ int main(int argc, char** argv) {
                 std::cout << "a mitad" << std::endl;
                 Esperar();
             });
-            almacen.Insertar(Textos(n + 1), Imagenes(n + 1));
+            almacen.Insertar(pruebas::TextosNumerados(n + 1), pruebas::ImagenesNumeradas(n + 1));
         }
         return 0;
     }
