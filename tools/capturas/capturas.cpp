@@ -60,6 +60,18 @@ void LasVentanasDelCiclo() {
     Guardar(p.f.Combustible(), "combustible.png");
 }
 
+// A fuel of long figures and an engine of huge ones: the chart's lines end
+// inside it and the cells show each figure whole or say that it does not fit.
+void LasCifrasGrandes() {
+    Programa p{QSize()};
+    Comprobar(p.Etapa1() && p.Etapa2(QStringLiteral("Gasoil")) && p.Etapa3() && p.AbrirCiclo("imgDiesel"));
+    Hijo<QLineEdit>(p.f.Otto_Diesel(), "txtCilindrada")->setText(QStringLiteral("900000000"));
+    Hijo<QLineEdit>(p.f.Otto_Diesel(), "txtRc")->setText(QStringLiteral("18"));
+    Comprobar(p.Calcular());
+    Hijo<QLineEdit>(&p.f, "txtRpm")->setText(QStringLiteral("3000"));
+    Guardar(&p.f, "ventana-principal-cifras-grandes.png");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -73,5 +85,6 @@ int main(int argc, char** argv) {
     QDir().mkpath(QString::fromLocal8Bit(argv[1]));
     carpeta = QDir(QString::fromLocal8Bit(argv[1]));
     LasVentanasDelCiclo();
+    LasCifrasGrandes();
     return bien ? 0 : 1;
 }
