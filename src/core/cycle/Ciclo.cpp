@@ -78,7 +78,7 @@ void Fallo(Estado& e, Dialogos& dlg, std::string_view mensaje) {
     e.ErrorCalculo = Verdadero;
 }
 
-// Step 3: the boxes, each through the validator with its name.
+// The boxes, each through the validator with its name.
 void LeerEntradas(Estado& e, Dialogos& dlg, ControlesCiclo& c) {
     ValidarNumero(e, dlg, c.txtPMax, e.Pmax, " Presión máxima ");
     ValidarNumero(e, dlg, c.txtRc, e.Rc, " Relación de compresión ");
@@ -116,7 +116,7 @@ void ComprobarEntradas(Estado& e, Dialogos& dlg, ControlesCiclo& c) {
     }
 }
 
-// Steps 4 to 9: volumes, masses, heat, step and moles. Worked out first and
+// Volumes, masses, heat, step and moles. Worked out first and
 // stored only when every figure is a finite number.
 void MasasYVolumenes(Estado& e, Dialogos& dlg) {
     const double V2 = e.V1 / e.Rc;
@@ -147,7 +147,7 @@ void MasasYVolumenes(Estado& e, Dialogos& dlg) {
     e.GammaMedio = 0.0;
 }
 
-// Steps 10 and 22: state 1 in the record's end.
+// State 1 in the record's end, before each of the two passes.
 void EstadoUno(Estado& e, Dialogos& dlg) {
     e.Presion = e.p1;
     e.Temperatura = e.T1;
@@ -179,7 +179,7 @@ double CalorVolumenConstanteMixto(const Estado& e) {
     return e.PropVcte / 100 * e.Qciclo;
 }
 
-// Step 13: the silent compression, by the option selected.
+// The first pass's compression, drawn nowhere, by the option selected.
 void CompresionSilenciosa(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
     if (c.optGvariable.Value())
         Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, Dibujo::SinDibujar);
@@ -198,7 +198,7 @@ void CompresionSilenciosa(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas
     }
 }
 
-// Step 24: the compression again, drawing, and what it shows.
+// The drawing pass's compression: drawing, and what it shows.
 void CompresionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
     if (c.optGvariable.Value()) {
         Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, Dibujo::Dibujar);
@@ -219,7 +219,7 @@ void CompresionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& 
     }
 }
 
-// Steps 15 and 27: the heat at constant volume by the cycle. The first pass
+// The heat at constant volume by the cycle, in each pass. The first pass
 // tests Pmax against p2 and moves the focus; the drawing pass tests it
 // against the start of compression, p1, and does not.
 void CalorIsocoro(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Dibujo dibujar) {
@@ -259,7 +259,7 @@ void CalorIsocoro(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Dib
     }
 }
 
-// Step 33: the expansion down to V1, by the option selected.
+// The expansion down to V1, by the option selected.
 void ExpansionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
     if (c.optGvariableExp.Value()) {
         Expansion(e, dlg, g, Modelo::GammaVariable, e.V1, e.PasoVolumen, e.Gamma);

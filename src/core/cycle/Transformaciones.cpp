@@ -260,7 +260,7 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsoc
 
 // ---- Heat at constant pressure ------------------------------------------------------
 
-// Steps 1 to 4 of the search at one level: the trial temperature between the
+// One trial of the search at one level: the temperature between the
 // bounds and the heat it takes at constant pressure.
 void ProbarTemperaturaIsobara(Estado& e, Dialogos& dlg, double calor) {
     e.Temperatura = (e.TemperaturaInferior + e.TemperaturaSuperior) / 2;

@@ -91,7 +91,7 @@ struct Flujo {
 // cycle window's inputs as they stand, after the window shows the places.
 using CalculoCiclo = std::function<void()>;
 
-// ---- The description's calls -------------------------------------------------
+// ---- The calls that show and place the panels ----------------------------------
 
 void Ocultabotones(Flujo& f, const Botones& b);
 void PonerGraficosTodos(Flujo& f);
