@@ -9,6 +9,7 @@
 #include "core/fluids/AireHumedo.h"
 #include "core/sequence/Secuencia.h"
 #include "core/validation/Avisos.h"
+#include "tests/core/Calculos.h"
 
 using namespace vanta;
 
@@ -18,17 +19,12 @@ using Tipos = std::multiset<TipoAviso>;
 constexpr TipoAviso D = TipoAviso::Disociacion, F = TipoAviso::FueraDeAjuste, R = TipoAviso::PuntoRocio,
                     I = TipoAviso::Inflamabilidad, P = TipoAviso::PasadasGamma;
 
-Estado Calcular(const std::vector<std::pair<std::string, std::string>>& opciones, std::string& combustible) {
-    Estado e;
-    OpcionesCalculo o;
-    for (const auto& [nombre, valor] : opciones) o.valores[nombre] = valor;
-    DialogosGrabados dlg;
-    SuperficiesNulas nulas;
-    SuperficiesCalculo s = nulas.Todas();
-    VentanaPrincipalSimple v;
-    EXPECT_TRUE(CalcularTodo(e, o, dlg, s, v));
-    combustible = TextoListaCombustible(o);
-    return e;
+// A whole calculation, and the fuel as its list names it.
+Estado Calcular(const std::vector<std::string>& opciones, std::string& combustible) {
+    const auto c = pruebas::Calcular(opciones, false);
+    EXPECT_TRUE(c->bien);
+    combustible = TextoListaCombustible(pruebas::Opciones(opciones));
+    return c->e;
 }
 
 Tipos TiposDe(const std::vector<Aviso>& avisos) {
@@ -39,31 +35,31 @@ Tipos TiposDe(const std::vector<Aviso>& avisos) {
 
 }  // namespace
 
-TEST(AvisosTest, EachWarningWhereTheModelLeavesItsGroundAndNoneElsewhere) {
+TEST(Avisos, CadaUnoDondeElModeloSaleDeSuTerrenoYNingunoFuera) {
     const struct {
-        std::vector<std::pair<std::string, std::string>> opciones;
+        std::vector<std::string> opciones;
         Tipos esperados;
     } casos[] = {
         // On the model's ground: lean enough to stay under 2500 K, within the
         // flammability range, humid but not saturated air.
-        {{{"combustible", "Metanol"}, {"fr", "0.6"}}, {}},
-        {{{"ciclo", "Diesel"}, {"combustible", "Gasoil"}, {"fr", "0.6"}, {"rc", "18"}}, {}},
-        {{{"combustible", "Metanol"}, {"fr", "0.6"}, {"humedad", "100"}}, {}},
-        {{{"combustible", "Metanol"}, {"fr", "0.6"}, {"humedad", "90"}, {"temperatura-ambiente", "320"}}, {}},
+        {{"--combustible", "Metanol", "--fr", "0.6"}, {}},
+        {{"--ciclo", "Diesel", "--combustible", "Gasoil", "--fr", "0.6", "--rc", "18"}, {}},
+        {{"--combustible", "Metanol", "--fr", "0.6", "--humedad", "100"}, {}},
+        {{"--combustible", "Metanol", "--fr", "0.6", "--humedad", "90", "--temperatura-ambiente", "320"}, {}},
         // A user's fuel has no known flammability range.
-        {{{"formula", "7,16,0,0,0"}, {"entalpia-formacion", "-187800"}, {"fr", "0.3"}}, {}},
+        {{"--formula", "7,16,0,0,0", "--entalpia-formacion", "-187800", "--fr", "0.3"}, {}},
         // The stoichiometric gasoline of the screens burns past 2500 K.
         {{}, {D}},
-        {{{"t1", "1400"}}, {D, F}},
+        {{"--t1", "1400"}, {D, F}},
         // Lean beyond the flammability limit of gasoline (Fr 0.80), and of
         // methanol (Fr 0.51); rich beyond that of ethane (Fr 2.36) is refused
         // by the combustion itself, so only the lean side can be seen.
-        {{{"fr", "0.7"}}, {D, I}},
-        {{{"fr", "0.5"}, {"combustible", "Metanol"}}, {I}},
+        {{"--fr", "0.7"}, {D, I}},
+        {{"--fr", "0.5", "--combustible", "Metanol"}, {I}},
         // Saturated air compressed before admission, or admitted colder than
         // the ambient: its water condenses at the end of the exhaust line.
-        {{{"combustible", "Metanol"}, {"fr", "0.6"}, {"humedad", "100"}, {"p1", "150000"}}, {R}},
-        {{{"combustible", "Metanol"}, {"fr", "0.6"}, {"humedad", "100"}, {"t1", "290"}}, {R}},
+        {{"--combustible", "Metanol", "--fr", "0.6", "--humedad", "100", "--p1", "150000"}, {R}},
+        {{"--combustible", "Metanol", "--fr", "0.6", "--humedad", "100", "--t1", "290"}, {R}},
     };
     for (const auto& caso : casos) {
         std::string combustible;
@@ -75,9 +71,9 @@ TEST(AvisosTest, EachWarningWhereTheModelLeavesItsGroundAndNoneElsewhere) {
     }
 }
 
-TEST(AvisosTest, TheTextsGiveTheFiguresThatTripThem) {
+TEST(Avisos, LosTextosDanLasCifrasQueLosDisparan) {
     std::string combustible;
-    const Estado e = Calcular({{"fr", "0.7"}, {"humedad", "100"}, {"p1", "150000"}}, combustible);
+    const Estado e = Calcular({"--fr", "0.7", "--humedad", "100", "--p1", "150000"}, combustible);
     std::string todos;
     for (const auto& a : AvisosValidez(e, combustible)) todos += a.texto + "\n";
     EXPECT_EQ(todos,
@@ -88,7 +84,7 @@ TEST(AvisosTest, TheTextsGiveTheFiguresThatTripThem) {
               "supone.\n");
 }
 
-TEST(AvisosTest, TemperaturesPastTheLimitsNotAtThem) {
+TEST(Avisos, TemperaturasMasAllaDeLosLimitesNoEnEllos) {
     Estado e;
     e.T1 = 300, e.T2 = 700, e.T5 = 1500;
     const struct {
@@ -101,7 +97,7 @@ TEST(AvisosTest, TemperaturesPastTheLimitsNotAtThem) {
     }
 }
 
-TEST(AvisosTest, StateFiveBelowItsDewPointAndSearchesOfManyPasses) {
+TEST(Avisos, EstadoCincoBajoSuRocioYBusquedasDeMuchasPasadas) {
     // A state written by hand: the gases of state 5 cold and wet.
     Estado e;
     e.T1 = 300, e.T5 = 320, e.p1 = 100000, e.p5 = 100000, e.xH2OHumos = 0.2, e.xO2Aire = 0.2;
@@ -115,6 +111,6 @@ TEST(AvisosTest, StateFiveBelowItsDewPointAndSearchesOfManyPasses) {
     EXPECT_NE(AvisosValidez(e, "").back().texto.find("de la compresión necesitó 21"), std::string::npos);
 }
 
-TEST(AvisosTest, TheDewPointIsWhereTheWaterSaturates) {
+TEST(Avisos, ElPuntoDeRocioEsDondeElAguaSatura) {
     for (double T : {280.0, 320.0, 360.0}) EXPECT_NEAR(PuntoRocio(PresionSaturacion(T)), T, 1e-6) << T;
 }

@@ -7,6 +7,7 @@
 #include "core/properties/Especies.h"
 #include "core/sequence/Secuencia.h"
 #include "core/validation/CicloIdeal.h"
+#include "tests/core/Calculos.h"
 
 using namespace vanta;
 
@@ -24,7 +25,7 @@ Estado Ciclo(const char* tipo, double Rc, double Q) {
 
 }  // namespace
 
-TEST(CicloIdealTest, OttoAndDieselAreTheTextbooksClosedForms) {
+TEST(CicloIdeal, OttoYDieselSonLasFormasCerradasDeLosLibros) {
     constexpr double g = kGammaAireEstandar;
     for (double Rc : {8.0, 12.5}) {
         const CicloIdeal otto = CalcularCicloIdeal(Ciclo("Otto", Rc, 300), g, g);
@@ -42,7 +43,7 @@ TEST(CicloIdealTest, OttoAndDieselAreTheTextbooksClosedForms) {
                 1e-12);
 }
 
-TEST(CicloIdealTest, MixtoSplitsTheHeatByItsOwnInput) {
+TEST(CicloIdeal, MixtoReparteElCalorPorSuPropiaEntrada) {
     constexpr double g = kGammaAireEstandar;
     const double otto = CalcularCicloIdeal(Ciclo("Otto", 14, 300), g, g).rendimiento;
     const double diesel = CalcularCicloIdeal(Ciclo("Diesel", 14, 300), g, g).rendimiento;
@@ -69,7 +70,7 @@ TEST(CicloIdealTest, MixtoSplitsTheHeatByItsOwnInput) {
     EXPECT_FALSE(CalcularCicloIdeal(mixto, g, g).valido);
 }
 
-TEST(CicloIdealTest, NoIdealCycleWhereItCannotBe) {
+TEST(CicloIdeal, NingunCicloIdealDondeNoPuedeHaberlo) {
     constexpr double g = kGammaAireEstandar;
     EXPECT_FALSE(CalcularCicloIdeal(Ciclo("Otto", 10, 0), g, g).valido);          // no heat
     EXPECT_FALSE(CalcularCicloIdeal(Ciclo("Otto", 1, 300), g, g).valido);         // no compression
@@ -79,22 +80,16 @@ TEST(CicloIdealTest, NoIdealCycleWhereItCannotBe) {
     EXPECT_TRUE(CalcularCicloIdeal(Ciclo("Diesel", 18, 300), 1.3, 1.25).valido);  // two exponents
 }
 
-TEST(CicloIdealTest, TheMeanExponentsAreThoseOfTheCalculation) {
-    auto calcular = [](std::vector<std::pair<std::string, std::string>> opciones) {
-        Estado e;
-        OpcionesCalculo o;
-        for (const auto& [nombre, valor] : opciones) o.valores[nombre] = valor;
-        DialogosGrabados dlg;
-        SuperficiesNulas nulas;
-        SuperficiesCalculo s = nulas.Todas();
-        VentanaPrincipalSimple v;
-        EXPECT_TRUE(CalcularTodo(e, o, dlg, s, v));
-        return e;
+TEST(CicloIdeal, LosExponentesMediosSonLosDelCalculo) {
+    auto calcular = [](const std::vector<std::string>& opciones) {
+        const auto c = pruebas::Calcular(opciones, false);
+        EXPECT_TRUE(c->bien);
+        return c->e;
     };
-    const Estado medio = calcular({{"ciclo", "Diesel"}, {"rc", "18"}});
+    const Estado medio = calcular({"--ciclo", "Diesel", "--rc", "18"});
     EXPECT_NEAR(ExponenteMedioCompresion(medio), medio.GammaMedioCompresion, 1e-9);
     EXPECT_NEAR(ExponenteMedioExpansion(medio), medio.GammaMedioExpansion, 1e-9);
-    const Estado politropico = calcular({{"compresion", "politropica"}, {"expansion", "politropica"}});
+    const Estado politropico = calcular({"--compresion", "politropica", "--expansion", "politropica"});
     EXPECT_NEAR(ExponenteMedioCompresion(politropico), 1.39, 1e-9);
     EXPECT_NEAR(ExponenteMedioExpansion(politropico), 1.23, 1e-9);
     // The distance to the ideal: the program's efficiency below both ideals.

@@ -50,14 +50,14 @@ double& Coeficiente(Coeficientes& k, int i) {
 
 }  // namespace
 
-TEST(ValidacionTest, TheWholeTablePassesAndReadsAsTheGoldenFile) {
+TEST(Validacion, LaTablaEnteraCumpleYSeLeeComoSuArchivo) {
     const TablaValidacion t = Validar('.');
     EXPECT_TRUE(t.Correcta());
     EXPECT_EQ(t.Cuenta(Resultado::NoCumple), 0);
     EXPECT_EQ(pruebas::CompararDorado("validacion/tabla.txt", TextoValidacion(t, '.')), "");
 }
 
-TEST(ValidacionTest, AStrokeThatMissesTheBalanceFails) {
+TEST(Validacion, UnaCarreraQueNoCierraElBalanceNoCumple) {
     // A polytropic stroke exchanges heat that the program does not give: the
     // balance of compression and expansion sees it, and only the combustion
     // may be the model's difference.
@@ -75,7 +75,7 @@ TEST(ValidacionTest, AStrokeThatMissesTheBalanceFails) {
     EXPECT_EQ(ComprobarCiclo("Imposible", o, '.').front().resultado, Resultado::NoCumple);
 }
 
-TEST(ValidacionTest, TheSpeciesChecksSeeAWrongCoefficientOfAnySpecies) {
+TEST(Validacion, LasEspeciesVenUnCoeficienteEquivocadoDeCualquiera) {
     // The polynomials of the program with its own coefficients pass.
     const Coeficientes12 programa = DelPrograma();
     ASSERT_EQ(Fallos(ComprobarEspecies([&](double T) { return Evaluar(programa, T); }, '.')), 0);
