@@ -4,10 +4,14 @@
 // `build/tools/vanta_capturas docs`.
 #include <QApplication>
 #include <QDir>
+#include <QInputDialog>
 #include <QTest>
+#include <QTimer>
 #include <clocale>
 #include <cstdio>
 
+#include "core/database/Registro.h"
+#include "gui/services/PuertosQt.h"
 #include "tests/gui/mainwindow/Programa.h"
 #include "tests/gui/mainwindow/Pruebas.h"
 
@@ -72,6 +76,20 @@ void LasCifrasGrandes() {
     Guardar(&p.f, "ventana-principal-cifras-grandes.png");
 }
 
+// The name asked for a save, its suggestion whole and selected.
+void ElNombreAlGuardar() {
+    Programa p{QSize()};
+    Comprobar(p.Etapa1() && p.Etapa2(QStringLiteral("Gasoil")) && p.Etapa3() && p.Etapa4("imgDiesel"));
+    QTimer::singleShot(500, [] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (auto* d = qobject_cast<QInputDialog*>(w); d && d->isVisible()) {
+                Guardar(d, "guardar-nombre.png");
+                d->reject();
+            }
+    });
+    DialogosQt(&p.f).InputBox(bd::kPromptGuardar, bd::NombrePorDefecto(p.e, "Gasoil"));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -86,5 +104,6 @@ int main(int argc, char** argv) {
     carpeta = QDir(QString::fromLocal8Bit(argv[1]));
     LasVentanasDelCiclo();
     LasCifrasGrandes();
+    ElNombreAlGuardar();
     return bien ? 0 : 1;
 }
