@@ -35,6 +35,7 @@ TEST(Almacen, UnArchivoOUnServidorConSusPartes) {
         {"postgresql://", "||-1||"},
         {"postgresql://ana@[2001:db8::1]:6000/clase", "ana|2001:db8::1|6000|clase|"},
         {"postgresql://ana@[::1]/clase", "ana|::1|-1|clase|"},
+        {"postgresql://aula:65535/m", "|aula|65535|m|"},
         // A server on a Unix socket: its folder, coded or as a parameter.
         {"postgresql://vanta@%2Ftmp%2Fpg:7009/prueba%09b", "vanta|/tmp/pg|7009|prueba\tb|"},
         {"postgresql://vanta@/prueba?host=/tmp/pg&port=7000", "vanta|/tmp/pg|7000|prueba|"},
@@ -86,6 +87,8 @@ TEST(Almacen, LasOpcionesDeConexionLlevanEsperaYNombreSalvoQueSeDen) {
             *bd::LeerDireccion("postgresql://aula/m?sslmode=require&connect_timeout=2&application_name=x")
                  .direccion),
         "sslmode=require;connect_timeout=2;application_name=x");
+    EXPECT_EQ(bd::OpcionesConexion(*bd::LeerDireccion("postgresql://aula/m?sslmode=require").direccion),
+              "sslmode=require;connect_timeout=10;application_name=vanta");
 }
 
 TEST(Almacen, LasCausasDelServidorEnPalabrasDelUsuario) {

@@ -40,6 +40,7 @@ const std::vector<std::vector<std::string>> kFilas = {
     {"--masa", "80,0,0,0", "--masa-molecular", "0"},
     {"--masa", "80,0,0,0", "--masa-molecular", "peso"},
     {"--formula", "0,2,0,0,0", "--entalpia-formacion", "-241984"},
+    {"--formula", "2,2,0,0,0", "--entalpia-formacion", "226730"},
     // The combustion.
     {"--fr", "-1"},
     {"--fr", "0"},
@@ -54,6 +55,7 @@ const std::vector<std::vector<std::string>> kFilas = {
     {"--cilindrada", "abc"},
     {"--cilindrada", "0"},
     {"--cilindrada", "1e-300"},
+    {"--cilindrada", "5e-318"},
     {"--rc", "1"},
     {"--rc", "0.5"},
     {"--rc", "x"},

@@ -77,7 +77,11 @@ TEST(Estudio, LasSalidasYLasEntradasSeBuscanPorSuNombre) {
         }
     });
     for (const SalidaEstudio& s : SalidasEstudio()) EXPECT_EQ(BuscarSalidaEstudio(s.nombre), &s);
-    for (const EntradaEstudio& en : EntradasEstudio()) EXPECT_TRUE(EsOpcionCalculo(en.nombre)) << en.nombre;
+    // An input with a unit is a number; a choice (fuel, cycle, model) has none.
+    for (const EntradaEstudio& en : EntradasEstudio()) {
+        EXPECT_TRUE(EsOpcionCalculo(en.nombre)) << en.nombre;
+        EXPECT_EQ(en.numerica, *en.unidad != '\0') << en.nombre;
+    }
     EXPECT_EQ(BuscarSalidaEstudio("nada"), nullptr);
     e.Qciclo = 10, e.Q23 = 4;
     EXPECT_EQ(BuscarSalidaEstudio("q34")->valor(e, 0), 6);
@@ -210,6 +214,8 @@ TEST(TablaEstudio, CamposEntreComillasYDecimalesDelDialecto) {
     e.variaciones = {Lista("combustible", {"Gasoil"})};
     EXPECT_EQ(TextoEntrada(e, 0, 0, ','), "Gasoil");
     EXPECT_EQ(TituloConUnidad("Ciclo", ""), "Ciclo");
+    // A message in the JSON keeps its quotes, backslashes and line ends.
+    EXPECT_EQ(TextoCadenaJSON("dice \"sí\" \\ no\n"), "\"dice \\\"sí\\\" \\\\ no\\u000a\"");
 }
 
 }  // namespace
