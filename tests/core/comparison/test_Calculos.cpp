@@ -82,6 +82,12 @@ TEST(Calculos, UnRegistroSinSusEntradasSeRehaceDeSusCifrasYSuInforme) {
             EXPECT_EQ(c.nombre, "registro");
         }
     }
+    // A compression ratio of three decimals comes from the report: the ratio
+    // of the record's volumes is rounded to two.
+    const Original fino(std::map<std::string, std::string>{{"rc", "8.125"}});
+    const CalculoComparado c = CalculoDeRegistro(fino.Registro(), nullptr);
+    ASSERT_TRUE(c.Hay()) << c.mensaje;
+    EXPECT_EQ(EstadoJSON(*c.estado), EstadoJSON(fino.e));
 }
 
 TEST(Calculos, UnRegistroSinEntradasQueNadaReproduceLoDice) {

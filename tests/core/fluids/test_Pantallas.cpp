@@ -63,6 +63,13 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
                        .chkOcultar = chkAire,
                        .ventana = vAire,
                        .pct1 = pct};
+    // An ambient temperature out of range keeps the window open.
+    for (const char* t : {"249.9", "5000.1"}) {
+        txtTemAmb.SetText(t);
+        const bool bien = CalcularAire(e, r.dlg, aire);
+        r(std::string("CalcularAire ") + t, {{"bien", Si(bien)}, {"oculta", Si(vAire.oculta)}});
+    }
+    txtTemAmb.SetText("288");
     const bool aireBien = CalcularAire(e, r.dlg, aire);
     r("CalcularAire", {{"bien", Si(aireBien)},
                        {"oculta", Si(vAire.oculta)},
