@@ -109,6 +109,11 @@ TEST(Avisos, EstadoCincoBajoSuRocioYBusquedasDeMuchasPasadas) {
         << avisos[1].texto;
     e.pasadas = {.aire = 21, .humos = 0};
     EXPECT_NE(AvisosValidez(e, "").back().texto.find("de la compresión necesitó 21"), std::string::npos);
+    // An exhaust line with no length (T5 not above T1) is not walked, however
+    // wet the air.
+    e = Estado{};
+    e.T1 = 300, e.T5 = 290, e.p1 = 100000, e.p5 = 100000, e.xH2OAire = 0.2;
+    EXPECT_EQ(TiposDe(AvisosValidez(e, "")), Tipos{});
 }
 
 TEST(Avisos, ElPuntoDeRocioEsDondeElAguaSatura) {
