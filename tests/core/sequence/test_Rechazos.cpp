@@ -40,7 +40,11 @@ const std::vector<std::vector<std::string>> kFilas = {
     {"--masa", "80,0,0,0", "--masa-molecular", "0"},
     {"--masa", "80,0,0,0", "--masa-molecular", "peso"},
     {"--formula", "0,2,0,0,0", "--entalpia-formacion", "-241984"},
+    // Formulas whose counts cancel if one of them were subtracted.
     {"--formula", "2,2,0,0,0", "--entalpia-formacion", "226730"},
+    {"--formula", "0,1,1,0,0", "--entalpia-formacion", "0"},
+    {"--formula", "1,0,0,1,0", "--entalpia-formacion", "-110530"},
+    {"--formula", "1,0,0,0,1", "--entalpia-formacion", "0"},
     // The combustion.
     {"--fr", "-1"},
     {"--fr", "0"},
