@@ -38,10 +38,9 @@ std::string NombresCombustibles() {
 
 std::string Comprobar(const OpcionesCalcular& o) {
     const std::set<std::string> ciclos{"Otto", "Diesel", "Mixto"};
-    const std::set<std::string> modelos{"medio", "politropica", "variable"};
     if (o.Tiene("ciclo") && !ciclos.count(o.Valor("ciclo"))) return "ciclo desconocido: " + o.Valor("ciclo");
     for (const char* m : {"compresion", "expansion"})
-        if (o.Tiene(m) && !modelos.count(o.Valor(m)))
+        if (o.Tiene(m) && !ModeloDeNombre(o.Valor(m)))
             return std::string("modelo de ") + m + " desconocido: " + o.Valor(m);
     if (o.Tiene("formula") && Campos(o.Valor("formula")) != 5)
         return "--formula lleva cinco números: C,H,N,O,S";

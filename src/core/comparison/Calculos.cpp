@@ -19,18 +19,6 @@ std::string Texto(double x) {
     return TextoGeneral(x, '.');
 }
 
-std::string NombreModelo(Modelo m) {
-    switch (m) {
-        case Modelo::Politropico:
-            return "politropica";
-        case Modelo::GammaVariable:
-            return "variable";
-        case Modelo::GammaMedio:
-            break;
-    }
-    return "medio";
-}
-
 std::string Lista(std::initializer_list<double> valores) {
     std::string t;
     for (double v : valores) t += (t.empty() ? "" : ",") + Texto(v);
@@ -310,8 +298,8 @@ std::vector<OpcionesCalculo> EntradasDeEstado(const Estado& e, std::string_view 
                  {"rc", Texto(e.Rc)},
                  {"p1", Texto(e.p1)},
                  {"t1", Texto(e.T1)},
-                 {"compresion", NombreModelo(e.ModeloCompresion)},
-                 {"expansion", NombreModelo(e.ModeloExpansion)}};
+                 {"compresion", std::string(NombreModelo(e.ModeloCompresion))},
+                 {"expansion", std::string(NombreModelo(e.ModeloExpansion))}};
     if (e.ModeloCompresion == Modelo::Politropico) o.valores["n-compresion"] = Texto(e.nCompresion);
     if (e.ModeloExpansion == Modelo::Politropico) o.valores["n-expansion"] = Texto(e.nExpansion);
     if (e.TipoCiclo == "Mixto") {

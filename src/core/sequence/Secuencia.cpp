@@ -165,23 +165,19 @@ bool EtapaCiclo(Estado& e, const OpcionesCalculo& o, Dialogos& dlg, SuperficiesC
     if (o.Tiene("p1")) p.txtP1.SetText(o.Valor("p1"));
     if (o.Tiene("t1")) p.txtT1.SetText(o.Valor("t1"));
 
-    const std::string compresion = o.Valor("compresion"), expansion = o.Valor("expansion");
-    const auto modelo = [](const std::string& m) {
-        return m == "politropica" ? Modelo::Politropico
-               : m == "variable"  ? Modelo::GammaVariable
-                                  : Modelo::GammaMedio;
-    };
-    Elegir(compresion == "politropica" ? p.optPolitropicaCom
-           : compresion == "variable"  ? p.optGvariable
-                                       : p.optGmedioCom,
+    const Modelo compresion = ModeloDeNombre(o.Valor("compresion")).value_or(Modelo::GammaMedio);
+    const Modelo expansion = ModeloDeNombre(o.Valor("expansion")).value_or(Modelo::GammaMedio);
+    Elegir(compresion == Modelo::Politropico     ? p.optPolitropicaCom
+           : compresion == Modelo::GammaVariable ? p.optGvariable
+                                                 : p.optGmedioCom,
            {&p.optPolitropicaCom, &p.optGvariable, &p.optGmedioCom});
-    ElegirModeloCompresion(e, modelo(compresion));
+    ElegirModeloCompresion(e, compresion);
     p.txt_nCom.SetText(o.Valor("n-compresion"));
-    Elegir(expansion == "politropica" ? p.optPolitropica
-           : expansion == "variable"  ? p.optGvariableExp
-                                      : p.optGmedioExp,
+    Elegir(expansion == Modelo::Politropico     ? p.optPolitropica
+           : expansion == Modelo::GammaVariable ? p.optGvariableExp
+                                                : p.optGmedioExp,
            {&p.optPolitropica, &p.optGvariableExp, &p.optGmedioExp});
-    ElegirModeloExpansion(e, modelo(expansion));
+    ElegirModeloExpansion(e, expansion);
     p.txt_nExp.SetText(o.Valor("n-expansion"));
 
     if (o.Tiene("proporcion-vcte")) {
@@ -199,6 +195,23 @@ bool EtapaCiclo(Estado& e, const OpcionesCalculo& o, Dialogos& dlg, SuperficiesC
 }
 
 }  // namespace
+
+namespace {
+constexpr std::pair<Modelo, std::string_view> kNombresModelos[] = {
+    {Modelo::GammaMedio, "medio"}, {Modelo::Politropico, "politropica"}, {Modelo::GammaVariable, "variable"}};
+}  // namespace
+
+std::string_view NombreModelo(Modelo m) {
+    for (const auto& [modelo, nombre] : kNombresModelos)
+        if (modelo == m) return nombre;
+    return kNombresModelos[0].second;
+}
+
+std::optional<Modelo> ModeloDeNombre(std::string_view nombre) {
+    for (const auto& [modelo, n] : kNombresModelos)
+        if (n == nombre) return modelo;
+    return std::nullopt;
+}
 
 std::string TextoListaCombustible(const OpcionesCalculo& o) {
     return o.Tiene("formula") || o.Tiene("masa") ? std::string(kOtrosCombustibles) : o.Valor("combustible");

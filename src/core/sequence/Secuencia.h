@@ -6,7 +6,9 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/cycle/Ciclo.h"
@@ -61,6 +63,11 @@ bool CalcularTodo(Estado& e, const OpcionesCalculo& o, Dialogos& dlg, Superficie
 
 // The text the fuel list shows: the named fuel, or the user's own.
 std::string TextoListaCombustible(const OpcionesCalculo& o);
+
+// The models of compression and expansion by the names the options give
+// them: "medio", "politropica", "variable".
+std::string_view NombreModelo(Modelo m);
+std::optional<Modelo> ModeloDeNombre(std::string_view nombre);
 
 // A number as that JSON writes it: the shortest text that reads back to the
 // same number (of single precision for a float), "null" for one that is not

@@ -70,13 +70,14 @@ OpcionesCalculo OpcionesDeLasVentanas(const VentanasEtapas& v, const std::string
         poner("rc", Texto(c, "txtRc"));
         poner("p1", Texto(c, "txtP1"));
         poner("t1", Texto(c, "txtT1"));
-        poner("compresion", Marcada(c, "optGvariable")        ? "variable"
-                            : Marcada(c, "optPolitropicaCom") ? "politropica"
-                                                              : "medio");
+        poner("compresion",
+              std::string(NombreModelo(Marcada(c, "optGvariable")        ? Modelo::GammaVariable
+                                       : Marcada(c, "optPolitropicaCom") ? Modelo::Politropico
+                                                                         : Modelo::GammaMedio)));
         poner("n-compresion", Texto(c, "txt_nCom"));
-        poner("expansion", Marcada(c, "optGvariableExp")  ? "variable"
-                           : Marcada(c, "optPolitropica") ? "politropica"
-                                                          : "medio");
+        poner("expansion", std::string(NombreModelo(Marcada(c, "optGvariableExp")  ? Modelo::GammaVariable
+                                                    : Marcada(c, "optPolitropica") ? Modelo::Politropico
+                                                                                   : Modelo::GammaMedio)));
         poner("n-expansion", Texto(c, "txt_nExp"));
         // Every cycle reads the box of Pmax; Mixto uses it or the share of heat.
         if (ciclo == "Mixto" && Marcada(c, "optProporcion"))
