@@ -191,7 +191,8 @@ TEST(TablaComparacion, LasCifrasJuntasConSusDiferenciasYLosAvisos) {
     const std::vector<CalculoComparado> c = {
         Calcular("Otto", {{"rc", "16"}}), Calcular("Diesel", {{"ciclo", "Diesel"}, {"rc", "16"}}),
         Calcular("Mixto", {{"ciclo", "Mixto"}, {"pmax", "6000000"}, {"compresion", "politropica"}}),
-        CalcularComparado("Roto", OpcionesCalculo{{{"rc", "0.5"}}})};
+        CalcularComparado("Roto", OpcionesCalculo{{{"rc", "0.5"}}}),
+        Calcular("Mixto 37,5 %", {{"ciclo", "Mixto"}, {"proporcion-vcte", "37.5"}})};
     ASSERT_FALSE(c[3].Hay());
     std::string tabla;
     for (UnidadPresion u : {UnidadPresion::bar, UnidadPresion::Pa}) {

@@ -78,6 +78,12 @@ TEST(CicloIdeal, NingunCicloIdealDondeNoPuedeHaberlo) {
     EXPECT_FALSE(CalcularCicloIdeal(Ciclo("Diesel", 18, 5000), g, g).valido);     // heat past the stroke
     EXPECT_FALSE(CalcularCicloIdeal(Ciclo("Rotativo", 10, 300), g, g).valido);    // no such kind
     EXPECT_TRUE(CalcularCicloIdeal(Ciclo("Diesel", 18, 300), 1.3, 1.25).valido);  // two exponents
+    EXPECT_FALSE(CalcularCicloIdeal(Ciclo("Otto", 10, 300), g, 1).valido);        // no expansion exponent
+    for (int k = 0; k < 3; ++k) {  // no charge: T1, p1 or V1 zero
+        Estado e = Ciclo("Otto", 10, 300);
+        (k == 0 ? e.T1 : k == 1 ? e.p1 : e.V1) = 0;
+        EXPECT_FALSE(CalcularCicloIdeal(e, g, g).valido) << k;
+    }
 }
 
 TEST(CicloIdeal, LosExponentesMediosSonLosDelCalculo) {
