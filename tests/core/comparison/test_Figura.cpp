@@ -122,7 +122,7 @@ TEST(Figura, UnaFiguraDemasiadoPequenaParaSusTextosGuardaUnaParcela) {
     const CalculoComparado a = Calcular("A", {});
     const std::vector<SerieFigura> series = {{"A", &a.curvas, nullptr, true, ColorComparacion(0)}};
     SuperficieGrabada s;
-    const Disposicion p = Disponer(s, 30, 20, Diagrama::PV, series, OpcionesFigura{});
+    const Disposicion p = Disponer(s, 1, 1, Diagrama::PV, series, OpcionesFigura{});
     EXPECT_GE(p.derecha - p.izquierda, 10);
     EXPECT_GE(p.abajo - p.arriba, 10);
 }
