@@ -48,6 +48,25 @@ const Tabla kTablas[] = {
     {"N2", false, "300", "y", "10", {}},
 };
 
+// The tables window's boxes and options as plain controls.
+struct PantallaTablas {
+    CajaTextoSimple at, ti, tf, cbo;
+    InterruptorSimple mol, kg, aire, gases;
+    PantallaTablas(const char* paso, const char* desde, const char* hasta, const char* que, bool porKg,
+                   bool humos)
+        : at(paso), ti(desde), tf(hasta), cbo(que), mol(!porKg), kg(porKg), aire(!humos), gases(humos) {}
+    ControlesHerramientas Controles() {
+        return {.txtAT = at,
+                .txtTinicial = ti,
+                .txtTfinal = tf,
+                .optMol = mol,
+                .optKg = kg,
+                .optAire = aire,
+                .optHumos = gases,
+                .cboElemento = cbo};
+    }
+};
+
 std::string Hacer(const Tabla& t) {
     Estado e;
     DialogosGrabados dlg;
@@ -55,16 +74,8 @@ std::string Hacer(const Tabla& t) {
     SuperficiesCalculo s = nulas.Todas();
     const bool humos = std::string(t.que) == "humos";
     if (t.fluido.empty() || t.fluido[0] != "NUNCA") DefinirFluido(e, Opciones(t.fluido), dlg, s, humos);
-    CajaTextoSimple at(t.paso), ti(t.desde), tf(t.hasta), cbo(t.que);
-    InterruptorSimple mol(!t.porKg), kg(t.porKg), aire(!humos), gases(humos);
-    ControlesHerramientas c{.txtAT = at,
-                            .txtTinicial = ti,
-                            .txtTfinal = tf,
-                            .optMol = mol,
-                            .optKg = kg,
-                            .optAire = aire,
-                            .optHumos = gases,
-                            .cboElemento = cbo};
+    PantallaTablas p(t.paso, t.desde, t.hasta, t.que, t.porKg, humos);
+    ControlesHerramientas c = p.Controles();
     MiembrosHerramientas m;
     VisorTablasTexto v;
     const bool mezcla = humos || std::string(t.que) == "aire";
@@ -85,21 +96,13 @@ TEST(Tablas, UnaTablaRechazadaNoCallaLaSiguiente) {
     SuperficiesNulas nulas;
     SuperficiesCalculo s = nulas.Todas();
     ASSERT_TRUE(DefinirFluido(e, Opciones({}), dlg, s, false));
-    CajaTextoSimple at("100"), ti("300"), tf("5000"), cbo("Elegir");
-    InterruptorSimple mol(true), kg(false), aire(true), gases(false);
-    ControlesHerramientas c{.txtAT = at,
-                            .txtTinicial = ti,
-                            .txtTfinal = tf,
-                            .optMol = mol,
-                            .optKg = kg,
-                            .optAire = aire,
-                            .optHumos = gases,
-                            .cboElemento = cbo};
+    PantallaTablas p("100", "300", "5000", "Elegir", false, false);
+    ControlesHerramientas c = p.Controles();
     MiembrosHerramientas m;
     VisorTablasTexto v;
-    tf.SetText("5OOO");  // a typo: letters O
+    p.tf.SetText("5OOO");  // a typo: letters O
     EXPECT_FALSE(cmdTablas_Click(e, dlg, c, m, v, "Gasolina"));
-    tf.SetText("700");
+    p.tf.SetText("700");
     EXPECT_TRUE(cmdTablas_Click(e, dlg, c, m, v, "Gasolina"));
     // The figures of 700 K and of 600 K differ: none is a stale copy.
     const auto filas = Lineas(v.texto);
