@@ -7,10 +7,7 @@
 #include <sstream>
 
 #include "core/database/Direccion.h"
-#include "core/fluids/Combustible.h"
 #include "core/services/Numeros.h"
-#include "core/validation/Avisos.h"
-#include "core/validation/Confianza.h"
 
 namespace vanta::cli {
 
@@ -22,41 +19,14 @@ const char* kOpcionesSalida[] = {"html", "guardar", "base-datos", "figuras", "fo
 bool EsOpcion(const std::string& nombre) {
     for (const char* o : kOpcionesSalida)
         if (nombre == o) return true;
-    return EsOpcionCalculo(nombre);
-}
-
-size_t Campos(const std::string& lista) {
-    return SepararLista(lista).size();
-}
-
-std::string NombresCombustibles() {
-    std::string nombres;
-    for (const auto& combustible : kBibliotecaCombustibles)
-        nombres += (nombres.empty() ? "" : ", ") + std::string(combustible.nombre);
-    return nombres;
+    return BuscarEntrada(nombre) != nullptr;
 }
 
 std::string Comprobar(const OpcionesCalcular& o) {
-    const std::set<std::string> ciclos{"Otto", "Diesel", "Mixto"};
-    if (o.Tiene("ciclo") && !ciclos.count(o.Valor("ciclo"))) return "ciclo desconocido: " + o.Valor("ciclo");
-    for (const char* m : {"compresion", "expansion"})
-        if (o.Tiene(m) && !ModeloDeNombre(o.Valor(m)))
-            return std::string("modelo de ") + m + " desconocido: " + o.Valor(m);
-    if (o.Tiene("formula") && Campos(o.Valor("formula")) != 5)
-        return "--formula lleva cinco números: C,H,N,O,S";
-    if (o.Tiene("masa") && Campos(o.Valor("masa")) != 4) return "--masa lleva cuatro porcentajes: C,N,O,S";
-    const int definiciones = o.Tiene("combustible") + o.Tiene("formula") + o.Tiene("masa");
-    if (definiciones > 1) return "--combustible, --formula y --masa se excluyen entre sí";
-    if (o.Tiene("masa") && !o.Tiene("masa-molecular")) return "--masa necesita --masa-molecular";
-    if (o.Tiene("masa-molecular") && !o.Tiene("masa")) return "--masa-molecular va con --masa";
-    if (o.Tiene("entalpia-formacion") && !o.Tiene("formula") && !o.Tiene("masa"))
-        return "--entalpia-formacion va con --formula o --masa";
-    if (o.Tiene("combustible") && !BuscarCombustible(o.Valor("combustible")))
-        return "combustible desconocido: " + o.Valor("combustible") +
-               " (los de la lista: " + NombresCombustibles() + ")";
-    if (o.Tiene("fr") && o.Tiene("lambda")) return "--fr y --lambda se excluyen entre sí";
-    if (o.Tiene("proporcion-vcte") && o.Tiene("pmax"))
-        return "--proporcion-vcte y --pmax se excluyen entre sí";
+    OpcionesCalculo entradas;
+    for (const auto& [nombre, valor] : o.valores)
+        if (BuscarEntrada(nombre)) entradas.valores[nombre] = valor;
+    if (std::string error = ComprobarOpciones(entradas); !error.empty()) return error;
     if ((o.Tiene("formato") || o.Tiene("tamano")) && !o.Tiene("figuras"))
         return "--formato y --tamano van con --figuras";
     if (o.Tiene("formato") && !std::set<std::string>{"png", "svg", "pdf"}.count(o.Valor("formato")))
@@ -145,7 +115,7 @@ std::string TextoUso() {
            "cumple)\n"
            "     vanta --version                    la versión del programa\n"
            "\n"
-           "Opciones de calcular (por defecto, lo que muestran las pantallas al abrirse):\n"
+           "Opciones de calcular:\n"
            "  --json                          en lugar del informe, todas las variables del cálculo en JSON\n"
            "  --html CARPETA                  escribe también la página HTML y sus siete imágenes\n"
            "  --guardar NOMBRE                guarda también el resultado en la base de datos\n"
@@ -157,62 +127,47 @@ std::string TextoUso() {
            "  --figuras CARPETA               escribe también los cuatro diagramas, con escalas, y las tres\n"
            "                                  gráficas, como figuras: --formato png|svg|pdf (png)\n"
            "                                  --tamano ANCHOxALTO (1200x900)\n"
-           "  --presion-ambiente PA (100000)  --temperatura-ambiente K (300)  --humedad PCT (0)\n"
-           "  --combustible NOMBRE (Gasolina) | --formula C,H,N,O,S --entalpia-formacion J_MOL\n"
-           "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion "
-           "J_MOL\n"
-           "  --fr X (1) | --lambda X\n"
-           "  --ciclo Otto|Diesel|Mixto (Otto)  --cilindrada CC (100)  --rc X (10)  --p1 PA  --t1 K\n"
-           "  --compresion medio|politropica|variable (medio)  --n-compresion X (1,39)\n"
-           "  --expansion medio|politropica|variable (medio)   --n-expansion X (1,23)\n"
-           "  --proporcion-vcte PCT (50) | --pmax PA (10000000)   ciclo Mixto: reparto del calor o presión "
-           "máxima\n"
-           "  --rpm N                         escribe también la potencia a ese régimen\n"
+           "Los datos del cálculo (por defecto, lo que muestran las pantallas al abrirse; --p1 y --t1, los\n"
+           "del ambiente; --rpm escribe también la potencia a ese régimen):\n" +
+           AyudaEntradas() +
+           "De --combustible, --formula y --masa, una; de --fr y --lambda, una; de --pmax y "
+           "--proporcion-vcte\n"
+           "(ciclo Mixto: presión máxima o reparto del calor), una.\n"
            "Los números se escriben como en las casillas: \"1,39\" y \"1.39\" valen lo mismo.\n"
            "Una opción se escribe \"--opción valor\" o \"--opción=valor\", una vez.\n";
 }
 
-namespace {
-
-// The power block of the main window at the speed given; false when the
-// speed was refused (its message is told and the power stays empty).
-bool EscribirPotencia(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, const TextosResultados& r,
-                      std::ostream& out) {
-    CajaTextoSimple txtRpm(o.Valor("rpm")), txtPotencia, txtPotenciaCV;
-    txtRpm_Change(e, dlg, e.Wciclo, txtRpm, txtPotencia, txtPotenciaCV);
-    // A refused speed is told, and not written into the report.
-    if (e.ErrorCalculo) return false;
-    out << "r.p.m. = " << txtRpm.Text() << "\r\n"
-        << "Potencia = " << txtPotencia.Text() << " W = " << txtPotenciaCV.Text() << " CV\r\n"
-        << "Consumo = " << r.txtConsumoMJ << " g / MJ = " << r.txtConsumoKwh << " g / (kW·h)\r\n";
-    return !e.ErrorCalculo;
+bool NecesitaVentanas(const OpcionesCalcular& o) {
+    return !o.html.empty() || !o.guardar.empty() || !o.figuras.empty();
 }
 
-}  // namespace
-
-int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
-                     std::ostream& out, std::ostream* avisos) {
-    std::string informe;
-    return EjecutarCalcular(e, o, dlg, s, out, informe, avisos);
-}
-
-int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
-                     std::ostream& out, std::string& informe, std::ostream* avisos) {
-    VentanaPrincipalSimple v;
-    const bool calculado = CalcularTodo(e, o, dlg, s, v);
-    bool bien = calculado;
+int EscribirCalculo(const ResultadoCalculo& r, const OpcionesCalcular& o, std::ostream& out,
+                    std::ostream& err) {
+    for (const MensajeCalculo& m : r.mensajes) err << "vanta calcular: " << m.texto << '\n';
     if (o.json) {
-        out << EstadoJSONConfianza(e, TextoListaCombustible(o), calculado) << '\n';
-    } else if (bien) {
+        out << ResultadoJSON(r) << '\n';
+    } else if (r.CicloCalculado()) {
         // The report as the program keeps it, CR LF, closed by one more line end.
-        out << v.informe << "\r\n";
-        if (o.Tiene("rpm")) bien = EscribirPotencia(e, o, dlg, v.resultados, out);
-        if (avisos)
-            for (const Aviso& a : AvisosValidez(e, TextoListaCombustible(o)))
-                *avisos << "aviso: " << a.texto << '\n';
+        out << r.informe << "\r\n";
+        if (r.potencia)
+            out << "r.p.m. = " << r.entradas.rpm << "\r\n"
+                << "Potencia = " << r.potencia->potencia << " W = " << r.potencia->potenciaCV << " CV\r\n"
+                << "Consumo = " << r.textos.txtConsumoMJ << " g / MJ = " << r.textos.txtConsumoKwh
+                << " g / (kW·h)\r\n";
+        for (const Aviso& a : r.avisos) err << "aviso: " << a.texto << '\n';
     }
-    informe = v.informe;
-    return bien ? kSalidaBien : kSalidaFallo;
+    return r.bien ? kSalidaBien : kSalidaFallo;
+}
+
+Entradas EntradasDeCalcular(const OpcionesCalcular& o) {
+    Entradas x = EntradasDeOpciones(o);
+    // The JSON holds no power: the speed plays no part there.
+    if (o.json) x.rpm.clear();
+    return x;
+}
+
+int EjecutarCalcular(const OpcionesCalcular& o, std::ostream& out, std::ostream& err) {
+    return EscribirCalculo(Calcular(EntradasDeCalcular(o)), o, out, err);
 }
 
 }  // namespace vanta::cli

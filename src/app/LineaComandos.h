@@ -1,5 +1,5 @@
-// The command line: `vanta calcular` runs the program's own sequence of the
-// four stages headless (core/sequence) from its options and writes the report,
+// The command line: `vanta calcular` makes the typed inputs from its options
+// (the table of inputs), runs the calculation headless and writes the report,
 // the JSON of the state, the page or a record.
 #pragma once
 
@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "core/sequence/Secuencia.h"
+#include "core/inputs/Entradas.h"
+#include "core/sequence/Calculo.h"
 
 namespace vanta::cli {
 
@@ -46,14 +47,21 @@ Parseo ParsearCalcular(const std::vector<std::string>& argumentos);
 std::vector<std::string> SepararIgual(const std::vector<std::string>& argumentos);
 std::string TextoUso();
 
-// Runs the stages in order; writes the report (or the JSON) on out and returns
-// the exit status. Messages go through dlg. After the report of a calculation
-// that ended well, its validity warnings go to avisos, one a line after
-// "aviso: " (with --json they are in the JSON instead).
-int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
-                     std::ostream& out, std::ostream* avisos = nullptr);
-// The same, keeping the text report of a calculation that ended well.
-int EjecutarCalcular(Estado& e, const OpcionesCalcular& o, Dialogos& dlg, SuperficiesCalculo& s,
-                     std::ostream& out, std::string& informe, std::ostream* avisos = nullptr);
+// Writes what a calculation gave: its messages on err (one a line after
+// "vanta calcular: "), the report (or the JSON) on out, the power when a speed
+// was given, and after the report of a calculation that ended well its
+// validity warnings on err (one a line after "aviso: "; with --json they are
+// in the JSON instead). Returns the exit status.
+int EscribirCalculo(const ResultadoCalculo& r, const OpcionesCalcular& o, std::ostream& out,
+                    std::ostream& err);
+
+// The typed inputs of the options; with --json, no speed (the JSON holds no
+// power).
+Entradas EntradasDeCalcular(const OpcionesCalcular& o);
+// The calculation headless, as `vanta calcular` runs it without pictures.
+int EjecutarCalcular(const OpcionesCalcular& o, std::ostream& out, std::ostream& err);
+
+// Whether the options need the windows' libraries: a page, a record or figures.
+bool NecesitaVentanas(const OpcionesCalcular& o);
 
 }  // namespace vanta::cli

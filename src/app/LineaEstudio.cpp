@@ -27,36 +27,6 @@ std::string Nombres(auto lista) {
     return t;
 }
 
-// The inputs of the calculation as words of `vanta calcular`, with the value
-// of each varied input given.
-std::vector<std::string> ConValores(const std::vector<std::string>& base, const Estudio& estudio,
-                                    const std::vector<size_t>& indices) {
-    std::vector<std::string> palabras = base;
-    for (size_t i = 0; i < estudio.variaciones.size(); ++i) {
-        palabras.push_back("--" + estudio.variaciones[i].nombre);
-        palabras.push_back(estudio.variaciones[i].Valor(indices[i]));
-    }
-    return palabras;
-}
-
-// Every value of each input, with the first value of the other, passes the
-// checks of `vanta calcular`: a name of the fuel list, a cycle, a model, the
-// options that exclude each other. Those checks read no number, so the first
-// value of a numeric input stands for all.
-std::string ComprobarValores(const std::vector<std::string>& base, const Estudio& estudio) {
-    for (size_t i = 0; i < estudio.variaciones.size(); ++i) {
-        std::vector<size_t> indices(estudio.variaciones.size(), 0);
-        const Variacion& v = estudio.variaciones[i];
-        const size_t valores = BuscarEntradaEstudio(v.nombre)->numerica ? 1 : v.Cuenta();
-        for (size_t k = 0; k < valores; ++k) {
-            indices[i] = k;
-            const Parseo p = ParsearCalcular(ConValores(base, estudio, indices));
-            if (!p.opciones) return "--variar " + estudio.variaciones[i].nombre + ": " + p.error;
-        }
-    }
-    return {};
-}
-
 }  // namespace
 
 ParseoEstudio ParsearEstudio(const std::vector<std::string>& argumentos) {
@@ -93,10 +63,7 @@ ParseoEstudio ParsearEstudio(const std::vector<std::string>& argumentos) {
             if (!entrada)
                 return fallo("no se puede variar " + v.nombre +
                              " (se pueden variar: " + Nombres(EntradasEstudio()) + ")");
-            for (const Variacion& otra : estudio.variaciones)
-                if (otra.nombre == v.nombre) return fallo("--variar " + v.nombre + " está dos veces");
-            if (estudio.variaciones.size() == 2) return fallo("un estudio varía una entrada o dos, no más");
-            if (std::string error = LeerValores(valor.substr(igual + 1), entrada->numerica, v);
+            if (std::string error = LeerValores(valor.substr(igual + 1), entrada->Numerica(), v);
                 !error.empty())
                 return fallo("--variar " + v.nombre + ": " + error);
             estudio.variaciones.push_back(std::move(v));
@@ -118,31 +85,19 @@ ParseoEstudio ParsearEstudio(const std::vector<std::string>& argumentos) {
             o.parte = {*k, *n};
         }
     }
-    if (estudio.variaciones.empty()) return fallo("falta --variar: la entrada que varía el estudio");
-
     const Parseo p = ParsearCalcular(base);
     if (!p.opciones) return fallo(p.error);
     if (p.opciones->json || !p.opciones->html.empty() || !p.opciones->guardar.empty())
         return fallo("--html y --guardar son de calcular, no de estudio");
     estudio.base = *p.opciones;
-    for (const Variacion& v : estudio.variaciones)
-        if (estudio.base.Tiene(v.nombre))
-            return fallo("--" + v.nombre + " se da a la vez como opción y en --variar");
-    if (std::string error = ComprobarValores(base, estudio); !error.empty()) return fallo(error);
-
     for (const std::string& nombre : SepararLista(salidas)) {
         const SalidaEstudio* s = BuscarSalidaEstudio(nombre);
         if (!s)
             return fallo("salida desconocida: " + nombre + " (las salidas: " + Nombres(SalidasEstudio()) +
                          ")");
-        if (s->conRegimen && !estudio.base.Tiene("rpm") &&
-            !(estudio.variaciones[0].nombre == "rpm" ||
-              (estudio.variaciones.size() > 1 && estudio.variaciones[1].nombre == "rpm")))
-            return fallo("la salida " + nombre + " necesita el régimen: --rpm o --variar rpm=…");
         estudio.salidas.push_back(s);
     }
-    if (NumeroPuntos(estudio) > kPuntosMaximos)
-        return fallo("el estudio tiene demasiados puntos: " + std::to_string(NumeroPuntos(estudio)));
+    if (std::string error = ComprobarEstudio(estudio); !error.empty()) return fallo(error);
     if (o.parte.n > NumeroPuntos(estudio))
         return fallo("--parte " + std::to_string(o.parte.k) + "/" + std::to_string(o.parte.n) +
                      ": hay más partes que puntos");
@@ -150,6 +105,24 @@ ParseoEstudio ParsearEstudio(const std::vector<std::string>& argumentos) {
     if (o.json && o.csv == "-") return fallo("--json y --csv - escriben los dos en la salida estándar");
     return {o, {}};
 }
+
+namespace {
+
+// The names of the inputs, in lines for the help.
+std::string NombresEntradas() {
+    std::string t, linea;
+    for (const EntradaEstudio& e : EntradasEstudio()) {
+        const std::string nombre(e.nombre);
+        if (!linea.empty() && linea.size() + nombre.size() + 2 > 72) {
+            t += linea + ",\n       ";
+            linea.clear();
+        }
+        linea += (linea.empty() ? "" : ", ") + nombre;
+    }
+    return t + linea;
+}
+
+}  // namespace
 
 std::string TextoUsoEstudio() {
     return "Uso: vanta estudio --variar NOMBRE=VALORES [--variar NOMBRE=VALORES] [opciones de calcular]\n"
@@ -163,12 +136,10 @@ std::string TextoUsoEstudio() {
            "combustible=Gasolina,Gasoil;\n"
            "                                    \";\" entre valores con coma decimal: "
            "n-compresion=1,3;1,35)\n"
-           "       Las entradas: las opciones de calcular con valor (rc, fr, lambda, cilindrada, p1, t1, "
-           "pmax,\n"
-           "       temperatura-ambiente, presion-ambiente, humedad, proporcion-vcte, n-compresion, "
-           "n-expansion,\n"
-           "       rpm, combustible, ciclo, compresion, expansion…). Con dos, las filas recorren la primera\n"
-           "       para cada valor de la segunda.\n"
+           "       Las entradas: " +
+           NombresEntradas() +
+           ".\n"
+           "       Con dos, las filas recorren la primera para cada valor de la segunda.\n"
            "  --salidas S1,S2,…   las cifras de cada punto (rendimiento): rendimiento, wciclo, qciclo, q23,\n"
            "                      q34, w12, w34, w45, p1…p5, v1…v5, t1…t5, h1…h5, s1…s5, presion-maxima,\n"
            "                      temperatura-maxima, consumo-kwh, consumo-mj, potencia y potencia-cv (con\n"

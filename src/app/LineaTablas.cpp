@@ -26,16 +26,16 @@ struct OpcionesTablas {
     OpcionesCalcular fluidoDefinido;  // the options of the air, the fuel and the combustion
 };
 
-// The options of `calcular` that define the fluid; the cycle's have no place
-// in a table.
-const char* const kOpcionesFluido[] = {
-    "presion-ambiente", "temperatura-ambiente", "humedad", "combustible", "formula", "masa",
-    "masa-molecular",   "entalpia-formacion",   "fr",      "lambda"};
+// The inputs that define the fluid: those of the air, the fuel and the
+// combustion; the cycle's have no place in a table.
+bool DelFluido(const DefinicionEntrada& d) {
+    return d.etapa == EtapaEntrada::Aire || d.etapa == EtapaEntrada::Combustible ||
+           d.etapa == EtapaEntrada::Combustion;
+}
 
 bool EsOpcionFluido(const std::string& nombre) {
-    for (const char* o : kOpcionesFluido)
-        if (nombre == o) return true;
-    return false;
+    const DefinicionEntrada* d = BuscarEntrada(nombre);
+    return d && DelFluido(*d);
 }
 
 bool EsEspecie(const std::string& fluido) {
@@ -79,23 +79,6 @@ std::string Parsear(const std::vector<std::string>& palabras, OpcionesTablas& o)
     return {};
 }
 
-// Messages one a line on the stream of errors.
-class DialogosFlujo : public Dialogos {
-public:
-    explicit DialogosFlujo(std::ostream& err) : err_(err) {}
-    void MsgBox(std::string_view mensaje) override {
-        ++cuenta;
-        err_ << "vanta tablas: " << mensaje << '\n';
-    }
-    std::string InputBox(std::string_view, std::string_view porDefecto) override {
-        return std::string(porDefecto);
-    }
-    int cuenta = 0;
-
-private:
-    std::ostream& err_;
-};
-
 // The viewer on standard output. The text goes out in blocks as rows arrive,
 // so that a long table needs no memory; what comes before the rows is held
 // back, so that a refused number or range leaves nothing on the output.
@@ -138,12 +121,8 @@ std::string TextoUsoTablas() {
            "especie\n"
            "  --por mol|kg (mol)               resultados por mol o por kilogramo\n"
            "  --desde K (300)  --hasta K (5000)  --paso K (100)\n"
-           "El fluido se define con las opciones de calcular:\n"
-           "  --presion-ambiente PA (100000)  --temperatura-ambiente K (300)  --humedad PCT (0)\n"
-           "  --combustible NOMBRE (Gasolina) | --formula C,H,N,O,S --entalpia-formacion J_MOL\n"
-           "                                  | --masa C,N,O,S --masa-molecular KG_MOL --entalpia-formacion "
-           "J_MOL\n"
-           "  --fr X (1) | --lambda X\n"
+           "El fluido se define con las opciones de calcular:\n" +
+           AyudaEntradas(DelFluido) +
            "Los números se escriben como en las casillas: \"0,5\" y \"0.5\" valen lo mismo.\n"
            "Una opción se escribe \"--opción valor\" o \"--opción=valor\", una vez.\n";
 }
@@ -160,33 +139,36 @@ int EjecutarTablas(const std::vector<std::string>& argumentos, std::ostream& out
     }
 
     Estado e;
-    DialogosFlujo dlg(err);
+    Mensajes msj;
+    const auto decir = [&] {
+        for (const MensajeCalculo& m : msj.lista) err << "vanta tablas: " << m.texto << '\n';
+    };
     const bool aire = o.fluido == kFluidoAire, humos = o.fluido == kFluidoHumos;
+    const Entradas fluido = EntradasDeOpciones(o.fluidoDefinido);
     if (aire || humos) {
-        SuperficieNula pct1, pct2, pct3;
-        DiagramasNulos diagramas;
-        SuperficiesCalculo s{pct1, pct2, pct3, diagramas.Todos()};
-        if (!DefinirFluido(e, o.fluidoDefinido, dlg, s, humos)) return kSalidaFallo;
+        SuperficiesNulas nulas;
+        SuperficiesCalculo s = nulas.Todas();
+        if (!DefinirFluido(e, msj, fluido, s, humos)) {
+            decir();
+            return kSalidaFallo;
+        }
     }
 
-    CajaTextoSimple txtAT(o.paso), txtTinicial(o.desde), txtTfinal(o.hasta);
-    CajaTextoSimple cboElemento(aire || humos ? kTextoElegir : o.fluido);
-    InterruptorSimple optMol(o.por == kPorMol), optKg(o.por == kPorKg), optAire(aire), optHumos(humos);
-    ControlesHerramientas c{.txtAT = txtAT,
-                            .txtTinicial = txtTinicial,
-                            .txtTfinal = txtTfinal,
-                            .optMol = optMol,
-                            .optKg = optKg,
-                            .optAire = optAire,
-                            .optHumos = optHumos,
-                            .cboElemento = cboElemento};
+    EntradasHerramientas c{.incremento = o.paso,
+                           .tInicial = o.desde,
+                           .tFinal = o.hasta,
+                           .porMol = o.por == kPorMol,
+                           .porKg = o.por == kPorKg,
+                           .aire = aire,
+                           .humos = humos,
+                           .elemento = aire || humos ? kTextoElegir : o.fluido};
     MiembrosHerramientas m;
     VisorFlujo visor(out);
-    const bool bien = aire || humos
-                          ? cmdTablas_Click(e, dlg, c, m, visor, TextoListaCombustible(o.fluidoDefinido))
-                          : cmdTab_Click(e, dlg, c, m, visor);
+    const bool bien = aire || humos ? cmdTablas_Click(e, msj, c, m, visor, TextoListaCombustible(fluido))
+                                    : cmdTab_Click(e, msj, c, m, visor);
+    decir();
     visor.Terminar();
-    return bien && !e.ErrorCalculo && dlg.cuenta == 0 ? kSalidaBien : kSalidaFallo;
+    return bien && !e.ErrorCalculo && msj.lista.empty() ? kSalidaBien : kSalidaFallo;
 }
 
 }  // namespace vanta::cli

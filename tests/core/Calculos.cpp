@@ -8,7 +8,6 @@
 namespace vanta::pruebas {
 
 Calculo::Calculo() {
-    GuardarColoresDiagramas(e);
     // Text metrics of a small letter, so that placements by text size show.
     for (SuperficieGrabada* s : {&pct1, &pct2, &pct3, &pctPV, &pctTV, &pctTS, &pctHS}) {
         s->anchoCaracter = 0.01f;
@@ -24,10 +23,15 @@ OpcionesCalculo Opciones(const std::vector<std::string>& palabras) {
 
 std::unique_ptr<Calculo> Calcular(const std::vector<std::string>& opciones, bool dibujar, char separador) {
     auto c = std::make_unique<Calculo>();
-    c->dibujar = dibujar;
-    c->e.SeparadorDecimal = separador;
-    SuperficiesCalculo s = c->Superficies();
-    c->bien = CalcularTodo(c->e, Opciones(opciones), c->dlg, s, c->v);
+    const Entradas x = EntradasDeOpciones(Opciones(opciones));
+    if (dibujar) {
+        SuperficiesCalculo s = c->Superficies();
+        c->r = vanta::Calcular(x, s, separador);
+    } else {
+        c->r = vanta::Calcular(x, separador);
+    }
+    c->bien = c->r.CicloCalculado();
+    c->e = *c->r.estado;
     return c;
 }
 
@@ -63,10 +67,10 @@ std::string EstadoEnLineas(const Estado& e) {
 
 std::string Volcado(Calculo& c) {
     std::string s = "== mensajes\n";
-    for (const std::string& m : c.dlg.mensajes) s += m + "\n";
+    for (const std::string& m : c.r.TextosMensajes()) s += m + "\n";
     s += "== estado\n" + EstadoEnLineas(c.e);
     if (!c.bien) return s;
-    const TextosResultados& r = c.v.resultados;
+    const TextosResultados& r = c.r.textos;
     s += "== etiquetas\n";
     for (int k = 0; k < 5; ++k)
         s += "[" + r.lblP[k] + "][" + r.lblV[k] + "][" + r.lblT[k] + "][" + r.lblH[k] + "][" + r.lblS[k] +
@@ -75,10 +79,10 @@ std::string Volcado(Calculo& c) {
          {&r.lblW12, &r.lblW34, &r.lblW45, &r.lblQ23, &r.lblQ34, &r.lblWciclo, &r.lblQciclo, &r.lblRen,
           &r.lblG12, &r.lblG2, &r.lblG45, &r.lblG5, &r.txtConsumoMJ, &r.txtConsumoKwh, &r.txtCilindrada})
         s += "[" + *t + "]";
-    s += "\n== informe\n" + c.v.informe + "\n== pagina\n" + HTMLInforme(c.e, c.v.tipoCombustible) + "\n";
+    const std::string& tipo = c.r.tipoCombustible;
+    s += "\n== informe\n" + c.r.informe + "\n== pagina\n" + HTMLInforme(c.e, tipo) + "\n";
     s += "== registro\n";
-    for (const std::string& v : bd::ValoresRegistro(c.e, bd::NombrePorDefecto(c.e, c.v.tipoCombustible),
-                                                    c.v.tipoCombustible, "informe"))
+    for (const std::string& v : bd::ValoresRegistro(c.e, bd::NombrePorDefecto(c.e, tipo), tipo, "informe"))
         s += "[" + v + "]";
     s += "\n";
     const std::pair<const char*, SuperficieGrabada*> superficies[] = {

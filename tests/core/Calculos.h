@@ -9,26 +9,22 @@
 #include <vector>
 
 #include "core/cycle/Ciclo.h"
-#include "core/sequence/Secuencia.h"
+#include "core/sequence/Calculo.h"
 
 namespace vanta::pruebas {
 
 struct Calculo {
-    Estado e;
-    DialogosGrabados dlg;
     SuperficieGrabada pct1, pct2, pct3, pctPV, pctTV, pctTS, pctHS;
-    SuperficiesNulas nulas;
-    bool dibujar = true;
-    VentanaPrincipalSimple v;
+    ResultadoCalculo r;
     bool bien = false;
+    // A copy of the state the calculation left, for what works on it after
+    // (the readout), and the messages of that.
+    Estado e;
+    Mensajes dlg;
 
     Calculo();
-    Diagramas Diagramas4() {
-        return dibujar ? Diagramas{pctPV, pctTV, pctTS, pctHS} : nulas.diagramas.Todos();
-    }
-    SuperficiesCalculo Superficies() {
-        return dibujar ? SuperficiesCalculo{pct1, pct2, pct3, Diagramas4()} : nulas.Todas();
-    }
+    Diagramas Diagramas4() { return {pctPV, pctTV, pctTS, pctHS}; }
+    SuperficiesCalculo Superficies() { return {pct1, pct2, pct3, Diagramas4()}; }
 };
 
 // The options as the command line takes them: {"--ciclo", "Diesel", ...}.

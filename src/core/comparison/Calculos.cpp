@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <map>
 
-#include "core/fluids/Combustible.h"
+#include "core/inputs/BibliotecaCombustibles.h"
 #include "core/reports/TextosInforme.h"
 #include "core/services/Numeros.h"
 
@@ -28,7 +28,7 @@ std::string Lista(std::initializer_list<double> valores) {
 // One run of the four stages, whatever its end: a failed run still holds the
 // states it reached.
 struct Ejecucion {
-    std::shared_ptr<Estado> estado = std::make_shared<Estado>();
+    std::shared_ptr<const Estado> estado;
     bool bien = false;
     CurvasCiclo curvas;
     std::string mensajes;
@@ -36,16 +36,14 @@ struct Ejecucion {
 
 Ejecucion Ejecutar(const OpcionesCalculo& o) {
     Ejecucion x;
-    Estado& e = *x.estado;
-    GuardarColoresDiagramas(e);
-    DialogosGrabados dlg;
     SuperficieNula pct1, pct2, pct3;
     DiagramasTrazos g;
     SuperficiesCalculo s{pct1, pct2, pct3, g.Todos()};
-    VentanaPrincipalSimple v;
-    x.bien = CalcularTodo(e, o, dlg, s, v);
+    const ResultadoCalculo r = Calcular(EntradasDeOpciones(o), s);
+    x.estado = r.estado;
+    x.bien = r.CicloCalculado();
     x.curvas = CurvasDe(g);
-    for (const std::string& m : dlg.mensajes) x.mensajes += (x.mensajes.empty() ? "" : " ") + m;
+    for (const std::string& m : r.TextosMensajes()) x.mensajes += (x.mensajes.empty() ? "" : " ") + m;
     return x;
 }
 
@@ -53,7 +51,7 @@ CalculoComparado Comparado(std::string nombre, const OpcionesCalculo& o, const E
     CalculoComparado c;
     c.nombre = std::move(nombre);
     c.entradas = o;
-    c.tipoCombustible = TextoListaCombustible(o);
+    c.tipoCombustible = TextoListaCombustible(EntradasDeOpciones(o));
     if (x.bien) {
         c.estado = x.estado;
         c.curvas = x.curvas;
@@ -359,7 +357,7 @@ std::optional<OpcionesCalculo> LeerEntradas(std::string_view texto) {
         const size_t igual = linea.find('=');
         if (igual == std::string_view::npos) return std::nullopt;
         const std::string nombre(linea.substr(0, igual));
-        if (!EsOpcionCalculo(nombre)) return std::nullopt;
+        if (!BuscarEntrada(nombre)) return std::nullopt;
         o.valores[nombre] = std::string(linea.substr(igual + 1));
     }
     return o;

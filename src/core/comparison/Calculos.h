@@ -20,7 +20,7 @@
 
 #include "core/comparison/Trazos.h"
 #include "core/database/Registro.h"
-#include "core/sequence/Secuencia.h"
+#include "core/sequence/Calculo.h"
 #include "core/state/Estado.h"
 
 namespace vanta {

@@ -22,7 +22,7 @@ std::string Modelo_(Modelo m, double n, char sep) {
     return "Exponente adiabático medio";
 }
 
-struct Entrada {
+struct FilaEntrada {
     const char* magnitud;
     std::function<std::string(const CalculoComparado&, char)> valor;
 };
@@ -31,8 +31,8 @@ std::string General(double x, char sep) {
     return TextoGeneral(x, sep);
 }
 
-const std::vector<Entrada>& Entradas() {
-    static const std::vector<Entrada> kEntradas = {
+const std::vector<FilaEntrada>& FilasEntradas() {
+    static const std::vector<FilaEntrada> kEntradas = {
         {"Ciclo", [](const CalculoComparado& c, char) { return c.estado->TipoCiclo; }},
         {"Combustible",
          [](const CalculoComparado& c, char sep) {
@@ -147,7 +147,7 @@ std::vector<FilaComparacion> TablaComparacion(const std::vector<CalculoComparado
     }
 
     std::vector<FilaComparacion> entradas;
-    for (const Entrada& en : Entradas()) {
+    for (const FilaEntrada& en : FilasEntradas()) {
         FilaComparacion f{en.magnitud, {}, std::vector<std::string>(n), true, false};
         for (const CalculoComparado& c : calculos) {
             f.valores.push_back(c.Hay() ? en.valor(c, separador) : "");

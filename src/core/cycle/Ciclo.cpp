@@ -22,15 +22,6 @@ constexpr std::string_view kMensajeImposible =
 constexpr std::string_view kMensajeSinCiclo = "Debe especificar un ciclo";
 constexpr std::string_view kMensajeErrorCalculo =
     "Se ha producido un error de cálculo, corrija el error y pulse el botón \"CALCULAR\" otra vez";
-constexpr std::string_view kMensajePropVcte = " % no puede ser superior a 100";
-// The checks of the inputs that the program makes beyond their numeric form,
-// where a value would leave the calculation without meaning.
-constexpr std::string_view kMensajeRc = "La relación de compresión debe ser mayor que 1";
-constexpr std::string_view kMensajeCilindrada = "La cilindrada debe ser mayor que cero";
-constexpr std::string_view kMensajeP1 = "La presión al final de la admisión debe ser mayor que cero";
-constexpr std::string_view kMensajeT1 = "La temperatura al final de la admisión debe ser mayor que cero";
-constexpr std::string_view kMensajeExponente = "El exponente politrópico n debe ser mayor que 1";
-constexpr std::string_view kMensajePropNegativa = "El % de calor a volumen constante no puede ser negativo";
 constexpr std::string_view kCausaMasas =
     "las masas o el calor del ciclo salen del intervalo de los números del programa";
 constexpr std::string_view kCausaVolumenNulo =
@@ -58,9 +49,9 @@ constexpr Marcos kMarcosOttoDiesel{.compresion = true,
 constexpr double kRcFocoPmax = 30;
 constexpr double kPmaxOtto = 9e9;
 
-constexpr std::string_view kCicloOtto = "Otto";
-constexpr std::string_view kCicloDiesel = "Diesel";
-constexpr std::string_view kCicloMixto = "Mixto";
+const std::string kCicloOtto(NombreCiclo(TipoCiclo::Otto));
+const std::string kCicloDiesel(NombreCiclo(TipoCiclo::Diesel));
+const std::string kCicloMixto(NombreCiclo(TipoCiclo::Mixto));
 
 // Masks of the result labels.
 constexpr std::string_view kMascaraPresion = "### ### ### ### ###";
@@ -73,44 +64,41 @@ constexpr std::string_view kMascaraGamma = "### ### ### ##0.000";
 constexpr std::string_view kMascaraConsumo = "### ### ### ##0.0";
 constexpr std::string_view kMascaraPotencia = "### ### ### ##0.0";
 
-void Fallo(Estado& e, Dialogos& dlg, std::string_view mensaje) {
-    dlg.MsgBox(mensaje);
+void Fallo(Estado& e, Mensajes& msj, std::string_view mensaje, CampoEntrada entrada = {}) {
+    msj.MsgBox(mensaje, std::move(entrada));
     e.ErrorCalculo = Verdadero;
 }
 
 // The boxes, each through the validator with its name.
-void LeerEntradas(Estado& e, Dialogos& dlg, ControlesCiclo& c) {
-    ValidarNumero(e, dlg, c.txtPMax, e.Pmax, " Presión máxima ");
-    ValidarNumero(e, dlg, c.txtRc, e.Rc, " Relación de compresión ");
-    ValidarNumero(e, dlg, c.txtCilindrada, e.V1, "Cilindrada");
+void LeerEntradas(Estado& e, Mensajes& msj, const Entradas& x) {
+    LeerEntrada(e, msj, Entrada("pmax"), x.pmax, e.Pmax);
+    LeerEntrada(e, msj, Entrada("rc"), x.rc, e.Rc);
+    LeerEntrada(e, msj, Entrada("cilindrada"), x.cilindrada, e.V1);
     e.V1 = e.V1 / 1e6;
-    ValidarNumero(e, dlg, c.txt_nExp, e.nExpansion, " n ");
-    ValidarNumero(e, dlg, c.txtP1, e.p1, " Presión al final de la admisión ");
-    ValidarNumero(e, dlg, c.txtT1, e.T1, " Temperatura al final de la admisión ");
-    ValidarNumero(e, dlg, c.txtPropVcte, e.PropVcte, "%");
+    LeerEntrada(e, msj, Entrada("n-expansion"), x.nExpansion, e.nExpansion);
+    LeerEntrada(e, msj, Entrada("p1"), x.p1.value_or(""), e.p1);
+    LeerEntrada(e, msj, Entrada("t1"), x.t1.value_or(""), e.T1);
+    LeerEntrada(e, msj, Entrada("proporcion-vcte"), x.proporcionVcte, e.PropVcte);
 }
 
 // Values that pass the numeric test but leave the cycle without meaning.
-void ComprobarEntradas(Estado& e, Dialogos& dlg, ControlesCiclo& c) {
+void ComprobarEntradas(Estado& e, Mensajes& msj, const Entradas& x) {
     if (e.ErrorCalculo) return;
-    struct Regla {
-        bool falla;
-        std::string_view mensaje;
-        CajaTexto& caja;
+    const bool politropica = x.expansion == Modelo::Politropico;
+    const bool proporcion = e.TipoCiclo == kCicloMixto && x.reparto == RepartoMixto::Proporcion;
+    const std::pair<const char*, std::string_view> reglas[] = {
+        {"rc", Entrada("rc").Bajo(e.Rc)},
+        {"cilindrada", Entrada("cilindrada").Bajo(e.V1)},
+        {"p1", Entrada("p1").Bajo(e.p1)},
+        {"t1", Entrada("t1").Bajo(e.T1)},
+        {"n-expansion", politropica ? Entrada("n-expansion").Bajo(e.nExpansion) : std::string_view()},
+        {"proporcion-vcte", proporcion ? Entrada("proporcion-vcte").Bajo(e.PropVcte) : std::string_view()},
     };
-    const Regla reglas[] = {
-        {!(e.Rc > 1), kMensajeRc, c.txtRc},
-        {!(e.V1 > 0), kMensajeCilindrada, c.txtCilindrada},
-        {!(e.p1 > 0), kMensajeP1, c.txtP1},
-        {!(e.T1 > 0), kMensajeT1, c.txtT1},
-        {c.optPolitropica.Value() && !(e.nExpansion > 1), kMensajeExponente, c.txt_nExp},
-        {e.TipoCiclo == kCicloMixto && c.optProporcion.Value() && e.PropVcte < 0, kMensajePropNegativa,
-         c.txtPropVcte},
-    };
-    for (const Regla& r : reglas) {
-        if (r.falla) {
-            Fallo(e, dlg, r.mensaje);
-            r.caja.SetFocus();
+    for (const auto& [nombre, mensaje] : reglas) {
+        if (!mensaje.empty()) {
+            const CampoEntrada campo = Campo(Entrada(nombre));
+            Fallo(e, msj, mensaje, campo);
+            msj.Foco(campo);
             return;
         }
     }
@@ -118,7 +106,7 @@ void ComprobarEntradas(Estado& e, Dialogos& dlg, ControlesCiclo& c) {
 
 // Volumes, masses, heat, step and moles. Worked out first and
 // stored only when every figure is a finite number.
-void MasasYVolumenes(Estado& e, Dialogos& dlg) {
+void MasasYVolumenes(Estado& e, Mensajes& msj) {
     const double V2 = e.V1 / e.Rc;
     const double masaAire = (e.MasaMolecularAire * e.p1 / (e.T1 * kR)) * e.V1;
     const double masaCombustible = e.Fe * masaAire * e.Fr;
@@ -127,13 +115,13 @@ void MasasYVolumenes(Estado& e, Dialogos& dlg) {
     const double paso = (e.V1 - e.V1 / e.Rc) / 1000;
     for (double v : {V2, masaAire, masaCombustible, masaHumos, qCiclo, paso}) {
         if (!std::isfinite(v)) {
-            FalloAritmetico(e, dlg, kCausaMasas);
+            FalloAritmetico(e, msj, kCausaMasas);
             return;
         }
     }
     // V1 near the smallest double over a large Rc: V2 or the step is lost to zero.
     if (!(V2 > 0 && paso > 0)) {
-        FalloAritmetico(e, dlg, kCausaVolumenNulo);
+        FalloAritmetico(e, msj, kCausaVolumenNulo);
         return;
     }
     e.V2 = V2;
@@ -143,15 +131,15 @@ void MasasYVolumenes(Estado& e, Dialogos& dlg) {
     e.MasaHumos = masaHumos;
     e.Qciclo = qCiclo;
     e.PasoVolumen = paso;
-    CalcularMolesCiclo(e, dlg);
+    CalcularMolesCiclo(e, msj);
     e.GammaMedio = 0.0;
 }
 
 // State 1 in the record's end, before each of the two passes.
-void EstadoUno(Estado& e, Dialogos& dlg) {
+void EstadoUno(Estado& e, Mensajes& msj) {
     e.Presion = e.p1;
     e.Temperatura = e.T1;
-    PropiedadesAire(e, dlg);
+    PropiedadesAire(e, msj);
     e.PresionFinal = e.p1;
     e.VolumenFinal = e.V1;
     e.TemperaturaFinal = e.T1;
@@ -180,53 +168,60 @@ double CalorVolumenConstanteMixto(const Estado& e) {
 }
 
 // The first pass's compression, drawn nowhere, by the option selected.
-void CompresionSilenciosa(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
-    if (c.optGvariable.Value())
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, Dibujo::SinDibujar);
-    if (c.optGmedioCom.Value()) {
-        c.txtGammaMedioComp.SetText(TextoGeneral(e.GammaMedio, e.SeparadorDecimal));
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(),
-                   Dibujo::SinDibujar);
-    }
-    if (c.optPolitropicaCom.Value()) {
-        ValidarNumero(e, dlg, c.txt_nCom, e.nCompresion, " n ");
-        if (!e.ErrorCalculo && !(e.nCompresion > 1)) {
-            Fallo(e, dlg, kMensajeExponente);
-            c.txt_nCom.SetFocus();
+void CompresionSilenciosa(Estado& e, Mensajes& msj, const Entradas& x, Diagramas& g, ResultadoCiclo& r) {
+    switch (x.compresion) {
+        case Modelo::GammaVariable:
+            Compresion(e, msj, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, Dibujo::SinDibujar);
+            break;
+        case Modelo::GammaMedio:
+            r.gammaMedioCompresion = TextoGeneral(e.GammaMedio, e.SeparadorDecimal);
+            Compresion(e, msj, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(),
+                       Dibujo::SinDibujar);
+            break;
+        case Modelo::Politropico: {
+            const DefinicionEntrada& n = Entrada("n-compresion");
+            LeerEntrada(e, msj, n, x.nCompresion, e.nCompresion);
+            if (const std::string_view bajo = n.Bajo(e.nCompresion); !e.ErrorCalculo && !bajo.empty()) {
+                Fallo(e, msj, bajo, Campo(n));
+                msj.Foco(Campo(n));
+            }
+            Compresion(e, msj, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.nCompresion, Dibujo::SinDibujar);
+            break;
         }
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.nCompresion, Dibujo::SinDibujar);
     }
 }
 
 // The drawing pass's compression: drawing, and what it shows.
-void CompresionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
-    if (c.optGvariable.Value()) {
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, Dibujo::Dibujar);
-        e.GammaMedio = " N.D.";
-    }
-    if (c.optGmedioCom.Value()) {
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(),
-                   Dibujo::Dibujar);
-        c.txtGammaMedioComp.SetText(TextoGeneral(e.GammaMedio, e.SeparadorDecimal));
-        e.TextoExponente = " N.D.";
-        e.GammaMedioCompresion = e.GammaMedio.Numero();
-    }
-    if (c.optPolitropicaCom.Value()) {
-        ValidarNumero(e, dlg, c.txt_nCom, e.nCompresion, " n ");
-        e.TextoExponente = e.nCompresion;
-        Compresion(e, dlg, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.nCompresion, Dibujo::Dibujar);
-        e.GammaMedio = "N.D.";
+void CompresionDibujada(Estado& e, Mensajes& msj, const Entradas& x, Diagramas& g, ResultadoCiclo& r) {
+    switch (x.compresion) {
+        case Modelo::GammaVariable:
+            Compresion(e, msj, g, e.ModeloCompresion, e.V2, e.PasoVolumen, 1, Dibujo::Dibujar);
+            e.GammaMedio = " N.D.";
+            break;
+        case Modelo::GammaMedio:
+            Compresion(e, msj, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.GammaMedio.Numero(),
+                       Dibujo::Dibujar);
+            r.gammaMedioCompresion = TextoGeneral(e.GammaMedio, e.SeparadorDecimal);
+            e.TextoExponente = " N.D.";
+            e.GammaMedioCompresion = e.GammaMedio.Numero();
+            break;
+        case Modelo::Politropico:
+            LeerEntrada(e, msj, Entrada("n-compresion"), x.nCompresion, e.nCompresion);
+            e.TextoExponente = e.nCompresion;
+            Compresion(e, msj, g, e.ModeloCompresion, e.V2, e.PasoVolumen, e.nCompresion, Dibujo::Dibujar);
+            e.GammaMedio = "N.D.";
+            break;
     }
 }
 
 // The heat at constant volume by the cycle, in each pass. The first pass
 // tests Pmax against p2 and moves the focus; the drawing pass tests it
 // against the start of compression, p1, and does not.
-void CalorIsocoro(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Dibujo dibujar) {
+void CalorIsocoro(Estado& e, Mensajes& msj, const Entradas& x, Diagramas& g, Dibujo dibujar) {
     const bool primeraPasada = dibujar != Dibujo::Dibujar;
     if (e.TipoCiclo == kCicloOtto) {
         e.Q23 = e.Qciclo;
-        CombustionVolumenConstante(e, dlg, g, TipoCalorIsocoro::Dado, e.Pmax, dibujar);
+        CombustionVolumenConstante(e, msj, g, TipoCalorIsocoro::Dado, e.Pmax, dibujar);
         if (primeraPasada) {
             e.p3 = e.PresionFinal;
             e.T3 = e.TemperaturaFinal;
@@ -240,52 +235,53 @@ void CalorIsocoro(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Dib
         e.TipoFluido = Fluido::Aire;
         LeerEstado3(e);
     } else if (e.TipoCiclo == kCicloMixto) {
-        if (c.optProporcion.Value()) {
+        if (x.reparto == RepartoMixto::Proporcion) {
             e.Q23 = CalorVolumenConstanteMixto(e);
-            CombustionVolumenConstante(e, dlg, g, TipoCalorIsocoro::Dado, e.Pmax, dibujar);
-        }
-        if (c.optPmax.Value()) {
+            CombustionVolumenConstante(e, msj, g, TipoCalorIsocoro::Dado, e.Pmax, dibujar);
+        } else {
             const double presionPrueba = primeraPasada ? e.PresionFinal : e.PresionInicial;
             if (e.Pmax >= presionPrueba) {
-                CombustionVolumenConstante(e, dlg, g, TipoCalorIsocoro::HastaPmax, e.Pmax, dibujar);
+                CombustionVolumenConstante(e, msj, g, TipoCalorIsocoro::HastaPmax, e.Pmax, dibujar);
             } else {
-                Fallo(e, dlg, kMensajeImposible);
-                if (primeraPasada) (e.Rc <= kRcFocoPmax ? c.txtPMax : c.txtRc).SetFocus();
+                Fallo(e, msj, kMensajeImposible);
+                if (primeraPasada) msj.Foco(Campo(Entrada(e.Rc <= kRcFocoPmax ? "pmax" : "rc")));
             }
         }
         LeerEstado3(e);
     } else {
-        Fallo(e, dlg, kMensajeSinCiclo);
+        Fallo(e, msj, kMensajeSinCiclo);
     }
 }
 
 // The expansion down to V1, by the option selected.
-void ExpansionDibujada(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g) {
-    if (c.optGvariableExp.Value()) {
-        Expansion(e, dlg, g, Modelo::GammaVariable, e.V1, e.PasoVolumen, e.Gamma);
-        e.GammaMedio = " N.D.";
-    }
-    if (c.optGmedioExp.Value()) {
-        Expansion(e, dlg, g, Modelo::GammaMedio, e.V1, e.PasoVolumen, e.GammaMedio.Numero());
-        c.txtGMedioExp.SetText(TextoGeneral(e.GammaMedio, e.SeparadorDecimal));
-        e.TextoExponente = " N.D.";
-        e.GammaMedioExpansion = e.GammaMedio.Numero();
-    }
-    if (c.optPolitropica.Value()) {
-        Expansion(e, dlg, g, Modelo::Politropico, e.V1, e.PasoVolumen, e.nExpansion);
-        e.GammaMedio = " N.D.";
-        e.TextoExponente = e.nExpansion;
+void ExpansionDibujada(Estado& e, Mensajes& msj, const Entradas& x, Diagramas& g, ResultadoCiclo& r) {
+    switch (x.expansion) {
+        case Modelo::GammaVariable:
+            Expansion(e, msj, g, Modelo::GammaVariable, e.V1, e.PasoVolumen, e.Gamma);
+            e.GammaMedio = " N.D.";
+            break;
+        case Modelo::GammaMedio:
+            Expansion(e, msj, g, Modelo::GammaMedio, e.V1, e.PasoVolumen, e.GammaMedio.Numero());
+            r.gammaMedioExpansion = TextoGeneral(e.GammaMedio, e.SeparadorDecimal);
+            e.TextoExponente = " N.D.";
+            e.GammaMedioExpansion = e.GammaMedio.Numero();
+            break;
+        case Modelo::Politropico:
+            Expansion(e, msj, g, Modelo::Politropico, e.V1, e.PasoVolumen, e.nExpansion);
+            e.GammaMedio = " N.D.";
+            e.TextoExponente = e.nExpansion;
+            break;
     }
 }
 
 // The closing sums: cycle work with the rounded W12, consumption, efficiency
 // on the heat the fuel would give if all burnt.
-bool CerrarCiclo(Estado& e, Dialogos& dlg) {
+bool CerrarCiclo(Estado& e, Mensajes& msj) {
     e.Wciclo = e.W34acumulado + e.W45acumulado + e.W12;
     const double trabajoEspecifico = e.Wciclo / e.MasaCombustible;
     const double rendimiento = e.Wciclo / (e.HCI * e.MasaCombustible);
     if (!std::isfinite(trabajoEspecifico) || trabajoEspecifico == 0 || !std::isfinite(rendimiento)) {
-        FalloAritmetico(e, dlg, kCausaCierre);
+        FalloAritmetico(e, msj, kCausaCierre);
         return false;
     }
     e.ConsumoKWh = 3.6e9 / trabajoEspecifico;
@@ -326,41 +322,37 @@ TextosResultados TextosDeResultados(const Estado& e) {
     return t;
 }
 
-void FormCiclo_Load(Estado& e, ControlesCiclo& c) {
+void FormCiclo_Load(Estado& e, Entradas& x) {
     e.ModeloCompresion = Modelo::GammaMedio;
     e.ModeloExpansion = Modelo::GammaMedio;
-    c.txtP1.SetText(TextoGeneral(e.Pambiente, e.SeparadorDecimal));
-    c.txtT1.SetText(TextoGeneral(e.Tambiente, e.SeparadorDecimal));
+    x.p1 = TextoGeneral(e.Pambiente, e.SeparadorDecimal);
+    x.t1 = TextoGeneral(e.Tambiente, e.SeparadorDecimal);
 }
 
 void FormCiclo_Activate(Estado& e) {
     e.ErrorCalculo = Falso;
 }
 
-void imgOtto_Click(Estado& e, FormularioCiclo& f) {
-    e.TipoCiclo = kCicloOtto;
-    e.Pmax = kPmaxOtto;
-    e.OpcionProporcion = Falso;
-    f.MostrarMarcos(kMarcosOttoDiesel);
-    f.ResaltarCiclo({.otto = true, .diesel = false, .mixto = false});
-}
-
-void imgDiesel_Click(Estado& e, FormularioCiclo& f) {
-    e.TipoCiclo = kCicloDiesel;
-    e.OpcionProporcion = Falso;
-    f.MostrarMarcos(kMarcosOttoDiesel);
-    f.ResaltarCiclo({.otto = false, .diesel = true, .mixto = false});
-}
-
-void imgMixto_Click(Estado& e, FormularioCiclo& f) {
-    e.TipoCiclo = kCicloMixto;
-    f.MostrarMarcos({.compresion = true,
-                     .expansion = true,
-                     .aire = true,
-                     .opcion = true,
-                     .datos = true,
-                     .seleccionar = false});
-    f.ResaltarCiclo({.otto = false, .diesel = false, .mixto = true});
+VistaCiclo ElegirCiclo(Estado& e, TipoCiclo ciclo) {
+    e.TipoCiclo = NombreCiclo(ciclo);
+    switch (ciclo) {
+        case TipoCiclo::Otto:
+            e.Pmax = kPmaxOtto;
+            e.OpcionProporcion = Falso;
+            return {kMarcosOttoDiesel, {.otto = true, .diesel = false, .mixto = false}};
+        case TipoCiclo::Diesel:
+            e.OpcionProporcion = Falso;
+            return {kMarcosOttoDiesel, {.otto = false, .diesel = true, .mixto = false}};
+        case TipoCiclo::Mixto:
+            break;
+    }
+    return {{.compresion = true,
+             .expansion = true,
+             .aire = true,
+             .opcion = true,
+             .datos = true,
+             .seleccionar = false},
+            {.otto = false, .diesel = false, .mixto = true}};
 }
 
 void ElegirModeloCompresion(Estado& e, Modelo modelo) {
@@ -376,22 +368,25 @@ void optPmax_Click(Estado& e) {
     e.OpcionProporcion = Falso;
 }
 
-void txtPropVcte_Change(Estado& e, Dialogos& dlg, ControlesCiclo& c) {
-    ValidarNumero(e, dlg, c.txtPropVcte, e.PropVcte, "%");
-    if (e.PropVcte > 100) {
-        dlg.MsgBox(kMensajePropVcte);
+std::string txtPropVcte_Change(Estado& e, Mensajes& msj, Entradas& x) {
+    const DefinicionEntrada& proporcion = Entrada("proporcion-vcte");
+    LeerEntrada(e, msj, proporcion, x.proporcionVcte, e.PropVcte);
+    if (const std::string_view alto = proporcion.Alto(e.PropVcte); !alto.empty()) {
+        msj.MsgBox(alto, Campo(proporcion));
         // Setting the box runs this event again from the start.
-        c.txtPropVcte.SetText("100");
-        txtPropVcte_Change(e, dlg, c);
-        c.txtPropVcte.SetFocus();
+        x.proporcionVcte = TextoGeneral(proporcion.limites.maximo, e.SeparadorDecimal);
+        txtPropVcte_Change(e, msj, x);
+        msj.Foco(Campo(proporcion));
     }
     e.PropPcte = 100 - e.PropVcte;
-    c.txtPropPcte.SetText(TextoGeneral(e.PropPcte, e.SeparadorDecimal));
+    return TextoGeneral(e.PropPcte, e.SeparadorDecimal);
 }
 
-void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, VentanaPrincipal& v) {
+ResultadoCiclo CalcularCiclo(Estado& e, Mensajes& msj, const Entradas& x, Diagramas& g,
+                             std::string_view tipoCombustible) {
+    ResultadoCiclo r;
     // Preparation.
-    v.Ocultabotones(kAlCalcular);
+    r.botones.push_back(kAlCalcular);
     e.ErrorCalculo = Falso;
     e.PresionMaxima = 0;
     e.TemperaturaMaxima = 0;
@@ -401,26 +396,26 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     e.W12acumulado = 0;
     e.W45acumulado = 0;
     e.pasadas = {};
-    LeerEntradas(e, dlg, c);
-    ComprobarEntradas(e, dlg, c);
+    LeerEntradas(e, msj, x);
+    ComprobarEntradas(e, msj, x);
     // A refused text does not stop the steps up to state 1: the first test of
     // the flag comes after them (the maxima take p1 and T1 all the same).
-    MasasYVolumenes(e, dlg);
-    EstadoUno(e, dlg);
+    MasasYVolumenes(e, msj);
+    EstadoUno(e, msj);
     ActualizarMaximos(e);
-    if (e.ErrorCalculo) return;
+    if (e.ErrorCalculo) return r;
 
     // First pass: no drawing; finds the maxima of states 1 to 4.
-    CompresionSilenciosa(e, dlg, c, g);
+    CompresionSilenciosa(e, msj, x, g, r);
     ActualizarMaximos(e);
     LeerEstado2(e);
-    if (e.ErrorCalculo) return;
-    CalorIsocoro(e, dlg, c, g, Dibujo::SinDibujar);
+    if (e.ErrorCalculo) return r;
+    CalorIsocoro(e, msj, x, g, Dibujo::SinDibujar);
     ActualizarMaximos(e);
-    if (e.ErrorCalculo) return;
-    if (e.Q23 < e.Qciclo) CombustionPresionConstante(e, dlg, g, e.V1, e.Qciclo - e.Q23, Dibujo::SinDibujar);
+    if (e.ErrorCalculo) return r;
+    if (e.Q23 < e.Qciclo) CombustionPresionConstante(e, msj, g, e.V1, e.Qciclo - e.Q23, Dibujo::SinDibujar);
     ActualizarMaximos(e);
-    if (e.ErrorCalculo) return;
+    if (e.ErrorCalculo) return r;
 
     // The diagrams, scaled from the maxima.
     PrepararDiagramas(g);
@@ -430,73 +425,77 @@ void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, Ve
     e.W45acumulado = 0;
     e.W34acumulado = 0;
     if (!EscalarDiagramas(e, g)) {
-        FalloAritmetico(e, dlg, kCausaDiagramas);
-        return;
+        FalloAritmetico(e, msj, kCausaDiagramas);
+        return r;
     }
 
     // Second pass: the same, drawing; these results stand.
-    EstadoUno(e, dlg);
+    EstadoUno(e, msj);
     PonerColorDiagramas(g, e.ColorCompresion);
     e.TipoFluido = Fluido::Aire;
-    PropiedadesInicio(e, dlg);
+    PropiedadesInicio(e, msj);
     e.TipoFluido = Fluido::Aire;
-    CompresionDibujada(e, dlg, c, g);
+    CompresionDibujada(e, msj, x, g, r);
     LeerEstado2(e);
     e.W12 = Round(e.W12acumulado, 1);
     PonerColorDiagramas(g, e.ColorCombustionV);
-    CalorIsocoro(e, dlg, c, g, Dibujo::Dibujar);
+    CalorIsocoro(e, msj, x, g, Dibujo::Dibujar);
     PonerColorDiagramas(g, e.ColorCombustionP);
-    if (e.ErrorCalculo) return;
+    if (e.ErrorCalculo) return r;
     if (e.Q23 < e.Qciclo)
-        CombustionPresionConstante(e, dlg, g, e.V1, e.Qciclo - e.Q23, Dibujo::Dibujar);
+        CombustionPresionConstante(e, msj, g, e.V1, e.Qciclo - e.Q23, Dibujo::Dibujar);
     else
         e.Qtransformacion = 0;
     LeerEstado4(e);
     e.W34 = Round(e.W34acumulado, 1);
-    if (e.ErrorCalculo) return;
+    if (e.ErrorCalculo) return r;
     PonerColorDiagramas(g, e.ColorExpansion);
     e.TipoFluido = Fluido::Humos;
-    ExpansionDibujada(e, dlg, c, g);
+    ExpansionDibujada(e, msj, x, g, r);
     LeerEstado5(e);
     e.W45 = Round(e.W45acumulado, 1);
     if (e.ErrorCalculo) {
-        dlg.MsgBox(kMensajeErrorCalculo);
-        v.Ocultabotones(kAlFallarCalculo);
+        msj.MsgBox(kMensajeErrorCalculo);
+        r.botones.push_back(kAlFallarCalculo);
         // pctHS keeps its old picture.
         g.pctTV.Cls();
         g.pctPV.Cls();
         g.pctTS.Cls();
-        return;
+        return r;
     }
     PonerColorDiagramas(g, e.ColorEscape);
-    TrazarEscape(e, dlg, g);
+    TrazarEscape(e, msj, g);
     PonerColorDiagramas(g, e.ColorExpansion);
 
     // Closing figures, the report, the labels, the point numbers.
-    if (!CerrarCiclo(e, dlg)) return;
-    v.PonerInforme(InformeTexto(e, v.TipoCombustible()));
-    v.MostrarResultados(TextosDeResultados(e));
+    if (!CerrarCiclo(e, msj)) return r;
+    r.informe = InformeTexto(e, tipoCombustible);
+    r.textos = TextosDeResultados(e);
     NumerarPuntos(e, g);
-    if (c.chkOcultar.Value()) c.ventana.Hide();
+    r.bien = true;
+    return r;
 }
 
-double Potencia(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm) {
+double Potencia(Estado& e, Mensajes& msj, double Wciclo, std::string_view textoRpm) {
     double rpm = 0;
-    ValidarNumero(e, dlg, txtRpm, rpm, " rpm ");
+    LeerEntrada(e, msj, Entrada("rpm"), textoRpm, rpm);
     // One power stroke in two revolutions.
     const double potencia = Wciclo * rpm * 0.5 / 60;
     if (std::isfinite(potencia)) return potencia;
-    FalloAritmetico(e, dlg, kCausaPotencia);
+    FalloAritmetico(e, msj, kCausaPotencia);
     return std::nan("");
 }
 
-void txtRpm_Change(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm, CajaTexto& txtPotencia,
-                   CajaTexto& txtPotenciaCV) {
-    if (txtRpm.Text().empty()) return;
-    const double potencia = Potencia(e, dlg, Wciclo, txtRpm);
-    if (!std::isfinite(potencia)) return;
-    txtPotencia.SetText(Format(Round(potencia, 1), kMascaraPotencia, e.SeparadorDecimal));
-    txtPotenciaCV.SetText(Format(Round(potencia / kVatiosCV, 1), kMascaraPotencia, e.SeparadorDecimal));
+std::optional<TextosPotencia> txtRpm_Change(Estado& e, Mensajes& msj, double Wciclo, std::string_view rpm) {
+    if (rpm.empty()) return std::nullopt;
+    const double potencia = Potencia(e, msj, Wciclo, rpm);
+    if (!std::isfinite(potencia)) return std::nullopt;
+    return TextosDePotencia(e, potencia);
+}
+
+TextosPotencia TextosDePotencia(const Estado& e, double potencia) {
+    return {Format(Round(potencia, 1), kMascaraPotencia, e.SeparadorDecimal),
+            Format(Round(potencia / kVatiosCV, 1), kMascaraPotencia, e.SeparadorDecimal)};
 }
 
 }  // namespace vanta

@@ -2,40 +2,18 @@
 // which solves Otto, Diesel and Mixto from end to end.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "core/services/Puertos.h"
+#include "core/inputs/Entradas.h"
+#include "core/services/Mensajes.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
 #include "core/workflow/Flujo.h"
 
 namespace vanta {
-
-// What the cycle window "Ciclo" gives the logic: its boxes and options.
-struct ControlesCiclo {
-    CajaTexto& txtCilindrada;
-    CajaTexto& txtRc;
-    CajaTexto& txtP1;
-    CajaTexto& txtT1;
-    CajaTexto& txtPropVcte;
-    CajaTexto& txtPMax;
-    CajaTexto& txtPropPcte;
-    CajaTexto& txt_nExp;
-    CajaTexto& txt_nCom;
-    CajaTexto& txtGammaMedioComp;  // shows the mean exponent found for 1-2
-    CajaTexto& txtGMedioExp;       // and for 4-5
-    Interruptor& optProporcion;
-    Interruptor& optPmax;
-    Interruptor& optGvariable;
-    Interruptor& optGmedioCom;
-    Interruptor& optPolitropicaCom;
-    Interruptor& optGvariableExp;
-    Interruptor& optGmedioExp;
-    Interruptor& optPolitropica;
-    Interruptor& chkOcultar;
-    Ventana& ventana;
-};
 
 // The texts of the result labels of the main window, in the order they are
 // written at the end of a calculation.
@@ -46,46 +24,10 @@ struct TextosResultados {
     std::string txtConsumoMJ, txtConsumoKwh, txtCilindrada;
 };
 
-// What CalcularCiclo reaches in the main window.
-class VentanaPrincipal {
-public:
-    virtual ~VentanaPrincipal() = default;
-    virtual void Ocultabotones(const Botones& b) = 0;
-    // How a calculation ended (the workflow's stage), after it.
-    virtual void CalculoTerminado(bool bien) = 0;
-    // The text of the fuel list of the fuel window (the report's TipoCombustible).
-    virtual std::string TipoCombustible() const = 0;
-    // The report's working buffer: the text report of the last success.
-    virtual void PonerInforme(const std::string& texto) = 0;
-    virtual void MostrarResultados(const TextosResultados& textos) = 0;
-};
-
-// A main window with no screen: keeps what it is given, for the command line
-// and the tests.
-class VentanaPrincipalSimple : public VentanaPrincipal {
-public:
-    std::string tipoCombustible = "Gasolina";
-    std::string informe;
-    TextosResultados resultados;
-    Botones botones{.comburente = true,
-                    .combustible = false,
-                    .combustion = false,
-                    .ciclo = false,
-                    .resultados = false,
-                    .informe = false};
-    int llamadasOcultabotones = 0;
-
-    void Ocultabotones(const Botones& b) override {
-        botones = b;
-        ++llamadasOcultabotones;
-    }
-    void CalculoTerminado(bool) override {}
-    std::string TipoCombustible() const override { return tipoCombustible; }
-    void PonerInforme(const std::string& texto) override { informe = texto; }
-    void MostrarResultados(const TextosResultados& textos) override { resultados = textos; }
-};
-
-// The frames of the cycle window that MostrarMarcos shows or hides.
+// The frames of the cycle window that choosing a cycle shows or hides: those
+// of compression, expansion, the air, the mixed cycle's options and the
+// engine data, and the picture shown until a cycle is chosen. CALCULAR is
+// shown with the frame of compression.
 struct Marcos {
     bool compresion, expansion, aire, opcion, datos, seleccionar;
 };
@@ -95,42 +37,52 @@ struct CiclosResaltados {
     bool otto, diesel, mixto;
 };
 
-// The pictures the cycle window shows (variant 1 idle, variant 2 chosen) and
-// the visibility of its frames: what the events change beside the state.
-class FormularioCiclo {
-public:
-    virtual ~FormularioCiclo() = default;
-    // Sets the visibility of fraCompresion, fraExpansion, fraAire, fraOpcion,
-    // fraDTecnicos and imgSeleccinar, and of cmdCal as that of fraCompresion.
-    virtual void MostrarMarcos(const Marcos& m) = 0;
-    // Highlights the frame of the chosen cycle and shows its chosen picture.
-    virtual void ResaltarCiclo(const CiclosResaltados& c) = 0;
+// What choosing a cycle changes on its window.
+struct VistaCiclo {
+    Marcos marcos;
+    CiclosResaltados resaltados;
 };
 
 // ---- Events of the cycle window ----------------------------------------------
 
-// Load: the models 1 and the boxes of state 1 filled from the ambient.
-void FormCiclo_Load(Estado& e, ControlesCiclo& c);
+// Load: the models 1, and the boxes of state 1 filled with the ambient.
+void FormCiclo_Load(Estado& e, Entradas& x);
 // Activation clears the flag of failure.
 void FormCiclo_Activate(Estado& e);
-void imgOtto_Click(Estado& e, FormularioCiclo& f);
-void imgDiesel_Click(Estado& e, FormularioCiclo& f);
-void imgMixto_Click(Estado& e, FormularioCiclo& f);
+// A cycle's picture clicked.
+VistaCiclo ElegirCiclo(Estado& e, TipoCiclo ciclo);
 // The models of compression and expansion: 1 mean exponent, 2 polytropic,
 // 3 variable exponent.
 void ElegirModeloCompresion(Estado& e, Modelo modelo);
 void ElegirModeloExpansion(Estado& e, Modelo modelo);
 void optProporcion_Click(Estado& e);
 void optPmax_Click(Estado& e);
-// The share of heat at constant volume changed: checks it and fills the share
-// at constant pressure.
-void txtPropVcte_Change(Estado& e, Dialogos& dlg, ControlesCiclo& c);
+// The share of heat at constant volume changed: checks it (a share above 100
+// becomes "100" in the inputs) and gives the text of the share at constant
+// pressure.
+std::string txtPropVcte_Change(Estado& e, Mensajes& msj, Entradas& x);
 
 // ---- The calculation -----------------------------------------------------------
 
-// Solves the cycle: a silent pass for the maxima, then the drawing pass that
-// keeps the results; the closing figures, the text report and the labels.
-void CalcularCiclo(Estado& e, Dialogos& dlg, ControlesCiclo& c, Diagramas& g, VentanaPrincipal& v);
+// How CALCULAR ended, and what it leaves on the windows.
+struct ResultadoCiclo {
+    bool bien = false;
+    // The workflow's calls, in order: on entry, and when it fails after the
+    // processes (the diagrams then cleared).
+    std::vector<Botones> botones;
+    // The mean exponents found, as the cycle window's boxes show them; empty
+    // where the calculation did not write them.
+    std::optional<std::string> gammaMedioCompresion, gammaMedioExpansion;
+    // After a success: the text report and the labels.
+    std::string informe;
+    TextosResultados textos;
+};
+
+// Solves the cycle with the cycle window's inputs: a silent pass for the
+// maxima, then the drawing pass that keeps the results; the closing figures,
+// the text report (tipoCombustible, the text of the fuel list) and the labels.
+ResultadoCiclo CalcularCiclo(Estado& e, Mensajes& msj, const Entradas& x, Diagramas& g,
+                             std::string_view tipoCombustible);
 
 // The texts of the result labels from the state, with their masks.
 TextosResultados TextosDeResultados(const Estado& e);
@@ -138,16 +90,21 @@ TextosResultados TextosDeResultados(const Estado& e);
 // W of one CV.
 inline constexpr double kVatiosCV = 735.49875;
 
-// The power in W of the cycle work given at the speed in txtRpm (read with
+// The power in W of the cycle work at the speed typed (read with
 // ValidarNumero, which tells a text that is not a number and leaves the speed
 // at 0): one power stroke in two revolutions. NaN, with the calculation
 // stopped, when it leaves the doubles.
-double Potencia(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm);
+double Potencia(Estado& e, Mensajes& msj, double Wciclo, std::string_view rpm);
 
-// The power boxes, when the text of txtRpm changes, from the cycle work of
+// The power boxes, in W and in CV.
+struct TextosPotencia {
+    std::string potencia, potenciaCV;
+};
+TextosPotencia TextosDePotencia(const Estado& e, double potencia);
+// The power boxes when the text of the speed changes, from the cycle work of
 // the figures on screen (Wciclo as the calculation that showed them closed
 // it: a later calculation that failed leaves other work in the state).
-void txtRpm_Change(Estado& e, Dialogos& dlg, double Wciclo, CajaTexto& txtRpm, CajaTexto& txtPotencia,
-                   CajaTexto& txtPotenciaCV);
+// Nothing for an empty text, or when the speed was refused.
+std::optional<TextosPotencia> txtRpm_Change(Estado& e, Mensajes& msj, double Wciclo, std::string_view rpm);
 
 }  // namespace vanta

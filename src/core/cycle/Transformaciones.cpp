@@ -87,41 +87,41 @@ void ExponentePaso(Estado& e, Modelo modelo, double exponente) {
 }
 
 // The exponent at the start of a stroke, of air or of the gases.
-void ExponenteInicial(Estado& e, Dialogos& dlg, Modelo modelo, double volumenFinal, double exponente,
+void ExponenteInicial(Estado& e, Mensajes& msj, Modelo modelo, double volumenFinal, double exponente,
                       Fluido fluido) {
     if (modelo == Modelo::GammaMedio) {
-        BuscarGammaMedio(e, dlg, e.PresionInicial, e.VolumenInicial, volumenFinal, e.TemperaturaInicial,
+        BuscarGammaMedio(e, msj, e.PresionInicial, e.VolumenInicial, volumenFinal, e.TemperaturaInicial,
                          fluido);
         e.Gamma = e.GammaMedio.Numero();
     } else if (modelo == Modelo::Politropico) {
         e.GammaInicial = " N.D.";
         e.Gamma = exponente;
     } else if (modelo != Modelo::GammaVariable) {
-        dlg.MsgBox(kMensajeModelo);
+        msj.MsgBox(kMensajeModelo);
     }
 }
 
-void PonerInicioDesdeFinal(Estado& e, Dialogos& dlg) {
-    PonerEstadoInicial(e, dlg, e.PresionFinal, e.VolumenFinal, e.TemperaturaFinal, e.EntalpiaFinal,
+void PonerInicioDesdeFinal(Estado& e, Mensajes& msj) {
+    PonerEstadoInicial(e, msj, e.PresionFinal, e.VolumenFinal, e.TemperaturaFinal, e.EntalpiaFinal,
                        e.EntropiaFinal);
 }
 
 // A step below half the spacing of the doubles at the volume (a compression
 // ratio a hair above 1, a volume near the smallest double) leaves the volume
 // where it was, and the walk would never end.
-bool AvanzaLaCarrera(Estado& e, Dialogos& dlg) {
+bool AvanzaLaCarrera(Estado& e, Mensajes& msj) {
     if (e.VolumenProporcional != e.Volumen) return true;
-    FalloAritmetico(e, dlg, kCausaPasoNulo);
+    FalloAritmetico(e, msj, kCausaPasoNulo);
     return false;
 }
 
 // One polytropic step from the record's current state to V, with its work.
 // False, with the calculation stopped, when a figure leaves the doubles.
-bool PasoPolitropico(Estado& e, Dialogos& dlg, double V, double& acumulado) {
+bool PasoPolitropico(Estado& e, Mensajes& msj, double V, double& acumulado) {
     if (!CalcularTemperaturaPolitropica(e, e.Temperatura, e.Volumen, V, e.Gamma) ||
         !CalcularPresionPolitropica(e, e.Presion, e.Volumen, V, e.Gamma) ||
         !std::isfinite(acumulado + e.TrabajoTransformacion)) {
-        FalloAritmetico(e, dlg, kCausaPolitropicaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaPolitropicaFueraDeRango);
         return false;
     }
     acumulado += e.TrabajoTransformacion;
@@ -131,18 +131,18 @@ bool PasoPolitropico(Estado& e, Dialogos& dlg, double V, double& acumulado) {
 
 // ---- Heat at constant volume ----------------------------------------------------
 
-void TrazarVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, Dibujo dibujar) {
+void TrazarVolumenConstante(Estado& e, Mensajes& msj, Diagramas& g, Dibujo dibujar) {
     e.Presion = e.PresionInicial;
     e.Temperatura = e.TemperaturaInicial;
     const double denominador = (e.PresionMolQuemado - e.PresionMolFresco) * e.MolesHumos;
     if (denominador == 0) {
-        FalloAritmetico(e, dlg, kCausaFraccionQuemada);
+        FalloAritmetico(e, msj, kCausaFraccionQuemada);
         return;
     }
     auto paso = [&] {
         e.Presion = e.Temperatura * e.PresionInicial / e.TemperaturaInicial;
         e.FraccionQuemada = (e.Presion - e.MolesHumos * e.PresionMolFresco) / denominador;
-        PropiedadesAireHumosFraccion(e, dlg, e.FraccionQuemada);
+        PropiedadesAireHumosFraccion(e, msj, e.FraccionQuemada);
         if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
     };
     while (e.TemperaturaIsocora - 2 > e.Temperatura && !e.ErrorCalculo) {
@@ -160,11 +160,11 @@ void TrazarVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, Dibujo dibuj
 }
 
 // Up to Pmax: bisection on the burnt moles.
-void BuscarGradoCombustionPmax(Estado& e, Dialogos& dlg) {
+void BuscarGradoCombustionPmax(Estado& e, Mensajes& msj) {
     for (int pasos = 0;; ++pasos) {
         if (e.ErrorCalculo) return;
         if (pasos > kPasosMaximosPmax) {
-            dlg.MsgBox(kMensajePmaxNoConverge);
+            msj.MsgBox(kMensajePmaxNoConverge);
             e.ErrorCalculo = Verdadero;
             return;
         }
@@ -188,47 +188,47 @@ void BuscarGradoCombustionPmax(Estado& e, Dialogos& dlg) {
 
 // A figure of the combustion that leaves the doubles (a charge of a few
 // molecules, a heat of zero) stops it before it is stored.
-bool Finito(Estado& e, Dialogos& dlg, double v) {
+bool Finito(Estado& e, Mensajes& msj, double v) {
     if (std::isfinite(v)) return true;
-    FalloAritmetico(e, dlg, kCausaCombustionFueraDeRango);
+    FalloAritmetico(e, msj, kCausaCombustionFueraDeRango);
     return false;
 }
 
-void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsocoro tipo, Dibujo dibujar) {
+void CalorVolumenConstante(Estado& e, Mensajes& msj, Diagramas& g, TipoCalorIsocoro tipo, Dibujo dibujar) {
     const double presionMolFresco = e.PresionInicial / e.MolesHumos, calorPorMol = e.Qciclo / e.MolesHumos;
-    if (!Finito(e, dlg, presionMolFresco) || !Finito(e, dlg, calorPorMol)) return;
+    if (!Finito(e, msj, presionMolFresco) || !Finito(e, msj, calorPorMol)) return;
     e.PresionMolFresco = presionMolFresco;
     e.CalorPorMol = calorPorMol;
     e.TemperaturaIsocoraB = e.Temperatura;
     e.TemperaturaIsocoraA = e.Temperatura - 1;
-    PropiedadesHumos(e, dlg);
+    PropiedadesHumos(e, msj);
     // Fixed point on T = heat per mole / cv + T start, cv at the running mean.
     for (int pasos = 0; std::fabs(e.TemperaturaIsocoraA - e.TemperaturaIsocoraB) > 0.001; ++pasos) {
         if (e.CvHumos == 0) {
-            FalloAritmetico(e, dlg, kCausaCvNulo);
+            FalloAritmetico(e, msj, kCausaCvNulo);
             return;
         }
         if (pasos > kPasosMaximosIsocora || !std::isfinite(e.TemperaturaIsocoraA)) {
-            if (!e.ErrorCalculo) dlg.MsgBox(kMensajeIsocoraNoConverge);
+            if (!e.ErrorCalculo) msj.MsgBox(kMensajeIsocoraNoConverge);
             e.ErrorCalculo = Verdadero;
             return;
         }
         e.TemperaturaIsocoraA = e.CalorPorMol / e.CvHumos + e.TemperaturaInicial;
         e.Temperatura = (e.TemperaturaIsocoraA + e.TemperaturaIsocoraB) / 2;
-        PropiedadesHumos(e, dlg);
+        PropiedadesHumos(e, msj);
         e.TemperaturaIsocoraB = e.CalorPorMol / e.CvHumos + e.TemperaturaInicial;
         e.Temperatura = (e.TemperaturaIsocoraA + e.TemperaturaIsocoraB) / 2;
-        PropiedadesHumos(e, dlg);
+        PropiedadesHumos(e, msj);
     }
     e.TemperaturaQuemado = e.Temperatura;
     const double presionMolQuemado = e.TemperaturaQuemado * kR / e.VolumenInicial;
-    if (!Finito(e, dlg, presionMolQuemado)) return;
+    if (!Finito(e, msj, presionMolQuemado)) return;
     e.PresionMolQuemado = presionMolQuemado;
     if (tipo == TipoCalorIsocoro::Dado) {
         const double molesQuemados = e.Q23 / e.CalorPorMol;
         const double presionIsocora =
             (e.MolesHumos - molesQuemados) * e.PresionMolFresco + molesQuemados * e.PresionMolQuemado;
-        if (!Finito(e, dlg, molesQuemados) || !Finito(e, dlg, presionIsocora)) return;
+        if (!Finito(e, msj, molesQuemados) || !Finito(e, msj, presionIsocora)) return;
         e.MolesQuemados = molesQuemados;
         e.PresionIsocora = presionIsocora;
         e.Presion = e.PresionIsocora;
@@ -236,7 +236,7 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsoc
     }
     if (tipo == TipoCalorIsocoro::HastaPmax) {
         const double presion = e.PresionMolQuemado * e.MolesHumos;
-        if (!Finito(e, dlg, presion)) return;
+        if (!Finito(e, msj, presion)) return;
         e.MolesSuperior = e.MolesHumos;
         e.MolesInferior = 0;
         e.Presion = presion;
@@ -246,15 +246,15 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsoc
             e.Q23 = e.Qciclo;
             e.TipoFluido = Fluido::Humos;
         } else {
-            BuscarGradoCombustionPmax(e, dlg);
+            BuscarGradoCombustionPmax(e, msj);
         }
     }
     // The temperature of the whole gas by the ideal-gas rule at constant volume.
     const double temperaturaIsocora = e.PresionIsocora * e.TemperaturaInicial / e.PresionInicial;
-    if (!Finito(e, dlg, temperaturaIsocora)) return;
+    if (!Finito(e, msj, temperaturaIsocora)) return;
     e.TemperaturaIsocora = temperaturaIsocora;
     e.GammaFinal = " ND";
-    PonerEstadoFinal(e, dlg, e.Q23, 0, e.PresionIsocora, e.VolumenInicial, e.TemperaturaIsocora);
+    PonerEstadoFinal(e, msj, e.Q23, 0, e.PresionIsocora, e.VolumenInicial, e.TemperaturaIsocora);
     if (dibujar == Dibujo::Dibujar) LineaVolumen(g, e.VolumenInicial, e.TemperaturaFinal, e.PresionFinal);
 }
 
@@ -262,10 +262,10 @@ void CalorVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsoc
 
 // One trial of the search at one level: the temperature between the
 // bounds and the heat it takes at constant pressure.
-void ProbarTemperaturaIsobara(Estado& e, Dialogos& dlg, double calor) {
+void ProbarTemperaturaIsobara(Estado& e, Mensajes& msj, double calor) {
     e.Temperatura = (e.TemperaturaInferior + e.TemperaturaSuperior) / 2;
     e.TemperaturaFinal = e.Temperatura;
-    PropiedadesFin(e, dlg, calor, e.W34acumulado);
+    PropiedadesFin(e, msj, calor, e.W34acumulado);
     e.hBusqueda = e.hFinal;
     e.SaltoEntalpia = e.hFinal - e.hInicioBusqueda;
     e.CalorIsobaro = e.MasaHumos * e.SaltoEntalpia / e.MasaMolecularHumos;
@@ -274,7 +274,7 @@ void ProbarTemperaturaIsobara(Estado& e, Dialogos& dlg, double calor) {
 
 // What every level of the search does as it unwinds, with the deepest state:
 // the volume and work of the isobar, and its end.
-void ColaIsobara(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor, Dibujo dibujar,
+void ColaIsobara(Estado& e, Mensajes& msj, Diagramas& g, double volumenLimite, double calor, Dibujo dibujar,
                  bool& volumenAvisado) {
     VolumenIsobarico(e, e.VolumenInicial, e.TemperaturaInicial, e.Temperatura);
     e.VolumenIsobaro = e.VolumenProporcional;
@@ -283,11 +283,11 @@ void ColaIsobara(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, d
     e.GammaFinal = "ND";
     if (e.VolumenIsobaro > volumenLimite) {
         // Told once, not once a level.
-        if (!volumenAvisado) dlg.MsgBox(kMensajeVolumenExcesivo);
+        if (!volumenAvisado) msj.MsgBox(kMensajeVolumenExcesivo);
         volumenAvisado = true;
         e.ErrorCalculo = Verdadero;
     }
-    PonerEstadoFinal(e, dlg, calor, e.W34acumulado, e.PresionInicial, e.VolumenIsobaro, e.Temperatura);
+    PonerEstadoFinal(e, msj, calor, e.W34acumulado, e.PresionInicial, e.VolumenIsobaro, e.Temperatura);
     if (dibujar == Dibujo::Dibujar) LineaVolumen(g, e.VolumenFinal, e.TemperaturaFinal, e.PresionFinal);
 }
 
@@ -297,18 +297,18 @@ void ColaIsobara(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, d
 // call returns, and every call ends with the tail. Here the descent is a loop
 // that remembers which levels raised the lower bound, and the unwinding
 // replays the second calls and the tails in the same order.
-void CalorPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor,
+void CalorPresionConstante(Estado& e, Mensajes& msj, Diagramas& g, double volumenLimite, double calor,
                            Dibujo dibujar) {
     std::vector<bool> subioInferior;
     bool volumenAvisado = false;
     for (;;) {
-        ProbarTemperaturaIsobara(e, dlg, calor);
+        ProbarTemperaturaIsobara(e, msj, calor);
         if (calor == e.CalorIsobaro || !(calor < e.CalorIsobaro || calor > e.CalorIsobaro)) break;
         if (static_cast<int>(subioInferior.size()) >= kProfundidadMaximaIsobara) {
             // The bounds no longer part: the heat cannot be reached below 5000 K,
             // or the gases' enthalpy has no temperature for it.
             const bool techo = e.TemperaturaSuperior == kTemperaturaSuperiorIsobara;
-            if (!e.ErrorCalculo) dlg.MsgBox(techo ? kMensajeTemperaturaIsobara : kMensajeIsobaraNoConverge);
+            if (!e.ErrorCalculo) msj.MsgBox(techo ? kMensajeTemperaturaIsobara : kMensajeIsobaraNoConverge);
             e.ErrorCalculo = Verdadero;
             return;
         }
@@ -319,24 +319,24 @@ void CalorPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volume
             e.TemperaturaSuperior = e.Temperatura;
         subioInferior.push_back(sube);
     }
-    ColaIsobara(e, dlg, g, volumenLimite, calor, dibujar, volumenAvisado);
+    ColaIsobara(e, msj, g, volumenLimite, calor, dibujar, volumenAvisado);
     while (!subioInferior.empty()) {
         const bool sube = subioInferior.back();
         subioInferior.pop_back();
         if (sube) {
             if (e.TemperaturaInferior > kTemperaturaSuperiorIsobara) {
-                dlg.MsgBox(kMensajeTemperaturaIsobara);
+                msj.MsgBox(kMensajeTemperaturaIsobara);
                 e.ErrorCalculo = Verdadero;
             }
             // The second call finds the bounds unchanged: one trial and the tail.
-            ProbarTemperaturaIsobara(e, dlg, calor);
-            ColaIsobara(e, dlg, g, volumenLimite, calor, dibujar, volumenAvisado);
+            ProbarTemperaturaIsobara(e, msj, calor);
+            ColaIsobara(e, msj, g, volumenLimite, calor, dibujar, volumenAvisado);
         }
-        ColaIsobara(e, dlg, g, volumenLimite, calor, dibujar, volumenAvisado);
+        ColaIsobara(e, msj, g, volumenLimite, calor, dibujar, volumenAvisado);
     }
 }
 
-void TrazarPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, Dibujo dibujar) {
+void TrazarPresionConstante(Estado& e, Mensajes& msj, Diagramas& g, Dibujo dibujar) {
     e.Presion = e.PresionInicial;
     e.Temperatura = e.TemperaturaInicial;
     // The share of gases goes linearly in T from the share at state 3 to 1.
@@ -346,12 +346,12 @@ void TrazarPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, Dibujo dibuj
     };
     while (e.TemperaturaFinal - 1 > e.Temperatura && !e.ErrorCalculo) {
         e.Temperatura += 1;
-        PropiedadesAireHumosFraccion(e, dlg, fraccion());
+        PropiedadesAireHumosFraccion(e, msj, fraccion());
         if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
     }
     if (e.Temperatura < e.TemperaturaFinal && !e.ErrorCalculo) {
         e.Temperatura = e.TemperaturaFinal;
-        PropiedadesAireHumosFraccion(e, dlg, fraccion());
+        PropiedadesAireHumosFraccion(e, msj, fraccion());
         if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SHumos, e.Temperatura, e.hHumos);
     }
 }
@@ -365,9 +365,9 @@ void PonerColorDiagramas(Diagramas& g, int32_t color) {
     g.pctPV.SetForeColor(color);
 }
 
-void CalcularMolesCiclo(Estado& e, Dialogos& dlg) {
+void CalcularMolesCiclo(Estado& e, Mensajes& msj) {
     if (e.MasaMolecularCombustible == 0 || e.MasaMolecularAire == 0 || e.MasaMolecularHumos == 0) {
-        FalloAritmetico(e, dlg, kCausaMoles);
+        FalloAritmetico(e, msj, kCausaMoles);
         return;
     }
     // A molar mass near the smallest double takes the moles beyond the
@@ -377,19 +377,19 @@ void CalcularMolesCiclo(Estado& e, Dialogos& dlg) {
     const double humos = (e.MasaAire + e.MasaCombustible) / e.MasaMolecularHumos;
     const double reactivos = combustible + aire;
     for (double moles : {combustible, aire, humos, reactivos})
-        if (!std::isfinite(moles)) return FalloAritmetico(e, dlg, kCausaMolesFueraDeRango);
+        if (!std::isfinite(moles)) return FalloAritmetico(e, msj, kCausaMolesFueraDeRango);
     e.MolesCombustible = combustible;
     e.MolesAire = aire;
     e.MolesHumos = humos;
     e.MolesReactivos = reactivos;
 }
 
-void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
+void Compresion(Estado& e, Mensajes& msj, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
                 double exponente, Dibujo dibujar) {
     if (e.ErrorCalculo) return;
     e.TipoFluido = Fluido::Aire;
-    PonerInicioDesdeFinal(e, dlg);
-    ExponenteInicial(e, dlg, modelo, volumenFinal, exponente, Fluido::Aire);
+    PonerInicioDesdeFinal(e, msj);
+    ExponenteInicial(e, msj, modelo, volumenFinal, exponente, Fluido::Aire);
     e.gamma1 = e.Gamma;
     if (dibujar == Dibujo::Dibujar)
         PuntoEnDiagramas(g, e.VolumenInicial, e.TemperaturaInicial, e.PresionInicial, e.SAire, e.h1);
@@ -397,9 +397,9 @@ void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double vo
     // entropy lag one step behind T and p.
     while (e.Volumen - paso > volumenFinal) {
         e.VolumenProporcional = e.Volumen - paso;
-        if (!AvanzaLaCarrera(e, dlg)) return;
-        if (!PasoPolitropico(e, dlg, e.VolumenProporcional, e.W12acumulado)) return;
-        PropiedadesAire(e, dlg);
+        if (!AvanzaLaCarrera(e, msj)) return;
+        if (!PasoPolitropico(e, msj, e.VolumenProporcional, e.W12acumulado)) return;
+        PropiedadesAire(e, msj);
         ExponentePaso(e, modelo, exponente);
         if (dibujar == Dibujo::Dibujar)
             LineaEnDiagramas(g, e.VolumenProporcional, e.TemperaturaPolitropica, e.PresionPolitropica,
@@ -409,28 +409,28 @@ void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double vo
         e.Presion = e.PresionPolitropica;
     }
     if (e.VolumenProporcional > volumenFinal) {
-        PropiedadesAire(e, dlg);
+        PropiedadesAire(e, msj);
         ExponentePaso(e, modelo, exponente);
-        if (!PasoPolitropico(e, dlg, volumenFinal, e.W12acumulado)) return;
+        if (!PasoPolitropico(e, msj, volumenFinal, e.W12acumulado)) return;
     }
     e.Gamma2 = e.Gamma;
-    PonerEstadoFinal(e, dlg, 0, e.W12acumulado, e.PresionPolitropica, volumenFinal, e.TemperaturaPolitropica);
+    PonerEstadoFinal(e, msj, 0, e.W12acumulado, e.PresionPolitropica, volumenFinal, e.TemperaturaPolitropica);
     if (dibujar == Dibujo::Dibujar)
         LineaEnDiagramas(g, volumenFinal, e.TemperaturaFinal, e.PresionFinal, e.SAire, e.EntalpiaFinal);
 }
 
-void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
+void Expansion(Estado& e, Mensajes& msj, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
                double exponente) {
     if (e.ErrorCalculo) return;
     e.TipoFluido = Fluido::Humos;
-    PonerInicioDesdeFinal(e, dlg);
-    ExponenteInicial(e, dlg, modelo, volumenFinal, exponente, Fluido::Humos);
+    PonerInicioDesdeFinal(e, msj);
+    ExponenteInicial(e, msj, modelo, volumenFinal, exponente, Fluido::Humos);
     e.Gamma4 = e.Gamma;
     while (e.Volumen + paso < volumenFinal) {
         e.VolumenProporcional = e.Volumen + paso;
-        if (!AvanzaLaCarrera(e, dlg)) return;
-        if (!PasoPolitropico(e, dlg, e.VolumenProporcional, e.W45acumulado)) return;
-        PropiedadesHumos(e, dlg);
+        if (!AvanzaLaCarrera(e, msj)) return;
+        if (!PasoPolitropico(e, msj, e.VolumenProporcional, e.W45acumulado)) return;
+        PropiedadesHumos(e, msj);
         ExponentePaso(e, modelo, exponente);
         LineaEnDiagramas(g, e.VolumenProporcional, e.TemperaturaPolitropica, e.PresionPolitropica, e.SHumos,
                          e.hHumos);
@@ -439,58 +439,58 @@ void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double vol
         e.Presion = e.PresionPolitropica;
     }
     if (e.VolumenProporcional < volumenFinal) {
-        PropiedadesHumos(e, dlg);
+        PropiedadesHumos(e, msj);
         ExponentePaso(e, modelo, exponente);
         if (modelo == Modelo::Politropico) e.GammaInicial = " N.D.";
-        if (!PasoPolitropico(e, dlg, volumenFinal, e.W45acumulado)) return;
+        if (!PasoPolitropico(e, msj, volumenFinal, e.W45acumulado)) return;
     }
     e.Gamma5 = e.Gamma;
-    PonerEstadoFinal(e, dlg, 0, e.W45acumulado, e.PresionPolitropica, volumenFinal, e.TemperaturaPolitropica);
+    PonerEstadoFinal(e, msj, 0, e.W45acumulado, e.PresionPolitropica, volumenFinal, e.TemperaturaPolitropica);
     LineaEnDiagramas(g, volumenFinal, e.TemperaturaFinal, e.PresionFinal, e.SHumos, e.EntalpiaFinal);
 }
 
-void CombustionVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsocoro tipo,
+void CombustionVolumenConstante(Estado& e, Mensajes& msj, Diagramas& g, TipoCalorIsocoro tipo,
                                 double /*presionMaxima*/, Dibujo dibujar) {
     if (e.ErrorCalculo) return;
     e.TipoFluido = Fluido::Aire;
-    PonerInicioDesdeFinal(e, dlg);
-    CalcularMolesCiclo(e, dlg);
+    PonerInicioDesdeFinal(e, msj);
+    CalcularMolesCiclo(e, msj);
     e.GammaInicial = " ND";
     if (e.ErrorCalculo) return;
     if (e.MolesHumos == 0 || e.VolumenInicial == 0 || e.PresionInicial == 0 || e.TemperaturaInicial == 0) {
-        FalloAritmetico(e, dlg, e.MolesHumos == 0 ? kCausaSinMoles : kCausaEstadoInicial);
+        FalloAritmetico(e, msj, e.MolesHumos == 0 ? kCausaSinMoles : kCausaEstadoInicial);
         return;
     }
-    CalorVolumenConstante(e, dlg, g, tipo, dibujar);
-    TrazarVolumenConstante(e, dlg, g, dibujar);
+    CalorVolumenConstante(e, msj, g, tipo, dibujar);
+    TrazarVolumenConstante(e, msj, g, dibujar);
 }
 
-void CombustionPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor,
+void CombustionPresionConstante(Estado& e, Mensajes& msj, Diagramas& g, double volumenLimite, double calor,
                                 Dibujo dibujar) {
     if (e.ErrorCalculo) return;
     e.TipoFluido = Fluido::Humos;
-    PonerInicioDesdeFinal(e, dlg);
+    PonerInicioDesdeFinal(e, msj);
     e.TemperaturaSuperior = kTemperaturaSuperiorIsobara;
     e.TemperaturaInferior = e.TemperaturaInicial;
     e.SaltoEntalpia = 0;
     e.GammaInicial = " ND";
     e.hInicioBusqueda = e.hInicial;
     if (e.MasaMolecularHumos == 0 || e.TemperaturaInicial == 0) {
-        FalloAritmetico(e, dlg, e.MasaMolecularHumos == 0 ? kCausaMoles : kCausaEstadoInicial);
+        FalloAritmetico(e, msj, e.MasaMolecularHumos == 0 ? kCausaMoles : kCausaEstadoInicial);
         return;
     }
-    CalorPresionConstante(e, dlg, g, volumenLimite, calor, dibujar);
-    TrazarPresionConstante(e, dlg, g, dibujar);
+    CalorPresionConstante(e, msj, g, volumenLimite, calor, dibujar);
+    TrazarPresionConstante(e, msj, g, dibujar);
 }
 
-void TrazarEscape(Estado& e, Dialogos& dlg, Diagramas& g) {
+void TrazarEscape(Estado& e, Mensajes& msj, Diagramas& g) {
     FinalAInicial(e);
     LineaVolumen(g, e.V1, e.T1, e.p1);
     e.Temperatura = e.T5;
     while (e.Temperatura > e.T1 && !e.ErrorCalculo) {
         e.Temperatura -= 2;
         e.Presion = e.p1 * e.Temperatura / e.T1;
-        PropiedadesAireHumosLineal(e, dlg, e.T5, e.T1, e.Temperatura);
+        PropiedadesAireHumosLineal(e, msj, e.T5, e.T1, e.Temperatura);
         LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
     }
 }

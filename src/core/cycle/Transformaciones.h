@@ -4,7 +4,7 @@
 // leaves its end there, drawing itself step by step on the diagrams.
 #pragma once
 
-#include "core/services/Puertos.h"
+#include "core/services/Mensajes.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
 
@@ -19,17 +19,17 @@ enum class TipoCalorIsocoro : int { HastaPmax = 1, Dado = 2 };
 
 void PonerColorDiagramas(Diagramas& g, int32_t color);
 
-void CalcularMolesCiclo(Estado& e, Dialogos& dlg);
-void Compresion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
+void CalcularMolesCiclo(Estado& e, Mensajes& msj);
+void Compresion(Estado& e, Mensajes& msj, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
                 double exponente, Dibujo dibujar);
 // Always draws.
-void Expansion(Estado& e, Dialogos& dlg, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
+void Expansion(Estado& e, Mensajes& msj, Diagramas& g, Modelo modelo, double volumenFinal, double paso,
                double exponente);
 // presionMaxima is not used: the limit is read from Pmax.
-void CombustionVolumenConstante(Estado& e, Dialogos& dlg, Diagramas& g, TipoCalorIsocoro tipo,
+void CombustionVolumenConstante(Estado& e, Mensajes& msj, Diagramas& g, TipoCalorIsocoro tipo,
                                 double presionMaxima, Dibujo dibujar);
-void CombustionPresionConstante(Estado& e, Dialogos& dlg, Diagramas& g, double volumenLimite, double calor,
+void CombustionPresionConstante(Estado& e, Mensajes& msj, Diagramas& g, double volumenLimite, double calor,
                                 Dibujo dibujar);
-void TrazarEscape(Estado& e, Dialogos& dlg, Diagramas& g);
+void TrazarEscape(Estado& e, Mensajes& msj, Diagramas& g);
 
 }  // namespace vanta

@@ -105,28 +105,28 @@ void PuntoEn(Diagramas& g, double V, double T, double p, double s, double h) {
 }
 
 // The process run again from a state up to the pointer's volume, drawing.
-void Recorrer(Estado& e, Dialogos& dlg, Diagramas& g, bool compresion, double X) {
+void Recorrer(Estado& e, Mensajes& msj, Diagramas& g, bool compresion, double X) {
     if (compresion) {
         PuntoEn(g, e.V1, e.T1, e.p1, e.S1, e.h1);
         CopiarCincoValores(e.PresionFinal, e.p1, e.VolumenFinal, e.V1, e.TemperaturaFinal, e.T1,
                            e.EntalpiaFinal, e.h1, e.EntropiaFinal, e.S1);
-        Compresion(e, dlg, g, e.ModeloCompresion, X, e.PasoVolumen, 1, Dibujo::Dibujar);
+        Compresion(e, msj, g, e.ModeloCompresion, X, e.PasoVolumen, 1, Dibujo::Dibujar);
     } else {
         PuntoEn(g, e.V4, e.T4, e.p4, e.S4, e.h4);
         CopiarCincoValores(e.PresionFinal, e.p4, e.VolumenFinal, e.V4, e.TemperaturaFinal, e.T4,
                            e.EntalpiaFinal, e.h4, e.EntropiaFinal, e.S4);
-        Expansion(e, dlg, g, e.ModeloExpansion, X, e.PasoVolumen, 1);
+        Expansion(e, msj, g, e.ModeloExpansion, X, e.PasoVolumen, 1);
     }
 }
 
 // Branch B: between the strokes, the nearer of the compression and of the
 // expansion or the isobar, on the ordinate only; a tie goes to compression.
-Punto RamaCarreras(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, float X, float Y) {
+Punto RamaCarreras(Estado& e, Mensajes& msj, Diagramas& g, Diagrama d, float X, float Y) {
     const double x = X;
     Punto c{TextoModelo(e.ModeloCompresion, kCompresionMedio, kCompresionPolitropica, kCompresionVariable)};
     c.fluido = Fluido::Aire;
     if (e.ModeloCompresion == Modelo::GammaVariable) {
-        Recorrer(e, dlg, g, true, x);
+        Recorrer(e, msj, g, true, x);
         c.T = e.TemperaturaFinal, c.p = e.PresionFinal;
     } else {
         const double n = e.ModeloCompresion == Modelo::GammaMedio ? e.GammaMedioCompresion : e.nCompresion;
@@ -140,7 +140,7 @@ Punto RamaCarreras(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, float X, 
         x2.texto = TextoModelo(e.ModeloExpansion, kExpansionMedio, kExpansionPolitropica, kExpansionVariable);
         x2.fluido = Fluido::Humos;
         if (e.ModeloExpansion == Modelo::GammaVariable) {
-            Recorrer(e, dlg, g, false, x);
+            Recorrer(e, msj, g, false, x);
             x2.T = e.TemperaturaFinal, x2.p = e.PresionFinal;
         } else {
             const double n = e.ModeloExpansion == Modelo::GammaMedio ? e.GammaMedioExpansion : e.nExpansion;
@@ -178,7 +178,7 @@ void DevolverLectura(const Estado& copia, Estado& e) {
     e.Gamma5 = copia.Gamma5;
 }
 
-void Lectura(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, bool visible, float X, float Y,
+void Lectura(Estado& e, Mensajes& msj, Diagramas& g, Diagrama d, bool visible, float X, float Y,
              LecturaEstado& lectura) {
     if (!visible) return;
     for (Superficie* s : {&g.pctTV, &g.pctPV, &g.pctTS, &g.pctHS}) {
@@ -193,7 +193,7 @@ void Lectura(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, bool visible, f
         r = RamaIsocora(c, d, Y);
         volumen = c.V2;
     } else if (X < S(c.V1)) {
-        r = RamaCarreras(c, dlg, g, d, X, Y);
+        r = RamaCarreras(c, msj, g, d, X, Y);
     } else {
         r = RamaEscape(c, d, Y);
         volumen = c.V1;
@@ -205,24 +205,24 @@ void Lectura(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, bool visible, f
     double h = 0, s = 0;
     switch (c.TipoFluido) {
         case Fluido::Aire:
-            PropiedadesAire(c, dlg);
+            PropiedadesAire(c, msj);
             h = c.hAire, s = c.SAire;
             break;
         case Fluido::Humos:
-            PropiedadesHumos(c, dlg);
+            PropiedadesHumos(c, msj);
             h = c.hHumos, s = c.SHumos;
             break;
         case Fluido::AireHumos:
             if (X <= S(c.V2))
-                PropiedadesAireHumosFraccion(c, dlg, r.x);
+                PropiedadesAireHumosFraccion(c, msj, r.x);
             else if (S(c.V4) <= X)
-                PropiedadesAireHumosLineal(c, dlg, c.T5, c.T1, r.T);
+                PropiedadesAireHumosLineal(c, msj, c.T5, c.T1, r.T);
             else
-                PropiedadesAireHumosFraccion(c, dlg, r.x);
+                PropiedadesAireHumosFraccion(c, msj, r.x);
             h = c.hMezcla, s = c.SMezcla;
             break;
         default:
-            dlg.MsgBox(kMensajeFluidoInicio);
+            msj.MsgBox(kMensajeFluidoInicio);
     }
     // An evaluation stopped by the flag of failure left the values of an
     // earlier one: h and s are not shown, nor crossed.
@@ -247,14 +247,14 @@ void Lectura(Estado& e, Dialogos& dlg, Diagramas& g, Diagrama d, bool visible, f
 
 }  // namespace
 
-void pctPV_MouseMove(Estado& e, Dialogos& dlg, Diagramas& g, bool cmdInformeVisible, float X, float Y,
+void pctPV_MouseMove(Estado& e, Mensajes& msj, Diagramas& g, bool cmdInformeVisible, float X, float Y,
                      LecturaEstado& lectura) {
-    Lectura(e, dlg, g, {true}, cmdInformeVisible, X, Y, lectura);
+    Lectura(e, msj, g, {true}, cmdInformeVisible, X, Y, lectura);
 }
 
-void pctTV_MouseMove(Estado& e, Dialogos& dlg, Diagramas& g, bool cmdInformeVisible, float X, float Y,
+void pctTV_MouseMove(Estado& e, Mensajes& msj, Diagramas& g, bool cmdInformeVisible, float X, float Y,
                      LecturaEstado& lectura) {
-    Lectura(e, dlg, g, {false}, cmdInformeVisible, X, Y, lectura);
+    Lectura(e, msj, g, {false}, cmdInformeVisible, X, Y, lectura);
 }
 
 }  // namespace vanta

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "core/services/Puertos.h"
+#include "core/services/Mensajes.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
 
@@ -22,9 +22,9 @@ struct LecturaEstado {
 // Y the negative of p (pctPV) or of T (pctTV). Nothing happens unless a cycle
 // is on show (cmdInforme visible). Draws on the transient layer of the four
 // diagrams and leaves Temperatura, Presion and TipoFluido of the last move.
-void pctPV_MouseMove(Estado& e, Dialogos& dlg, Diagramas& g, bool cmdInformeVisible, float X, float Y,
+void pctPV_MouseMove(Estado& e, Mensajes& msj, Diagramas& g, bool cmdInformeVisible, float X, float Y,
                      LecturaEstado& lectura);
-void pctTV_MouseMove(Estado& e, Dialogos& dlg, Diagramas& g, bool cmdInformeVisible, float X, float Y,
+void pctTV_MouseMove(Estado& e, Mensajes& msj, Diagramas& g, bool cmdInformeVisible, float X, float Y,
                      LecturaEstado& lectura);
 
 }  // namespace vanta

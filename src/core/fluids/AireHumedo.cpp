@@ -9,11 +9,6 @@
 namespace vanta {
 
 namespace {
-// The test stands at 250 K although the text says 300 K: kept as it is.
-constexpr double kTemperaturaMinima = 250.0;
-constexpr double kTemperaturaMaxima = 5000.0;
-constexpr std::string_view kMensajeTemperaturaBaja = " La temperatura ha de ser mayor a 300 K ";
-constexpr std::string_view kMensajeTemperaturaAlta = " La temperatura ha de ser menor a 5 000 K ";
 constexpr std::string_view kMensajeSuma =
     "Se ha producido el siguiente error: La suma de las fracciones molares del aire = ";
 constexpr std::string_view kCausaPresionNula =
@@ -26,22 +21,19 @@ double PresionSaturacion(double T) {
     return std::exp(19.1 - 0.008 * T - 6012.0 / T) * 100000.0;
 }
 
-bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
+bool CalcularAire(Estado& e, Mensajes& msj, const Entradas& x, Superficie& pct1) {
     // A rejected text has been told by the validator; the calculation goes on.
-    ValidarNumero(e, dlg, c.txtPreAmb, e.Pambiente, "presión ambiente");
-    ValidarNumero(e, dlg, c.txtTemAmb, e.Tambiente, "temperatura ambiente");
-    ValidarNumero(e, dlg, c.txtHum, e.Humedad, "humedad relativa");
+    const DefinicionEntrada& temperatura = Entrada("temperatura-ambiente");
+    LeerEntrada(e, msj, Entrada("presion-ambiente"), x.presionAmbiente, e.Pambiente);
+    LeerEntrada(e, msj, temperatura, x.temperaturaAmbiente, e.Tambiente);
+    LeerEntrada(e, msj, Entrada("humedad"), x.humedad, e.Humedad);
 
-    if (e.Tambiente < kTemperaturaMinima) {
-        dlg.MsgBox(kMensajeTemperaturaBaja);
-        return false;
-    }
-    if (e.Tambiente > kTemperaturaMaxima) {
-        dlg.MsgBox(kMensajeTemperaturaAlta);
+    if (const std::string_view fuera = temperatura.Fuera(e.Tambiente); !fuera.empty()) {
+        msj.MsgBox(fuera, Campo(temperatura));
         return false;
     }
     if (e.Pambiente == 0) {
-        FalloAritmetico(e, dlg, kCausaPresionNula);
+        FalloAritmetico(e, msj, kCausaPresionNula);
         return false;
     }
 
@@ -58,7 +50,7 @@ bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
     const double masaMolecular =
         xO2 * 0.032 + xN2 * 0.028018 + xCO2 * 0.044011 + xAr * 0.039948 + xH2O * 0.018016;
     if (!std::isfinite(masaMolecular) || !std::isfinite(xH2O * 100)) {
-        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaFueraDeRango);
         return false;
     }
     e.Psaturacion = psat;
@@ -66,10 +58,9 @@ bool CalcularAire(Estado& e, Dialogos& dlg, ControlesAire& c) {
     e.MasaMolecularAire = masaMolecular;
 
     const double suma = e.xO2Aire + e.xN2Aire + e.xCO2Aire + e.xArAire + e.xH2OAire;
-    if (Round(suma, 2) != 1) dlg.MsgBox(std::string(kMensajeSuma) + TextoGeneral(suma, e.SeparadorDecimal));
+    if (Round(suma, 2) != 1) msj.MsgBox(std::string(kMensajeSuma) + TextoGeneral(suma, e.SeparadorDecimal));
 
-    GraficaAire(e, c.pct1);
-    if (c.chkOcultar.Value()) c.ventana.Hide();
+    GraficaAire(e, pct1);
     return true;
 }
 

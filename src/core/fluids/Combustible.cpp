@@ -25,80 +25,39 @@ constexpr std::string_view kCausaFueraDeRango =
     "los valores del combustible salen del intervalo de los números del programa";
 
 // A box left empty reads as "0".
-void CeroSiVacia(std::initializer_list<CajaTexto*> cajas) {
-    for (CajaTexto* caja : cajas)
-        if (caja->Text().empty()) caja->SetText("0");
+void CeroSiVacia(std::initializer_list<std::string*> cajas) {
+    for (std::string* caja : cajas)
+        if (caja->empty()) *caja = "0";
 }
 
-void Mostrar(const Estado& e, CajaTexto& caja, double x, int decimales) {
-    caja.SetText(TextoGeneral(Round(x, decimales), e.SeparadorDecimal));
+std::string Mostrar(const Estado& e, double x, int decimales) {
+    return TextoGeneral(Round(x, decimales), e.SeparadorDecimal);
 }
 
-void GraficaYOcultar(Estado& e, ControlesCombustible& c) {
-    GraficaCombustible(e, c.pct2, c.cboTipCom.Text());
-    if (c.chkOcultar.Value()) c.ventana.Hide();
-}
-}  // namespace
-
-const CombustibleDeLista* BuscarCombustible(std::string_view nombre) {
-    for (const auto& combustible : kBibliotecaCombustibles)
-        if (combustible.nombre == nombre) return &combustible;
-    return nullptr;
+void MostrarFormula(const Estado& e, Entradas& x, double C, double H, double N, double O, double S,
+                    int decimales) {
+    x.atomosC = Mostrar(e, C, decimales), x.atomosH = Mostrar(e, H, decimales),
+    x.atomosN = Mostrar(e, N, decimales), x.atomosO = Mostrar(e, O, decimales),
+    x.atomosS = Mostrar(e, S, decimales);
 }
 
-void optFOR_Click(ControlesCombustible& c) {
-    c.optFOR.SetValue(true);
-    c.optMasa.SetValue(false);
-    c.formulario.BloquearCajas(true);
+// The five counts of the formula as the general conversion writes them.
+void PonerFormula(const Estado& e, Entradas& x, const CombustibleDeLista& c) {
+    const char s = e.SeparadorDecimal;
+    x.atomosC = TextoGeneral(c.C, s), x.atomosH = TextoGeneral(c.H, s), x.atomosN = TextoGeneral(c.N, s),
+    x.atomosO = TextoGeneral(c.O, s), x.atomosS = TextoGeneral(c.S, s);
 }
 
-void optMasa_Click(ControlesCombustible& c) {
-    c.optMasa.SetValue(true);
-    c.optFOR.SetValue(false);
-    c.formulario.BloquearCajas(false);
-}
-
-void cboTipCom_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
-    const std::string entrada = c.cboTipCom.Text();
-    const CombustibleDeLista* combustible = BuscarCombustible(entrada);
-    const bool otros = entrada == kOtrosCombustibles;
-    if (!combustible && !otros) return;  // nothing chosen
-
-    e.ErrorCalculo = Falso;
-    c.formulario.HabilitarEntradaPropia(otros);
-    c.formulario.PonerTituloOtros(entrada);
-    if (otros) {
-        optMasa_Click(c);
-        return;
-    }
-    c.txtEntPro.SetText(TextoGeneral(combustible->EntalpiaFormacion, e.SeparadorDecimal));
-    CombustibleTipo(e, dlg, c, combustible->C, combustible->H, combustible->N, combustible->O,
-                    combustible->S);
-    GraficaYOcultar(e, c);
-}
-
-void CombustibleTipo(Estado& e, Dialogos& dlg, ControlesCombustible& c, double C, double H, double N,
-                     double O, double S) {
-    optFOR_Click(c);
-    c.txtMolC.SetText(TextoGeneral(C, e.SeparadorDecimal));
-    c.txtMolH.SetText(TextoGeneral(H, e.SeparadorDecimal));
-    c.txtMolN.SetText(TextoGeneral(N, e.SeparadorDecimal));
-    c.txtMolO.SetText(TextoGeneral(O, e.SeparadorDecimal));
-    c.txtMolS.SetText(TextoGeneral(S, e.SeparadorDecimal));
-    CalCien(e, dlg, c);
-    if (!e.ErrorCalculo) Calcular(e, dlg, c);
-}
-
-void CalCien(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
-    CeroSiVacia({&c.txtMolC, &c.txtMolH, &c.txtMolN, &c.txtMolO, &c.txtMolS});
-    ValidarNumero(e, dlg, c.txtMolC, e.AtomosC, " Nº de moles de C ");
-    ValidarNumero(e, dlg, c.txtMolH, e.AtomosH, " Nº de moles de H ");
-    ValidarNumero(e, dlg, c.txtMolN, e.AtomosN, " Nº de moles de N ");
-    ValidarNumero(e, dlg, c.txtMolO, e.AtomosO, " Nº de moles de O ");
-    ValidarNumero(e, dlg, c.txtMolS, e.AtomosS, " Nº de moles de S ");
+// Mass composition and molar mass from the formula boxes.
+void CalCien(Estado& e, Mensajes& msj, Entradas& x, SalidasCombustible& s) {
+    CeroSiVacia({&x.atomosC, &x.atomosH, &x.atomosN, &x.atomosO, &x.atomosS});
+    const DefinicionEntrada& formula = Entrada("formula");
+    double* atomos[] = {&e.AtomosC, &e.AtomosH, &e.AtomosN, &e.AtomosO, &e.AtomosS};
+    for (int i = 0; i < formula.Campos(); ++i)
+        LeerEntrada(e, msj, formula, *formula.texto(x, i), *atomos[i], i);
 
     if (e.AtomosC + e.AtomosH + e.AtomosN + e.AtomosO + e.AtomosS == 0) {
-        dlg.MsgBox(kMensajeSinComponentes);
+        msj.MsgBox(kMensajeSinComponentes);
         e.ErrorCalculo = Verdadero;
     }
     if (!e.ErrorCalculo) {
@@ -108,46 +67,46 @@ void CalCien(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
         const double masa = mC + mH + mN + mO + mS;
         // Only negative counts can bring the molar mass to zero or below.
         if (!(masa > 0)) {
-            FalloAritmetico(e, dlg, std::isfinite(masa) ? kCausaMasaFormula : kCausaFueraDeRango);
+            FalloAritmetico(e, msj, std::isfinite(masa) ? kCausaMasaFormula : kCausaFueraDeRango);
             return;
         }
         const double cC = mC * 100 / masa, cH = mH * 100 / masa, cN = mN * 100 / masa, cO = mO * 100 / masa,
                      cS = mS * 100 / masa;
         if (!SonFinitos({masa, cC, cH, cN, cO, cS})) {
-            FalloAritmetico(e, dlg, kCausaFueraDeRango);
+            FalloAritmetico(e, msj, kCausaFueraDeRango);
             return;
         }
         e.MasaMolecularCombustible = masa;
         e.CienC = cC, e.CienH = cH, e.CienN = cN, e.CienO = cO, e.CienS = cS;
     }
-    Mostrar(e, c.txtC, e.CienC, 3);
-    Mostrar(e, c.txtH, e.CienH, 3);
-    Mostrar(e, c.txtN, e.CienN, 3);
-    Mostrar(e, c.txtO, e.CienO, 3);
-    Mostrar(e, c.txtS, e.CienS, 3);
+    x.cienC = Mostrar(e, e.CienC, 3);
+    s.cienH = Mostrar(e, e.CienH, 3);
+    x.cienN = Mostrar(e, e.CienN, 3);
+    x.cienO = Mostrar(e, e.CienO, 3);
+    x.cienS = Mostrar(e, e.CienS, 3);
 }
 
-void CalAto(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
-    CeroSiVacia({&c.txtC, &c.txtN, &c.txtO, &c.txtS});
-    ValidarNumero(e, dlg, c.txtC, e.CienC, " % de C ");
-    ValidarNumero(e, dlg, c.txtN, e.CienN, " % de N ");
-    ValidarNumero(e, dlg, c.txtO, e.CienO, " % de O ");
-    ValidarNumero(e, dlg, c.txtS, e.CienS, " % de S ");
+// Formula from the mass boxes and the molar mass; hydrogen is the remainder.
+void CalAto(Estado& e, Mensajes& msj, Entradas& x, SalidasCombustible& s) {
+    CeroSiVacia({&x.cienC, &x.cienN, &x.cienO, &x.cienS});
+    const DefinicionEntrada& masas = Entrada("masa");
+    double* cien[] = {&e.CienC, &e.CienN, &e.CienO, &e.CienS};
+    for (int i = 0; i < masas.Campos(); ++i) LeerEntrada(e, msj, masas, *masas.texto(x, i), *cien[i], i);
     // Hydrogen is always the remainder; one that leaves the doubles (two
     // percentages near the largest double) is refused before it is stored.
     const double cienH = 100.0 - e.CienC - e.CienN - e.CienO - e.CienS;
     if (!std::isfinite(cienH)) {
-        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaFueraDeRango);
         return;
     }
     e.CienH = cienH;
-    Mostrar(e, c.txtH, e.CienH, 3);
+    s.cienH = Mostrar(e, e.CienH, 3);
 
     // A molar mass of zero or below is refused and the last one stays.
     double masa = e.MasaMolecularCombustible;
-    ValidarNumero(e, dlg, c.txtmmComb, masa, " Masa molecular ");
+    LeerEntrada(e, msj, Entrada("masa-molecular"), x.masaMolecular, masa);
     if (!(masa > 0)) {
-        FalloAritmetico(e, dlg, kCausaMasaMolecular);
+        FalloAritmetico(e, msj, kCausaMasaMolecular);
         return;
     }
     e.MasaMolecularCombustible = masa;
@@ -156,73 +115,108 @@ void CalAto(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
                  aN = e.CienN * 0.01 * masa / kMasaAtomicaN, aO = e.CienO * 0.01 * masa / kMasaAtomicaO,
                  aS = e.CienS * 0.01 * masa / kMasaAtomicaS;
     if (!SonFinitos({aC, aH, aN, aO, aS})) {
-        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaFueraDeRango);
         return;
     }
     e.AtomosC = aC, e.AtomosH = aH, e.AtomosN = aN, e.AtomosO = aO, e.AtomosS = aS;
-    Mostrar(e, c.txtMolC, e.AtomosC, 3);
-    Mostrar(e, c.txtMolH, e.AtomosH, 3);
-    Mostrar(e, c.txtMolN, e.AtomosN, 3);
-    Mostrar(e, c.txtMolO, e.AtomosO, 3);
-    Mostrar(e, c.txtMolS, e.AtomosS, 3);
+    MostrarFormula(e, x, e.AtomosC, e.AtomosH, e.AtomosN, e.AtomosO, e.AtomosS, 3);
 }
 
-bool Calcular(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
+// Heating values from the formula, the molar mass and the enthalpy box.
+// False when an arithmetic failure stopped it.
+bool Calcular(Estado& e, Mensajes& msj, Entradas& x, SalidasCombustible& s) {
     // Products counted: liquid water and CO2 only; nitrogen and sulphur add nothing.
     const double entalpiaProductos =
         e.AtomosH * 0.5 * kEntalpiaFormacionH2O + e.AtomosC * kEntalpiaFormacionCO2;
-    // The message names the products although the box holds the fuel's enthalpy.
-    ValidarNumero(e, dlg, c.txtEntPro, e.EntalpiaFormacion, " La entalpía de formación de los productos ");
+    LeerEntrada(e, msj, Entrada("entalpia-formacion"), x.entalpiaFormacion, e.EntalpiaFormacion);
     if (!(e.MasaMolecularCombustible > 0)) {
-        FalloAritmetico(e, dlg, kCausaMasaMolecular);
+        FalloAritmetico(e, msj, kCausaMasaMolecular);
         return false;
     }
     const double hcs = (entalpiaProductos - e.EntalpiaFormacion) / (-e.MasaMolecularCombustible);
     const double calorVap = (e.AtomosH * 0.5 * (-kCalorVaporizacionH2O)) / (-e.MasaMolecularCombustible);
     const double hci = hcs - calorVap;
     if (!SonFinitos({hcs, calorVap, hci})) {
-        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaFueraDeRango);
         return false;
     }
     e.HCS = hcs, e.CalorVap = calorVap, e.HCI = hci;
-    Mostrar(e, c.txtHci, e.HCI, 0);
-    Mostrar(e, c.txtHcs, e.HCS, 0);
-    Mostrar(e, c.txtQvap, e.CalorVap, 0);
-    Mostrar(e, c.txtmmComb, e.MasaMolecularCombustible, 6);
+    s.hci = Mostrar(e, e.HCI, 0);
+    s.hcs = Mostrar(e, e.HCS, 0);
+    s.calorVap = Mostrar(e, e.CalorVap, 0);
+    x.masaMolecular = Mostrar(e, e.MasaMolecularCombustible, 6);
     return true;
 }
 
-void cmdCal_Click(Estado& e, Dialogos& dlg, ControlesCombustible& c) {
+// Loads a formula of the list into the boxes (formula mode) and runs CalCien
+// and Calcular.
+void CombustibleTipo(Estado& e, Mensajes& msj, Entradas& x, VistaCombustible& v, SalidasCombustible& s,
+                     const CombustibleDeLista& c) {
+    ElegirFormaPropia(v, FormaCombustible::Formula);
+    PonerFormula(e, x, c);
+    CalCien(e, msj, x, s);
+    if (!e.ErrorCalculo) Calcular(e, msj, x, s);
+}
+
+}  // namespace
+
+void ElegirFormaPropia(VistaCombustible& v, FormaCombustible forma) {
+    v.opcion = forma;
+}
+
+bool ElegirEntradaLista(Estado& e, Mensajes& msj, std::string_view lista, Entradas& x, VistaCombustible& v,
+                        SalidasCombustible& s, Superficie& pct2) {
+    const CombustibleDeLista* combustible = BuscarCombustible(lista);
+    const bool otros = lista == kOtrosCombustibles;
+    if (!combustible && !otros) return false;  // nothing chosen
+
     e.ErrorCalculo = Falso;
-    if (c.cboTipCom.Text() != kOtrosCombustibles) {
-        dlg.MsgBox(kMensajeElijaOtros);
-        c.cboTipCom.SetFocus();
-        GraficaYOcultar(e, c);
-        return;
+    v.entradaPropia = otros;
+    v.tituloOtros = lista;
+    if (otros) {
+        ElegirFormaPropia(v, FormaCombustible::Masa);
+        return false;
     }
-    c.formulario.HabilitarMarcoOtros();
-    if (c.optFOR.Value())
-        CalCien(e, dlg, c);
+    x.entalpiaFormacion = TextoGeneral(combustible->EntalpiaFormacion, e.SeparadorDecimal);
+    CombustibleTipo(e, msj, x, v, s, *combustible);
+    GraficaCombustible(e, pct2, lista);
+    return true;
+}
+
+bool CalcularCombustiblePropio(Estado& e, Mensajes& msj, std::string_view lista, Entradas& x,
+                               VistaCombustible& v, SalidasCombustible& s, Superficie& pct2) {
+    e.ErrorCalculo = Falso;
+    if (lista != kOtrosCombustibles) {
+        msj.MsgBox(kMensajeElijaOtros, Campo(Entrada("combustible")));
+        msj.Foco(Campo(Entrada("combustible")));
+        GraficaCombustible(e, pct2, lista);
+        return true;
+    }
+    v.marcoOtros = true;
+    if (v.opcion == FormaCombustible::Formula)
+        CalCien(e, msj, x, s);
     else
-        CalAto(e, dlg, c);
-    if (e.ErrorCalculo) return;
-    if (!Calcular(e, dlg, c)) return;
+        CalAto(e, msj, x, s);
+    if (e.ErrorCalculo) return false;
+    if (!Calcular(e, msj, x, s)) return false;
 
     // These checks come after the heating values: a refused fuel keeps what
     // the steps before wrote.
+    const CampoEntrada carbono = Campo(Entrada("masa"), 0);
     if (e.CienN + e.CienC + e.CienO + e.CienS > 100.0) {
-        dlg.MsgBox(kMensajeSuperaCien);
-        c.txtC.SetFocus();
+        msj.MsgBox(kMensajeSuperaCien, carbono);
+        msj.Foco(carbono);
         e.ErrorCalculo = Verdadero;
-        return;
+        return false;
     }
     if (e.CienH + e.CienC == 0) {
-        dlg.MsgBox(kMensajeSinCarbonoNiHidrogeno);
-        c.txtC.SetFocus();
+        msj.MsgBox(kMensajeSinCarbonoNiHidrogeno, carbono);
+        msj.Foco(carbono);
         e.ErrorCalculo = Verdadero;
-        return;
+        return false;
     }
-    GraficaYOcultar(e, c);
+    GraficaCombustible(e, pct2, lista);
+    return true;
 }
 
 }  // namespace vanta

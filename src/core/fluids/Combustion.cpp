@@ -14,6 +14,8 @@ namespace {
 constexpr std::string_view kMensajeExceso = "Exceso de combustible-Cambie el dosado";
 constexpr std::string_view kMensajeFrNegativo = "Fr no puede ser negativo";
 constexpr std::string_view kMensajeLambdaNegativo = "Lambda no puede ser negativo";
+// The name the change of the box of Fr gives it; CALCULAR gives it another.
+constexpr std::string_view kNombreCambioFr = "Dosado relativo";
 constexpr std::string_view kCausaSinCombustible =
     "no hay un combustible definido (su masa molecular es nula o negativa); elija antes el combustible";
 constexpr std::string_view kCausaSinDemandaOxigeno =
@@ -37,63 +39,51 @@ std::string_view CausaSinAire(const Estado& e) {
 
 // The inverse of the leading value, rounded to 3 decimals, into the other
 // box; false when it leaves the range of a double.
-bool MostrarInverso(Estado& e, Dialogos& dlg, double valor, double& destino, CajaTexto& caja) {
+bool MostrarInverso(Estado& e, Mensajes& msj, double valor, double& destino, std::string& caja) {
     const double inverso = Round(1 / valor, 3);
     if (!std::isfinite(inverso)) {
-        FalloAritmetico(e, dlg, kCausaInversoInfinito);
+        FalloAritmetico(e, msj, kCausaInversoInfinito);
         return false;
     }
     destino = inverso;
-    caja.SetText(TextoGeneral(inverso, e.SeparadorDecimal));
+    caja = TextoGeneral(inverso, e.SeparadorDecimal);
     return true;
-}
-
-// A box clicked leads: its option set, the other one of the frame cleared.
-void Liderar(Interruptor& lider, Interruptor& otro) {
-    lider.SetValue(true);
-    otro.SetValue(false);
 }
 }  // namespace
 
-void FormGases_Load(Estado& e, ControlesCombustion& c) {
-    if (e.Fr < 0.001 && c.variables.Lambda < 0.001) {
+void FormGases_Load(Estado& e, VariablesCombustion& v) {
+    if (e.Fr < 0.001 && v.Lambda < 0.001) {
         e.Fr = 1;
-        c.variables.Lambda = 1;
+        v.Lambda = 1;
     }
 }
 
-void txtFr_Click(ControlesCombustion& c) {
-    Liderar(c.optFr, c.optLambda);
-}
-void txtLambda_Click(ControlesCombustion& c) {
-    Liderar(c.optLambda, c.optFr);
-}
-
-void txtFr_Change(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
-    if (!c.optFr.Value()) return;
-    ValidarNumero(e, dlg, c.txtFr, e.Fr, "Dosado relativo");
+void txtFr_Change(Estado& e, Mensajes& msj, Entradas& x, VariablesCombustion& v) {
+    if (x.formaDosado != FormaDosado::Fr) return;
+    const CampoEntrada fr = Campo(Entrada("fr"));
+    ValidarNumero(e, msj, x.fr, e.Fr, kNombreCambioFr, fr);
     if (e.Fr < 0) {
-        dlg.MsgBox(kMensajeFrNegativo);
+        msj.MsgBox(kMensajeFrNegativo, fr);
         e.ErrorCalculo = Verdadero;
     } else if (e.Fr > 0) {
-        MostrarInverso(e, dlg, e.Fr, c.variables.Lambda, c.txtLambda);
+        MostrarInverso(e, msj, e.Fr, v.Lambda, x.lambda);
     }
 }
 
-void txtLambda_Change(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
-    if (!c.optLambda.Value()) return;
-    double& lambda = c.variables.Lambda;
-    ValidarNumero(e, dlg, c.txtLambda, lambda, "Dosado relativo Lambda");
-    if (lambda < 0) {
-        dlg.MsgBox(kMensajeLambdaNegativo);
+void txtLambda_Change(Estado& e, Mensajes& msj, Entradas& x, VariablesCombustion& v) {
+    if (x.formaDosado != FormaDosado::Lambda) return;
+    const DefinicionEntrada& lambda = Entrada("lambda");
+    LeerEntrada(e, msj, lambda, x.lambda, v.Lambda);
+    if (v.Lambda < 0) {
+        msj.MsgBox(kMensajeLambdaNegativo, Campo(lambda));
         e.ErrorCalculo = Verdadero;
-    } else if (lambda > 0) {
+    } else if (v.Lambda > 0) {
         // The calculation then works with this rounded Fr.
-        MostrarInverso(e, dlg, lambda, e.Fr, c.txtFr);
+        MostrarInverso(e, msj, v.Lambda, e.Fr, x.fr);
     }
 }
 
-bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
+bool CalcularHumos(Estado& e, Mensajes& msj, const Entradas& x, VariablesCombustion& v, Superficie& pct3) {
     // The air that burns one mole of fuel at the stoichiometric ratio. It does
     // not change with Fr: Fr multiplies the fuel instead.
     e.OxigenoEstequiometrico = 0.5 * e.AtomosH + 2 * e.AtomosC + 2 * e.AtomosS - e.AtomosO;
@@ -115,19 +105,20 @@ bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
     }
 
     e.ErrorCalculo = Falso;
-    ValidarNumero(e, dlg, c.txtFr, e.Fr, " Dosado Fr ");
+    const DefinicionEntrada& fr = Entrada("fr");
+    LeerEntrada(e, msj, fr, x.fr, e.Fr);
     // Told once the flag is clear, so that the message is seen.
     if (!causa.empty()) {
-        FalloAritmetico(e, dlg, causa);
+        FalloAritmetico(e, msj, causa);
         return false;
     }
     if (e.Fr < 0) {
-        dlg.MsgBox(kMensajeFrNegativo);
+        msj.MsgBox(kMensajeFrNegativo, Campo(fr));
         e.ErrorCalculo = Verdadero;
         return false;
     }
     if (e.Fr == 0) {
-        FalloAritmetico(e, dlg, kCausaFrCero);
+        FalloAritmetico(e, msj, kCausaFrCero);
         return false;
     }
 
@@ -142,9 +133,9 @@ bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
 
     // Where no rule below sets a quantity it keeps what the last calculation
     // left, as the screen's variables do.
-    VariablesCombustion d = c.variables;
+    VariablesCombustion d = v;
     if (R < 0) {
-        dlg.MsgBox(kMensajeExceso);
+        msj.MsgBox(kMensajeExceso, Campo(fr));
         e.ErrorCalculo = Verdadero;
     } else if (R == cC) {
         d.nCO = 0, d.nCO2 = cC, d.nS = sS, d.nSO2 = 0, d.OxigenoSobrante = 0;
@@ -184,10 +175,10 @@ bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
     const double hci = (w * (-kCalorVaporizacionH2O)) / (Fr * e.MasaMolecularCombustible) + hcs;
     if (!SonFinitos({d.nCO, d.nCO2, d.nS, d.nSO2, d.OxigenoSobrante, xH2O, xCO, xCO2, xSO2, xS, xN2, xAr, xO2,
                      masaHumos, entalpiaProductos, entalpiaReaccion, hcs, hci})) {
-        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaFueraDeRango);
         return false;
     }
-    c.variables = d;
+    v = d;
     e.xH2OHumos = xH2O, e.xCOHumos = xCO, e.xCO2Humos = xCO2, e.xSO2Humos = xSO2, e.xSHumos = xS;
     e.xN2Humos = xN2, e.xArHumos = xAr, e.xO2Humos = xO2;
     e.MasaMolecularHumos = masaHumos;
@@ -197,8 +188,7 @@ bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c) {
     e.HCIhumos = hci;
 
     // Drawn also after a refused mixture: the bars show what the variables hold.
-    GraficaHumos(e, c.pct3);
-    if (!e.ErrorCalculo && c.chkOcultar.Value()) c.ventana.Hide();
+    GraficaHumos(e, pct3);
     return !e.ErrorCalculo;
 }
 

@@ -10,7 +10,8 @@
 #include <string_view>
 
 #include "core/fluids/Combustible.h"
-#include "core/services/Puertos.h"
+#include "core/inputs/Entradas.h"
+#include "core/services/Mensajes.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
 
@@ -38,57 +39,22 @@ struct VariablesCombustion {
     double OxigenoSobrante = 0;  // atoms of O left, which stay as O2
 };
 
-// What the combustion screen gives the logic.
-struct ControlesCombustion {
-    CajaTexto& txtFr;                // relative fuel/air ratio (starts "1")
-    CajaTexto& txtLambda;            // its inverse (starts "1")
-    Interruptor& optFr;              // txtFr leads
-    Interruptor& optLambda;          // txtLambda leads
-    Interruptor& chkOcultar;         // hide the screen after a calculation
-    Ventana& ventana;                // the screen, to hide
-    Superficie& pct3;                // the gases chart of the main window
-    VariablesCombustion& variables;  // the screen's own variables, owned by the caller
-};
-
-// Starting text of both boxes.
-inline constexpr std::string_view kTextoInicialDosado = "1";
-
-// The combustion screen with plain boxes at their starting texts and neither
-// option selected: the command line and the tests.
-struct PantallaCombustionSimple {
-    CajaTextoSimple txtFr{std::string(kTextoInicialDosado)}, txtLambda{std::string(kTextoInicialDosado)};
-    InterruptorSimple optFr, optLambda, chkOcultar{true};
-    VentanaSimple ventana;
-    VariablesCombustion variables;
-
-    ControlesCombustion Controles(Superficie& pct3) {
-        return {.txtFr = txtFr,
-                .txtLambda = txtLambda,
-                .optFr = optFr,
-                .optLambda = optLambda,
-                .chkOcultar = chkOcultar,
-                .ventana = ventana,
-                .pct3 = pct3,
-                .variables = variables};
-    }
-};
-
 // ---- Events of the combustion screen ------------------------------------------------
+// Which of Fr and Lambda leads is the inputs' formaDosado: a click in a box
+// makes it lead.
 
 // Loading the screen: on a first opening (Fr and Lambda both below 0.001)
 // both become 1.
-void FormGases_Load(Estado& e, ControlesCombustion& c);
-// A click in a box makes it lead.
-void txtFr_Click(ControlesCombustion& c);
-void txtLambda_Click(ControlesCombustion& c);
-// A change of the leading box reads it and shows the other rounded to 3
-// decimals. A change of the box that does not lead does nothing.
-void txtFr_Change(Estado& e, Dialogos& dlg, ControlesCombustion& c);
-void txtLambda_Change(Estado& e, Dialogos& dlg, ControlesCombustion& c);
+void FormGases_Load(Estado& e, VariablesCombustion& v);
+// A change of the leading box reads it and writes the other, rounded to 3
+// decimals, into the inputs. A change of the box that does not lead does
+// nothing.
+void txtFr_Change(Estado& e, Mensajes& msj, Entradas& x, VariablesCombustion& v);
+void txtLambda_Change(Estado& e, Mensajes& msj, Entradas& x, VariablesCombustion& v);
 
-// The button CALCULAR: reads txtFr and fills Fe, the gases, their molar mass
-// and HCShumos, HCIhumos; draws pct3; hides the screen after a success.
-// Returns true when ErrorCalculo is clear at the end.
-bool CalcularHumos(Estado& e, Dialogos& dlg, ControlesCombustion& c);
+// The button CALCULAR: reads Fr and fills Fe, the gases, their molar mass
+// and HCShumos, HCIhumos; draws pct3. True when ErrorCalculo is clear at the
+// end: the screen then hides.
+bool CalcularHumos(Estado& e, Mensajes& msj, const Entradas& x, VariablesCombustion& v, Superficie& pct3);
 
 }  // namespace vanta

@@ -32,18 +32,18 @@ struct Propiedades {
     bool conCv;  // the blend has no cv of its own
 };
 
-bool Evaluar(Estado& e, Dialogos& dlg, Propiedades& f) {
+bool Evaluar(Estado& e, Mensajes& msj, Propiedades& f) {
     switch (e.TipoFluido) {
         case Fluido::Aire:
-            PropiedadesAire(e, dlg);
+            PropiedadesAire(e, msj);
             f = {e.CpAire, e.hAire, e.CvAire, e.SAire, true};
             return true;
         case Fluido::Humos:
-            PropiedadesHumos(e, dlg);
+            PropiedadesHumos(e, msj);
             f = {e.CpHumos, e.hHumos, e.CvHumos, e.SHumos, true};
             return true;
         case Fluido::AireHumos:
-            PropiedadesAireHumos(e, dlg);
+            PropiedadesAireHumos(e, msj);
             f = {e.CpMezcla, e.hMezcla, 0, e.SMezcla, false};
             return true;
         default:
@@ -77,32 +77,32 @@ void VolumenIsobarico(Estado& e, double V1, double T1, double T2) {
     e.VolumenProporcional = V1 * T2 / T1;
 }
 
-void PropiedadesInicio(Estado& e, Dialogos& dlg) {
+void PropiedadesInicio(Estado& e, Mensajes& msj) {
     if (e.ErrorCalculo) return;
     e.Qtransformacion = 0;
     Propiedades f{};
-    if (Evaluar(e, dlg, f)) {
+    if (Evaluar(e, msj, f)) {
         e.CpInicial = f.cp;
         e.hInicial = f.h;
         if (f.conCv) e.uInicial = f.cv * e.TemperaturaInicial;
         e.SInicial = f.s;
     } else {
-        dlg.MsgBox(kMensajeFluidoInicio);
+        msj.MsgBox(kMensajeFluidoInicio);
     }
     e.GammaInicial = e.Gamma;
 }
 
-void PropiedadesFin(Estado& e, Dialogos& dlg, double Calor, double Trabajo) {
+void PropiedadesFin(Estado& e, Mensajes& msj, double Calor, double Trabajo) {
     if (e.ErrorCalculo) return;
     e.Temperatura = e.TemperaturaFinal;
     Propiedades f{};
-    if (Evaluar(e, dlg, f)) {
+    if (Evaluar(e, msj, f)) {
         e.CpFinal = f.cp;
         e.hFinal = f.h;
         if (f.conCv) e.uFinal = f.cv * e.TemperaturaFinal;
         e.SFinal = f.s;
     } else {
-        dlg.MsgBox(kMensajeFluidoFin);
+        msj.MsgBox(kMensajeFluidoFin);
     }
     e.TrabajoPaso = 0;
     e.GammaFinal = e.Gamma;
@@ -111,7 +111,7 @@ void PropiedadesFin(Estado& e, Dialogos& dlg, double Calor, double Trabajo) {
     e.Qtransformacion = Calor;
 }
 
-void PonerEstadoInicial(Estado& e, Dialogos& dlg, double p, double V, double T, double h, double s) {
+void PonerEstadoInicial(Estado& e, Mensajes& msj, double p, double V, double T, double h, double s) {
     e.PresionInicial = p;
     e.VolumenInicial = V;
     e.TemperaturaInicial = T;
@@ -120,17 +120,17 @@ void PonerEstadoInicial(Estado& e, Dialogos& dlg, double p, double V, double T, 
     e.Presion = p;
     e.Volumen = V;
     e.Temperatura = T;
-    PropiedadesInicio(e, dlg);
+    PropiedadesInicio(e, msj);
 }
 
-void PonerEstadoFinal(Estado& e, Dialogos& dlg, double Calor, double Trabajo, double p, double V, double T) {
+void PonerEstadoFinal(Estado& e, Mensajes& msj, double Calor, double Trabajo, double p, double V, double T) {
     e.PresionFinal = p;
     e.VolumenFinal = V;
     e.TemperaturaFinal = T;
     e.Presion = p;
     e.Volumen = V;
     e.Temperatura = T;
-    PropiedadesFin(e, dlg, Calor, Trabajo);
+    PropiedadesFin(e, msj, Calor, Trabajo);
     e.EntalpiaFinal = e.hFinal;
     e.EntropiaFinal = e.SFinal;
 }
@@ -158,13 +158,13 @@ void CopiarCincoValores(double& d1, double s1, double& d2, double s2, double& d3
     d5 = s5;
 }
 
-void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2, double T1, Fluido fluido) {
+void BuscarGammaMedio(Estado& e, Mensajes& msj, double p1, double V1, double V2, double T1, Fluido fluido) {
     if (e.ErrorCalculo) return;
-    PropiedadesInicio(e, dlg);
+    PropiedadesInicio(e, msj);
     e.hInicioBusqueda = e.hInicial;
     // The first estimate starts from the record, the later ones from T1, V1.
     if (!CalcularTemperaturaPolitropica(e, e.TemperaturaInicial, e.VolumenInicial, V2, e.Gamma))
-        return FalloAritmetico(e, dlg, kCausaPolitropicaFueraDeRango);
+        return FalloAritmetico(e, msj, kCausaPolitropicaFueraDeRango);
     e.Temperatura = e.TemperaturaPolitropica;
     e.TemperaturaAnterior = e.TemperaturaPolitropica + 10.0;
     double gammaMedio = e.GammaMedio.Numero();
@@ -172,37 +172,37 @@ void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2,
     pasos = 0;
     while (std::fabs(e.TemperaturaAnterior - e.TemperaturaPolitropica) > kToleranciaGammaMedio) {
         if (++pasos > kPasosMaximosGammaMedio || !std::isfinite(e.TemperaturaPolitropica)) {
-            if (!e.ErrorCalculo) dlg.MsgBox(kMensajeNoConverge);
+            if (!e.ErrorCalculo) msj.MsgBox(kMensajeNoConverge);
             e.ErrorCalculo = Verdadero;
             return;
         }
         e.TemperaturaAnterior = e.TemperaturaPolitropica;
         if (fluido == Fluido::Aire) {
-            PropiedadesAire(e, dlg);
+            PropiedadesAire(e, msj);
             e.hBusqueda = e.hAire;
         } else if (fluido == Fluido::Humos) {
-            PropiedadesHumos(e, dlg);
+            PropiedadesHumos(e, msj);
             e.hBusqueda = e.hHumos;
         }
         if (e.Temperatura == T1) {
-            FalloAritmetico(e, dlg, kCausaSinSalto);
+            FalloAritmetico(e, msj, kCausaSinSalto);
             return;
         }
         e.CpMedio = (e.hBusqueda - e.hInicioBusqueda) / (e.Temperatura - T1);
         gammaMedio = e.CpMedio / (e.CpMedio - kR);
         if (!std::isfinite(gammaMedio)) {
-            FalloAritmetico(e, dlg, kCausaExponente);
+            FalloAritmetico(e, msj, kCausaExponente);
             return;
         }
         e.GammaMedio = gammaMedio;
         if (!CalcularTemperaturaPolitropica(e, T1, V1, V2, gammaMedio))
-            return FalloAritmetico(e, dlg, kCausaPolitropicaFueraDeRango);
+            return FalloAritmetico(e, msj, kCausaPolitropicaFueraDeRango);
         e.Temperatura = e.TemperaturaPolitropica;
     }
     if (!CalcularPresionPolitropica(e, p1, V1, V2, gammaMedio))
-        return FalloAritmetico(e, dlg, kCausaPolitropicaFueraDeRango);
+        return FalloAritmetico(e, msj, kCausaPolitropicaFueraDeRango);
     e.Temperatura = e.TemperaturaPolitropica;
-    PropiedadesFin(e, dlg, 0, e.W45acumulado);
+    PropiedadesFin(e, msj, 0, e.W45acumulado);
 }
 
 void ActualizarMaximos(Estado& e) {

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "core/services/Puertos.h"
+#include "core/services/Mensajes.h"
 #include "core/state/Estado.h"
 
 namespace vanta {
@@ -33,11 +33,11 @@ void TrabajoIsobarico(Estado& e, double p, double V1, double V2);
 void VolumenIsobarico(Estado& e, double V1, double T1, double T2);
 
 // Evaluates the fluid of TipoFluido at the start / at TemperaturaFinal.
-void PropiedadesInicio(Estado& e, Dialogos& dlg);
-void PropiedadesFin(Estado& e, Dialogos& dlg, double Calor, double Trabajo);
+void PropiedadesInicio(Estado& e, Mensajes& msj);
+void PropiedadesFin(Estado& e, Mensajes& msj, double Calor, double Trabajo);
 
-void PonerEstadoInicial(Estado& e, Dialogos& dlg, double p, double V, double T, double h, double s);
-void PonerEstadoFinal(Estado& e, Dialogos& dlg, double Calor, double Trabajo, double p, double V, double T);
+void PonerEstadoInicial(Estado& e, Mensajes& msj, double p, double V, double T, double h, double s);
+void PonerEstadoFinal(Estado& e, Mensajes& msj, double Calor, double Trabajo, double p, double V, double T);
 void FinalAInicial(Estado& e);
 void LeerEstadoFinal(const Estado& e, double& p, double& V, double& T, double& h, double& s);
 void CopiarCincoValores(double& d1, double s1, double& d2, double s2, double& d3, double s3, double& d4,
@@ -45,7 +45,7 @@ void CopiarCincoValores(double& d1, double s1, double& d2, double s2, double& d3
 
 // The mean adiabatic exponent between the start of the record and V2, by
 // fixed-point iteration on the mean cp, of air or of the gases.
-void BuscarGammaMedio(Estado& e, Dialogos& dlg, double p1, double V1, double V2, double T1, Fluido fluido);
+void BuscarGammaMedio(Estado& e, Mensajes& msj, double p1, double V1, double V2, double T1, Fluido fluido);
 
 // Raises the maxima of p, T, h and s (single precision, strictly) with the
 // start and the end of the transformation.

@@ -118,16 +118,16 @@ double PolinomioEntropia(const Estado& e, double a1, double a2, double a3, doubl
     return Entropia(Potencias(e.Temperatura), {a1, a2, a3, a4, a5, 0, a7});
 }
 
-void CalcularEspecies(Estado& e, Dialogos& dlg) {
+void CalcularEspecies(Estado& e, Mensajes& msj) {
     if (e.Temperatura > kTemperaturaLimite) {
         e.ErrorCalculo = Verdadero;
-        dlg.MsgBox(std::string(kMensajeLimite) +
+        msj.MsgBox(std::string(kMensajeLimite) +
                    Format(e.Temperatura, "### ### ### ### ### ###", e.SeparadorDecimal) + " K");
     }
     if (e.ErrorCalculo) return;
     // Below zero the logarithm and the enthalpy's a6/T have no value.
     if (!(e.Temperatura > 0)) {
-        FalloAritmetico(e, dlg, kCausaTemperaturaNoPositiva);
+        FalloAritmetico(e, msj, kCausaTemperaturaNoPositiva);
         return;
     }
     // The last values stored were taken at this very temperature.
@@ -141,7 +141,7 @@ void CalcularEspecies(Estado& e, Dialogos& dlg) {
     double sumaH = 0;
     for (Especie s : kOrden) sumaH += v.h[s] = Entalpia(p, coef[s]);
     if (!std::isfinite(sumaH)) {
-        FalloAritmetico(e, dlg, kCausaTemperaturaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaTemperaturaFueraDeRango);
         return;
     }
     for (Especie s : kOrden) v.cp[s] = Cp(p, coef[s]);

@@ -4,7 +4,7 @@
 // of temperature.
 #pragma once
 
-#include "core/services/Puertos.h"
+#include "core/services/Mensajes.h"
 #include "core/state/Estado.h"
 
 namespace vanta {
@@ -49,7 +49,7 @@ double PolinomioEntropia(const Estado& e, double a1, double a2, double a3, doubl
 // The limit test, then cp, h and s0 of the six species into the variables of
 // the range of Temperatura (CpArBaja … S0O2Alta). Does nothing while
 // ErrorCalculo is set; the limit is tested first.
-void CalcularEspecies(Estado& e, Dialogos& dlg);
+void CalcularEspecies(Estado& e, Mensajes& msj);
 
 // The species values of one range, as the mixtures read them: those of the
 // variables of that range, by species.

@@ -51,13 +51,13 @@ const ValoresEspecies& Especies(const Estado& e) {
 }
 
 // The blend as a linear weighting of molar properties by x.
-void Mezclar(Estado& e, Dialogos& dlg, double x) {
+void Mezclar(Estado& e, Mensajes& msj, double x) {
     const double cp = (1 - x) * e.CpAire + x * e.CpHumos;
     const double h = (1 - x) * e.hAire + x * e.hHumos;
     const double s0 = (1 - x) * e.S0Aire + x * e.S0Humos;
     const double s = (1 - x) * e.SAire + x * e.SHumos;
     if (!Finitos({cp, h, s0, s})) {
-        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaFueraDeRango);
         return;
     }
     e.CpMezcla = cp;
@@ -73,17 +73,17 @@ void CalcularCvGamma(Estado& e, double Cp) {
     e.GammaActual = Cp / e.CvActual;
 }
 
-void PropiedadesAire(Estado& e, Dialogos& dlg) {
+void PropiedadesAire(Estado& e, Mensajes& msj) {
     if (e.ErrorCalculo) return;
-    CalcularEspecies(e, dlg);
+    CalcularEspecies(e, msj);
     // O2, Ar, CO2 and N2 come with the air and go to the logarithm unguarded:
     // a fraction that is not positive stops the calculation here.
     if (!(e.xO2Aire > 0 && e.xArAire > 0 && e.xCO2Aire > 0 && e.xN2Aire > 0)) {
-        FalloAritmetico(e, dlg, kCausaFraccionAire);
+        FalloAritmetico(e, msj, kCausaFraccionAire);
         return;
     }
     if (e.Presion < 0) {
-        FalloAritmetico(e, dlg, kCausaPresionNegativa);
+        FalloAritmetico(e, msj, kCausaPresionNegativa);
         return;
     }
     const ValoresEspecies& v = Especies(e);
@@ -104,7 +104,7 @@ void PropiedadesAire(Estado& e, Dialogos& dlg) {
         if (e.xH2OAire > 0) s += TerminoS(e.xH2OAire, v.s0[H2O], P);
     }
     if (!Finitos({cp, h, s0, s, cp / (cp - kR)})) {
-        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaFueraDeRango);
         return;
     }
     e.CpAire = cp;
@@ -116,15 +116,15 @@ void PropiedadesAire(Estado& e, Dialogos& dlg) {
     e.SAire = s;  // with Presion exactly 0 it keeps its old value
 }
 
-void PropiedadesHumos(Estado& e, Dialogos& dlg) {
+void PropiedadesHumos(Estado& e, Mensajes& msj) {
     if (e.ErrorCalculo) return;
-    CalcularEspecies(e, dlg);
+    CalcularEspecies(e, msj);
     if (!(e.xCO2Humos > 0 && e.xArHumos > 0 && e.xN2Humos > 0)) {
-        FalloAritmetico(e, dlg, kCausaFraccionHumos);
+        FalloAritmetico(e, msj, kCausaFraccionHumos);
         return;
     }
     if (e.Presion < 0) {
-        FalloAritmetico(e, dlg, kCausaPresionNegativa);
+        FalloAritmetico(e, msj, kCausaPresionNegativa);
         return;
     }
     const bool baja = RangoBajo(e.Temperatura);
@@ -153,7 +153,7 @@ void PropiedadesHumos(Estado& e, Dialogos& dlg) {
         if (e.xO2Humos > 0) s += TerminoS(e.xO2Humos, v.s0[O2], P);
     }
     if (!Finitos({cp, h, s0, s, cp / (cp - kR)})) {
-        FalloAritmetico(e, dlg, kCausaFueraDeRango);
+        FalloAritmetico(e, msj, kCausaFueraDeRango);
         return;
     }
     if (baja) {
@@ -173,35 +173,35 @@ void PropiedadesHumos(Estado& e, Dialogos& dlg) {
     e.SHumos = s;
 }
 
-void PropiedadesAireHumos(Estado& e, Dialogos& dlg) {
+void PropiedadesAireHumos(Estado& e, Mensajes& msj) {
     if (e.ErrorCalculo) return;
-    PropiedadesAire(e, dlg);
-    PropiedadesHumos(e, dlg);
+    PropiedadesAire(e, msj);
+    PropiedadesHumos(e, msj);
     if (e.Qciclo == 0) {
-        FalloAritmetico(e, dlg, kCausaSinCalor);
+        FalloAritmetico(e, msj, kCausaSinCalor);
         return;
     }
     e.FraccionHumos = e.Q23 / e.Qciclo;
-    Mezclar(e, dlg, e.FraccionHumos);
+    Mezclar(e, msj, e.FraccionHumos);
 }
 
-void PropiedadesAireHumosFraccion(Estado& e, Dialogos& dlg, double x) {
+void PropiedadesAireHumosFraccion(Estado& e, Mensajes& msj, double x) {
     if (e.ErrorCalculo) return;
-    PropiedadesAire(e, dlg);
-    PropiedadesHumos(e, dlg);
-    Mezclar(e, dlg, x);
+    PropiedadesAire(e, msj);
+    PropiedadesHumos(e, msj);
+    Mezclar(e, msj, x);
 }
 
-void PropiedadesAireHumosLineal(Estado& e, Dialogos& dlg, double Valor1, double Valor2, double Valor3) {
+void PropiedadesAireHumosLineal(Estado& e, Mensajes& msj, double Valor1, double Valor2, double Valor3) {
     if (e.ErrorCalculo) return;
-    PropiedadesAire(e, dlg);
-    PropiedadesHumos(e, dlg);
+    PropiedadesAire(e, msj);
+    PropiedadesHumos(e, msj);
     if (Valor1 == Valor2) {
-        FalloAritmetico(e, dlg, kCausaLinealIgual);
+        FalloAritmetico(e, msj, kCausaLinealIgual);
         return;
     }
     e.FraccionHumos = (Valor3 - Valor2) / (Valor1 - Valor2);
-    Mezclar(e, dlg, e.FraccionHumos);
+    Mezclar(e, msj, e.FraccionHumos);
 }
 
 }  // namespace vanta

@@ -8,14 +8,14 @@
 #include <string>
 #include <string_view>
 
-#include "core/services/Puertos.h"
+#include "core/services/Mensajes.h"
 #include "core/state/Estado.h"
 
 namespace vanta {
 
-inline void FalloAritmetico(Estado& e, Dialogos& dlg, std::string_view causa) {
+inline void FalloAritmetico(Estado& e, Mensajes& msj, std::string_view causa) {
     if (!e.ErrorCalculo)
-        dlg.MsgBox("Error de cálculo: " + std::string(causa) +
+        msj.MsgBox("Error de cálculo: " + std::string(causa) +
                    ". Revise los datos y pulse el botón \"CALCULAR\" otra vez.");
     e.ErrorCalculo = Verdadero;
 }

@@ -266,20 +266,21 @@ std::optional<double> LeerNumero(std::string_view texto) {
     return negativo ? -*v : *v;
 }
 
-void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, double& destino, std::string_view nombre) {
-    if (auto v = LeerNumero(control.Text())) {
+void ValidarNumero(Estado& e, Mensajes& msj, std::string_view texto, double& destino, std::string_view nombre,
+                   const CampoEntrada& entrada) {
+    if (auto v = LeerNumero(texto)) {
         destino = *v;
-        control.SetSelStart(50);
         return;
     }
-    dlg.MsgBox(std::string(nombre) + std::string(kNoEsNumero));
-    control.SetFocus();
+    msj.MsgBox(std::string(nombre) + std::string(kNoEsNumero), entrada);
+    msj.Foco(entrada);
     e.ErrorCalculo = Verdadero;
 }
 
-void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, float& destino, std::string_view nombre) {
+void ValidarNumero(Estado& e, Mensajes& msj, std::string_view texto, float& destino, std::string_view nombre,
+                   const CampoEntrada& entrada) {
     double v = destino;
-    ValidarNumero(e, dlg, control, v, nombre);
+    ValidarNumero(e, msj, texto, v, nombre, entrada);
     destino = static_cast<float>(v);
 }
 

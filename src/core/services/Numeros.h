@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/services/Puertos.h"
+#include "core/services/Mensajes.h"
 #include "core/state/Estado.h"
 
 namespace vanta {
@@ -29,12 +29,15 @@ std::string TextoGeneral(const Variante& v, char separador);
 // is not a number.
 std::optional<double> LeerNumero(std::string_view texto);
 
-// Reads a box into destino. A text that is not a number shows nombre followed
-// by "no es un número", puts the focus back and sets ErrorCalculo; destino then
-// keeps its value. Never clears ErrorCalculo.
-void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, double& destino, std::string_view nombre);
+// Reads the text typed for an input into destino. A text that is not a number
+// shows nombre followed by "no es un número", puts the focus on the input's
+// box and sets ErrorCalculo; destino then keeps its value. Never clears
+// ErrorCalculo.
+void ValidarNumero(Estado& e, Mensajes& msj, std::string_view texto, double& destino, std::string_view nombre,
+                   const CampoEntrada& entrada);
 
 // The same for the single-precision members of the tables tool.
-void ValidarNumero(Estado& e, Dialogos& dlg, CajaTexto& control, float& destino, std::string_view nombre);
+void ValidarNumero(Estado& e, Mensajes& msj, std::string_view texto, float& destino, std::string_view nombre,
+                   const CampoEntrada& entrada);
 
 }  // namespace vanta

@@ -15,32 +15,6 @@ namespace vanta {
 
 namespace {
 
-// Every option of the calculation with a value.
-constexpr EntradaEstudio kEntradas[] = {
-    {"presion-ambiente", "Pa", "Presión ambiente", true},
-    {"temperatura-ambiente", "K", "Temperatura ambiente", true},
-    {"humedad", "%", "Humedad relativa", true},
-    {"combustible", "", "Combustible", false},
-    {"formula", "", "Fórmula del combustible (C,H,N,O,S)", false},
-    {"masa", "", "Composición en masa del combustible (C,N,O,S)", false},
-    {"masa-molecular", "kg/mol", "Masa molecular del combustible", true},
-    {"entalpia-formacion", "J/mol", "Entalpía de formación del combustible", true},
-    {"fr", "-", "Dosado relativo Fr", true},
-    {"lambda", "-", "Lambda", true},
-    {"ciclo", "", "Ciclo", false},
-    {"cilindrada", "c.c.", "Cilindrada", true},
-    {"rc", "-", "Relación de compresión", true},
-    {"p1", "Pa", "Presión al final de la admisión", true},
-    {"t1", "K", "Temperatura al final de la admisión", true},
-    {"compresion", "", "Modelo de la compresión", false},
-    {"n-compresion", "-", "Exponente politrópico de la compresión", true},
-    {"expansion", "", "Modelo de la expansión", false},
-    {"n-expansion", "-", "Exponente politrópico de la expansión", true},
-    {"proporcion-vcte", "%", "Calor a volumen constante", true},
-    {"pmax", "Pa", "Presión máxima", true},
-    {"rpm", "rpm", "Régimen", true},
-};
-
 #define VANTA_CAMPO(nombre, unidad, titulo, campo)                                             \
     {                                                                                          \
         nombre, unidad, titulo, #campo,                                                        \
@@ -93,13 +67,11 @@ const SalidaEstudio kSalidas[] = {
 }  // namespace
 
 std::span<const EntradaEstudio> EntradasEstudio() {
-    return kEntradas;
+    return TablaEntradas();
 }
 
 const EntradaEstudio* BuscarEntradaEstudio(std::string_view nombre) {
-    for (const auto& entrada : kEntradas)
-        if (nombre == entrada.nombre) return &entrada;
-    return nullptr;
+    return BuscarEntrada(nombre);
 }
 
 std::span<const SalidaEstudio> SalidasEstudio() {
@@ -113,33 +85,10 @@ const SalidaEstudio* BuscarSalidaEstudio(std::string_view nombre) {
 }
 
 std::vector<std::string> ValoresEleccion(std::string_view nombre) {
-    if (nombre == "combustible") {
-        std::vector<std::string> v;
-        for (const auto& c : kBibliotecaCombustibles) v.emplace_back(c.nombre);
-        return v;
-    }
-    if (nombre == "ciclo") return {"Otto", "Diesel", "Mixto"};
-    if (nombre == "compresion" || nombre == "expansion") return {"medio", "politropica", "variable"};
-    return {};
-}
-
-void QuitarExcluidas(OpcionesCalculo& o, std::string_view nombre) {
-    // Groups of inputs of which one leads.
-    static const std::vector<std::vector<std::string_view>> kGrupos = {
-        {"fr", "lambda"},
-        {"proporcion-vcte", "pmax"},
-        {"combustible", "formula", "masa"},
-    };
-    static const std::vector<std::string_view> kDelCombustiblePropio = {"masa-molecular",
-                                                                        "entalpia-formacion"};
-    for (const auto& grupo : kGrupos) {
-        if (std::find(grupo.begin(), grupo.end(), nombre) == grupo.end()) continue;
-        for (std::string_view otra : grupo)
-            if (otra != nombre) o.valores.erase(std::string(otra));
-    }
-    if (nombre == "combustible")
-        for (std::string_view otra : kDelCombustiblePropio) o.valores.erase(std::string(otra));
-    if (nombre == "formula") o.valores.erase("masa-molecular");
+    std::vector<std::string> v;
+    if (const DefinicionEntrada* d = BuscarEntrada(nombre))
+        for (std::string_view valor : d->valores) v.emplace_back(valor);
+    return v;
 }
 
 // ---- Values of a varied input ---------------------------------------------------
@@ -258,30 +207,64 @@ OpcionesCalculo OpcionesPunto(const Estudio& estudio, size_t punto) {
     return o;
 }
 
+Entradas EntradasPunto(const Estudio& estudio, size_t punto) {
+    return EntradasDeOpciones(OpcionesPunto(estudio, punto));
+}
+
 ResultadoPunto CalcularPunto(const Estudio& estudio, size_t punto) {
-    const OpcionesCalculo o = OpcionesPunto(estudio, punto);
-    // The state and the pens of `vanta calcular`.
-    Estado e;
-    e.SeparadorDecimal = estudio.separador;
-    GuardarColoresDiagramas(e);
-    DialogosGrabados dlg;
-    SuperficiesNulas nulas;
-    SuperficiesCalculo s = nulas.Todas();
-    VentanaPrincipalSimple v;
-    ResultadoPunto r;
-    r.bien = CalcularTodo(e, o, dlg, s, v);
-    double potencia = std::nan("");
+    Entradas x = EntradasPunto(estudio, punto);
     const bool conRegimen =
         std::any_of(estudio.salidas.begin(), estudio.salidas.end(), [](auto* s) { return s->conRegimen; });
-    if (r.bien && conRegimen) {
-        CajaTextoSimple txtRpm(o.Valor("rpm"));
-        potencia = Potencia(e, dlg, e.Wciclo, txtRpm);
-        r.bien = !e.ErrorCalculo;
-    }
+    // The speed only where an output needs the power.
+    if (!conRegimen) x.rpm.clear();
+    const ResultadoCalculo c = Calcular(x, estudio.separador);
+    ResultadoPunto r;
+    r.bien = c.bien;
     for (const SalidaEstudio* salida : estudio.salidas)
-        r.valores.push_back(r.bien ? salida->valor(e, potencia) : std::nan(""));
-    r.mensajes = std::move(dlg.mensajes);
+        r.valores.push_back(r.bien ? salida->valor(*c.estado, c.vatios) : std::nan(""));
+    r.mensajes = c.TextosMensajes();
     return r;
+}
+
+std::string ComprobarEstudio(const Estudio& estudio) {
+    if (estudio.variaciones.empty()) return std::string(kMensajeSinVariar);
+    if (estudio.variaciones.size() > 2) return std::string(kMensajeDemasiadas);
+    for (size_t i = 0; i < estudio.variaciones.size(); ++i) {
+        const Variacion& v = estudio.variaciones[i];
+        const DefinicionEntrada* d = BuscarEntrada(v.nombre);
+        if (!d) return "no se puede variar " + v.nombre;
+        if (i == 1 && estudio.variaciones[0].nombre == v.nombre) return std::string(kMensajeMismaEntrada);
+        const std::string titulo(d->titulo);
+        if (estudio.base.Tiene(v.nombre)) return titulo + std::string(kMensajeDadaYVariada);
+        // Every value of a choice, with the first value of the other input,
+        // passes the checks of the inputs; those read no number, so the first
+        // value of a number stands for all.
+        const size_t valores = d->Numerica() ? 1 : v.Cuenta();
+        for (size_t k = 0; k < valores; ++k) {
+            OpcionesCalculo o = estudio.base;
+            for (const Variacion& otra : estudio.variaciones) o.valores[otra.nombre] = otra.Valor(0);
+            o.valores[v.nombre] = v.Valor(k);
+            if (std::string error = ComprobarOpciones(o); !error.empty()) return titulo + ": " + error;
+        }
+    }
+    const bool regimen =
+        estudio.base.Tiene("rpm") || std::any_of(estudio.variaciones.begin(), estudio.variaciones.end(),
+                                                 [](const Variacion& v) { return v.nombre == "rpm"; });
+    for (const SalidaEstudio* s : estudio.salidas)
+        if (s->conRegimen && !regimen)
+            return "La salida " + std::string(s->nombre) + std::string(kMensajeSinRegimen);
+    if (NumeroPuntos(estudio) > kPuntosMaximos)
+        return "el estudio tiene demasiados puntos: " + std::to_string(NumeroPuntos(estudio));
+    return {};
+}
+
+OpcionesCalculo BaseDeVentanas(const Entradas& ventanas, const std::vector<std::string>& variadas) {
+    OpcionesCalculo base = OpcionesDeEntradas(ventanas);
+    for (const std::string& nombre : variadas) {
+        QuitarExcluidas(base, nombre);
+        base.valores.erase(nombre);
+    }
+    return base;
 }
 
 std::pair<size_t, size_t> PuntosDeLaParte(size_t puntos, Parte parte) {

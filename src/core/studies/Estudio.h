@@ -14,19 +14,14 @@
 #include <string_view>
 #include <vector>
 
-#include "core/sequence/Secuencia.h"
+#include "core/sequence/Calculo.h"
 #include "core/state/Estado.h"
 
 namespace vanta {
 
-// An input a study may vary: an option of the calculation by its name, its
+// An input a study may vary: any input of the calculation, by its name, its
 // unit (empty for a choice such as the fuel or the cycle) and its caption.
-struct EntradaEstudio {
-    const char* nombre;
-    const char* unidad;
-    const char* titulo;
-    bool numerica;
-};
+using EntradaEstudio = DefinicionEntrada;
 std::span<const EntradaEstudio> EntradasEstudio();
 const EntradaEstudio* BuscarEntradaEstudio(std::string_view nombre);
 
@@ -48,11 +43,6 @@ const SalidaEstudio* BuscarSalidaEstudio(std::string_view nombre);
 // The values a choice takes (the fuels of the list, the cycles, the models);
 // empty for a number or a fuel's own formula.
 std::vector<std::string> ValoresEleccion(std::string_view nombre);
-
-// Drops from the inputs those that exclude the one named, as a click on its
-// option does on the screen: Fr and Lambda, the share of heat and Pmax, a
-// fuel of the list and a fuel of one's own.
-void QuitarExcluidas(OpcionesCalculo& o, std::string_view nombre);
 
 // A varied input and its values, texts as typed into its box: a list, or a
 // range whose values are worked out when they are asked for, so that a range
@@ -81,6 +71,7 @@ std::string LeerValores(std::string_view texto, bool numerica, Variacion& v);
 inline constexpr size_t kPuntosMaximos = 10'000'000;
 
 struct Estudio {
+    // The inputs given for every point; the rest are as the screens start.
     OpcionesCalculo base;
     std::vector<Variacion> variaciones;  // one or two
     std::vector<const SalidaEstudio*> salidas;
@@ -92,8 +83,29 @@ struct Estudio {
 size_t NumeroPuntos(const Estudio& estudio);
 // The index of each input's value at a point.
 std::vector<size_t> IndicesPunto(const Estudio& estudio, size_t punto);
-// The inputs of a point: the base with the varied values in their boxes.
+// The inputs of a point: the base with the varied values.
 OpcionesCalculo OpcionesPunto(const Estudio& estudio, size_t punto);
+Entradas EntradasPunto(const Estudio& estudio, size_t punto);
+
+// Why a study cannot run.
+inline constexpr std::string_view kMensajeSinVariar = "Falta la entrada que varía el estudio";
+inline constexpr std::string_view kMensajeDemasiadas = "Un estudio varía una entrada o dos, no más";
+inline constexpr std::string_view kMensajeMismaEntrada = "Las dos entradas variadas han de ser distintas";
+inline constexpr std::string_view kMensajeDadaYVariada =
+    ": se da a la vez en el cálculo de partida y variada";
+inline constexpr std::string_view kMensajeSinRegimen =
+    " necesita el régimen: escríbalo (rpm) o varíelo en el estudio";
+
+// Why a study cannot run, or empty: one input or two, each varied once, over
+// values its input takes (a name of the fuel list, a cycle, a model), none
+// given in the base as well or excluding an input of the base, and the speed
+// given or varied for the outputs that need it. The same rules for the window
+// and the command line.
+std::string ComprobarEstudio(const Estudio& estudio);
+// The base of a study from the inputs as the windows hold them: each varied
+// input leads, as choosing it on its window would make it, and is taken off
+// the base with the inputs it excludes.
+OpcionesCalculo BaseDeVentanas(const Entradas& ventanas, const std::vector<std::string>& variadas);
 
 struct ResultadoPunto {
     bool bien = false;

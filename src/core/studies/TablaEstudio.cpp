@@ -3,6 +3,7 @@
 #include <cmath>
 #include <ostream>
 
+#include "core/services/JSON.h"
 #include "core/services/Numeros.h"
 
 namespace vanta {
@@ -44,11 +45,13 @@ std::string Linea(const std::vector<std::string>& campos, DialectoCSV d) {
     return linea + "\r\n";
 }
 
-std::string NombreConUnidad(const std::string& nombre, const char* unidad) {
-    return *unidad ? nombre + " [" + unidad + "]" : nombre;
+std::string NombreConUnidad(std::string_view nombre, std::string_view unidad) {
+    std::string t(nombre);
+    if (!unidad.empty()) t += " [" + std::string(unidad) + "]";
+    return t;
 }
 
-std::string Mensajes(const std::vector<std::string>& mensajes) {
+std::string UnirMensajes(const std::vector<std::string>& mensajes) {
     std::string t;
     for (const std::string& m : mensajes) t += (t.empty() ? "" : " | ") + m;
     return t;
@@ -60,7 +63,7 @@ std::string TextoEntrada(const Estudio& estudio, size_t i, size_t punto, char de
     const Variacion& v = estudio.variaciones[i];
     const std::string texto = v.Valor(IndicesPunto(estudio, punto)[i]);
     const EntradaEstudio* entrada = BuscarEntradaEstudio(v.nombre);
-    if (entrada && entrada->numerica)
+    if (entrada && entrada->Numerica())
         if (const auto x = LeerNumero(texto)) return ConDecimal(TextoNumeroJSON(*x), decimal);
     return texto;
 }
@@ -71,7 +74,7 @@ std::string TextoSalida(const SalidaEstudio& salida, double valor, char decimal)
                       decimal);
 }
 
-std::string TituloConUnidad(const char* titulo, const char* unidad) {
+std::string TituloConUnidad(std::string_view titulo, std::string_view unidad) {
     return NombreConUnidad(titulo, unidad);
 }
 
@@ -79,7 +82,7 @@ std::string CabeceraCSV(const Estudio& estudio, DialectoCSV dialecto) {
     std::vector<std::string> campos;
     for (const Variacion& v : estudio.variaciones) {
         const EntradaEstudio* entrada = BuscarEntradaEstudio(v.nombre);
-        campos.push_back(NombreConUnidad(v.nombre, entrada ? entrada->unidad : ""));
+        campos.push_back(NombreConUnidad(v.nombre, entrada ? entrada->unidad : std::string_view()));
     }
     for (const SalidaEstudio* s : estudio.salidas) campos.push_back(NombreConUnidad(s->nombre, s->unidad));
     campos.push_back("mensajes");
@@ -92,7 +95,7 @@ std::string FilaCSV(const Estudio& estudio, size_t punto, const ResultadoPunto& 
         campos.push_back(TextoEntrada(estudio, i, punto, SeparadorDecimal(dialecto)));
     for (size_t j = 0; j < estudio.salidas.size(); ++j)
         campos.push_back(TextoSalida(*estudio.salidas[j], r.valores[j], SeparadorDecimal(dialecto)));
-    campos.push_back(Mensajes(r.mensajes));
+    campos.push_back(UnirMensajes(r.mensajes));
     return Linea(campos, dialecto);
 }
 
@@ -102,7 +105,7 @@ namespace {
 
 std::string ValorJSON(const Estudio& estudio, size_t i, const std::string& texto) {
     const EntradaEstudio* entrada = BuscarEntradaEstudio(estudio.variaciones[i].nombre);
-    if (entrada && entrada->numerica)
+    if (entrada && entrada->Numerica())
         if (const auto x = LeerNumero(texto)) return TextoNumeroJSON(*x);
     return TextoCadenaJSON(texto);
 }
@@ -116,7 +119,8 @@ EscritorJSONEstudio::EscritorJSONEstudio(std::ostream& os, const Estudio& estudi
         const Variacion& v = estudio.variaciones[i];
         const EntradaEstudio* entrada = BuscarEntradaEstudio(v.nombre);
         os_ << (i ? "," : "") << "{\"nombre\":" << TextoCadenaJSON(v.nombre)
-            << ",\"unidad\":" << TextoCadenaJSON(entrada ? entrada->unidad : "") << ",\"valores\":[";
+            << ",\"unidad\":" << TextoCadenaJSON(entrada ? std::string(entrada->unidad) : std::string())
+            << ",\"valores\":[";
         for (size_t k = 0; k < v.Cuenta(); ++k) os_ << (k ? "," : "") << ValorJSON(estudio, i, v.Valor(k));
         os_ << "]}";
     }

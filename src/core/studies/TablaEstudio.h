@@ -30,7 +30,7 @@ std::string TextoEntrada(const Estudio& estudio, size_t i, size_t punto, char de
 // An output's value with the decimal separator given; empty when it has none.
 std::string TextoSalida(const SalidaEstudio& salida, double valor, char decimal = '.');
 // The caption of a column: "Relación de compresión [-]".
-std::string TituloConUnidad(const char* titulo, const char* unidad);
+std::string TituloConUnidad(std::string_view titulo, std::string_view unidad);
 
 // The study as one JSON document: its inputs with their units and values, its
 // outputs with their units, then one object a point: "entradas" and

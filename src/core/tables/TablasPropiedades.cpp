@@ -59,37 +59,20 @@ std::string FueraDeRango(const Estado& e, double temperatura) {
 }
 
 // A refusal of the tool: its message, the flag, and no table.
-bool Rechazar(Estado& e, Dialogos& dlg, VisorTablas& v, std::string_view mensaje) {
-    dlg.MsgBox(mensaje);
+bool Rechazar(Estado& e, Mensajes& msj, VisorTablas& v, std::string_view mensaje) {
+    msj.MsgBox(mensaje);
     e.ErrorCalculo = Verdadero;
     v.Ocultar();
     return false;
 }
 
-// Counts the messages that pass, to tell a refused number.
-class DialogosContados : public Dialogos {
-public:
-    explicit DialogosContados(Dialogos& dlg) : dlg_(dlg) {}
-    void MsgBox(std::string_view mensaje) override {
-        ++cuenta;
-        dlg_.MsgBox(mensaje);
-    }
-    std::string InputBox(std::string_view prompt, std::string_view porDefecto) override {
-        return dlg_.InputBox(prompt, porDefecto);
-    }
-    int cuenta = 0;
-
-private:
-    Dialogos& dlg_;
-};
-
 // The three boxes into the window's members; false when one was refused.
-bool LeerLimites(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m) {
-    DialogosContados contados(dlg);
-    ValidarNumero(e, contados, c.txtAT, m.AT, kNombreIncremento);
-    ValidarNumero(e, contados, c.txtTinicial, m.Tinicial, kNombreTinicial);
-    ValidarNumero(e, contados, c.txtTfinal, m.Tfinal, kNombreTfinal);
-    return contados.cuenta == 0;
+bool LeerLimites(Estado& e, Mensajes& msj, const EntradasHerramientas& c, MiembrosHerramientas& m) {
+    const size_t antes = msj.lista.size();
+    ValidarNumero(e, msj, c.incremento, m.AT, kNombreIncremento, {std::string(kCampoIncremento)});
+    ValidarNumero(e, msj, c.tInicial, m.Tinicial, kNombreTinicial, {std::string(kCampoTinicial)});
+    ValidarNumero(e, msj, c.tFinal, m.Tfinal, kNombreTfinal, {std::string(kCampoTfinal)});
+    return msj.lista.size() == antes;
 }
 
 // Where the walk starts: the first row's temperature less one step, taken in
@@ -173,15 +156,15 @@ std::optional<Especie> EspecieDe(std::string_view texto) {
 
 }  // namespace
 
-bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
+bool cmdTablas_Click(Estado& e, Mensajes& msj, const EntradasHerramientas& c, MiembrosHerramientas& m,
                      VisorTablas& v, std::string_view tipoCombustible) {
     // Each press starts clear, as CALCULAR does: a refused text of the last
     // table must not silence the evaluations of this one.
     e.ErrorCalculo = Falso;
     v.Mostrar();
     v.PonerTexto(" ");
-    const bool aire = c.optAire.Value(), humos = c.optHumos.Value();
-    const bool mol = c.optMol.Value(), kg = c.optKg.Value();
+    const bool aire = c.aire, humos = c.humos;
+    const bool mol = c.porMol, kg = c.porKg;
     if (aire)
         v.PonerTexto("     Aire con " + TextoGeneral(e.Humedad, e.SeparadorDecimal) + " % de humedad" +
                      std::string(kFinLinea) + std::string(kFinLinea));
@@ -193,11 +176,11 @@ bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, Miembro
     if (mol) AnadirCabecera(v, kCabeceraMezclaMol);
     if (kg) AnadirCabecera(v, kCabeceraMezclaKg);
 
-    if (!LeerLimites(e, dlg, c, m)) {
+    if (!LeerLimites(e, msj, c, m)) {
         v.Ocultar();
         return false;
     }
-    if (auto rechazo = RangoRechazado(m)) return Rechazar(e, dlg, v, *rechazo);
+    if (auto rechazo = RangoRechazado(m)) return Rechazar(e, msj, v, *rechazo);
 
     // One fluid's row from its molar properties; the gases' entropy is shown
     // with two decimals although it is rounded to three, and both fluids go
@@ -218,7 +201,7 @@ bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, Miembro
                          {"                  ", e.Gamma, 4, kMascara4}});
         else
             return true;
-        if (!fila) return Rechazar(e, dlg, v, FueraDeRango(e, e.Temperatura));
+        if (!fila) return Rechazar(e, msj, v, FueraDeRango(e, e.Temperatura));
         v.Anadir(*fila);
         return true;
     };
@@ -227,38 +210,38 @@ bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, Miembro
     // goes on writing the values last evaluated.
     return Recorrer(e, m, [&] {
         if (aire) {
-            PropiedadesAire(e, dlg);
+            PropiedadesAire(e, msj);
             if (!filaFluido(e.CpAire, e.hAire, e.S0Aire, kMascara3)) return false;
         }
         if (humos) {
-            PropiedadesHumos(e, dlg);
+            PropiedadesHumos(e, msj);
             if (!filaFluido(e.CpHumos, e.hHumos, e.S0Humos, kMascara2)) return false;
         }
         return true;
     });
 }
 
-bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
+bool cmdTab_Click(Estado& e, Mensajes& msj, const EntradasHerramientas& c, MiembrosHerramientas& m,
                   VisorTablas& v) {
     e.ErrorCalculo = Falso;
     v.Mostrar();
-    if (!LeerLimites(e, dlg, c, m)) {
+    if (!LeerLimites(e, msj, c, m)) {
         v.Ocultar();
         return false;
     }
-    const std::string nombre = c.cboElemento.Text();
-    const bool mol = c.optMol.Value(), kg = c.optKg.Value();
+    const std::string& nombre = c.elemento;
+    const bool mol = c.porMol, kg = c.porKg;
     v.PonerTexto(nombre + std::string(kCierre));
     if (mol) AnadirCabecera(v, kCabeceraEspecieMol);
     if (kg) AnadirCabecera(v, kCabeceraEspecieKg);
-    if (auto rechazo = RangoRechazado(m)) return Rechazar(e, dlg, v, *rechazo);
+    if (auto rechazo = RangoRechazado(m)) return Rechazar(e, msj, v, *rechazo);
 
     const std::optional<Especie> especie = EspecieDe(nombre);
     return Recorrer(e, m, [&] {
         // The text is told only when a row is due: a range with no rows shows
         // the heading under whatever the list says.
         if (!especie) {
-            dlg.MsgBox(kElijaElemento);
+            msj.MsgBox(kElijaElemento);
             v.Ocultar();
             return false;
         }
@@ -285,7 +268,7 @@ bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHe
                          {"                  ", Cp / (Cp - kR), 4, kMascara4}});
         else
             return true;
-        if (!fila) return Rechazar(e, dlg, v, FueraDeRango(e, e.Temperatura));
+        if (!fila) return Rechazar(e, msj, v, FueraDeRango(e, e.Temperatura));
         v.Anadir(*fila);
         return true;
     });

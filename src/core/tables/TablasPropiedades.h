@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "core/reports/ArchivosInforme.h"
-#include "core/services/Puertos.h"
+#include "core/services/Mensajes.h"
 #include "core/state/Estado.h"
 
 namespace vanta {
@@ -61,18 +61,20 @@ public:
     bool visible = false;
 };
 
-// What the tool's window gives the tables: the three temperature boxes, the
-// two pairs of options and the species list (its text, typed or chosen).
-struct ControlesHerramientas {
-    CajaTexto& txtAT;
-    CajaTexto& txtTinicial;
-    CajaTexto& txtTfinal;
-    Interruptor& optMol;
-    Interruptor& optKg;
-    Interruptor& optAire;
-    Interruptor& optHumos;
-    CajaTexto& cboElemento;
+// What the tool's window gives the tables: the texts of the three
+// temperature boxes, the two pairs of options and the species list (its
+// text, typed or chosen).
+struct EntradasHerramientas {
+    std::string incremento{kTextoIncremento}, tInicial{kTextoTinicial}, tFinal{kTextoTfinal};
+    bool porMol = false, porKg = false;
+    bool aire = false, humos = false;
+    std::string elemento{kTextoElegir};
 };
+
+// The boxes of the three temperatures as messages name them, for the focus.
+inline constexpr std::string_view kCampoIncremento = "incremento";
+inline constexpr std::string_view kCampoTinicial = "temperatura-inicial";
+inline constexpr std::string_view kCampoTfinal = "temperatura-final";
 
 // The window's single-precision members that the three boxes are read into;
 // they keep their values from one table to the next.
@@ -90,12 +92,12 @@ struct MiembrosHerramientas {
 // row in the state. Returns false when a number was refused, the range was
 // refused or a value left the numbers of the program; the message is told and
 // the viewer hidden.
-bool cmdTablas_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
+bool cmdTablas_Click(Estado& e, Mensajes& msj, const EntradasHerramientas& c, MiembrosHerramientas& m,
                      VisorTablas& v, std::string_view tipoCombustible);
 
 // The table of the species named by the list's text. Returns false as above,
 // and for a text that is not a species of the list.
-bool cmdTab_Click(Estado& e, Dialogos& dlg, ControlesHerramientas& c, MiembrosHerramientas& m,
+bool cmdTab_Click(Estado& e, Mensajes& msj, const EntradasHerramientas& c, MiembrosHerramientas& m,
                   VisorTablas& v);
 
 }  // namespace vanta

@@ -4,11 +4,11 @@
 #include <cmath>
 #include <set>
 
-#include "core/fluids/Combustible.h"
-#include "core/sequence/Secuencia.h"
-#include "core/validation/CicloIdeal.h"
-#include "core/validation/Cifras.h"
-#include "core/validation/Referencias.h"
+#include "core/inputs/BibliotecaCombustibles.h"
+#include "core/sequence/Calculo.h"
+#include "core/warnings/CicloIdeal.h"
+#include "core/warnings/Cifras.h"
+#include "core/warnings/Referencias.h"
 
 namespace vanta {
 
@@ -149,12 +149,9 @@ std::string NotaCombustion(const BalanceProceso& b, const Estado& e, char sep) {
 
 std::vector<Comprobacion> ComprobarCiclo(const std::string& nombreCiclo, const OpcionesCalculo& o, char sep) {
     std::vector<Comprobacion> filas;
-    Estado e;
-    DialogosGrabados dlg;
-    SuperficiesNulas nulas;
-    SuperficiesCalculo s = nulas.Todas();
-    VentanaPrincipalSimple v;
-    if (!CalcularTodo(e, o, dlg, s, v)) {
+    const ResultadoCalculo calculo = Calcular(EntradasDeOpciones(o));
+    const Estado& e = *calculo.estado;
+    if (!calculo.CicloCalculado()) {
         filas.push_back({GrupoValidacion::Balance,
                          nombreCiclo + ": el cálculo",
                          "no termina",
@@ -239,9 +236,9 @@ int TablaValidacion::Cuenta(Resultado r) const {
 
 ValoresEspecies EspeciesDelPrograma(double T) {
     Estado e;
-    DialogosGrabados dlg;
+    Mensajes msj;
     e.Temperatura = T;
-    CalcularEspecies(e, dlg);
+    CalcularEspecies(e, msj);
     return LeerEspecies(e, RangoBajo(T));
 }
 
@@ -274,12 +271,12 @@ std::vector<Comprobacion> ComprobarCombustibles(char sep) {
     std::vector<Comprobacion> filas;
     for (const CombustibleDeLista& c : kBibliotecaCombustibles) {
         Estado e;
-        OpcionesCalculo o;
-        o.valores["combustible"] = std::string(c.nombre);
-        DialogosGrabados dlg;
+        Entradas x;
+        x.combustible = c.nombre;
+        Mensajes msj;
         SuperficiesNulas nulas;
         SuperficiesCalculo s = nulas.Todas();
-        DefinirFluido(e, o, dlg, s, true);
+        DefinirFluido(e, msj, x, s, true);
         for (const auto& lista : ReferenciasLista()) {
             if (lista.combustible != c.nombre) continue;
             for (std::string_view nombre : lista.referencias) {

@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/inputs/Entradas.h"
 #include "core/properties/Especies.h"
-#include "core/sequence/Secuencia.h"
 #include "core/state/Estado.h"
 
 namespace vanta {

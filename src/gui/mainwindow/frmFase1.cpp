@@ -15,8 +15,8 @@
 #include <QUrl>
 
 #include "core/reports/ArchivosInforme.h"
-#include "core/validation/Avisos.h"
-#include "core/validation/CicloIdeal.h"
+#include "core/warnings/Avisos.h"
+#include "core/warnings/CicloIdeal.h"
 #include "gui/comparison/Comparar.h"
 #include "gui/comparison/frmExportar.h"
 #include "gui/cycle/frmOtto_Diesel.h"

@@ -8,8 +8,8 @@
 #include <QString>
 #include <vector>
 
-#include "core/validation/Avisos.h"
-#include "core/validation/CicloIdeal.h"
+#include "core/warnings/Avisos.h"
+#include "core/warnings/CicloIdeal.h"
 
 class QLabel;
 

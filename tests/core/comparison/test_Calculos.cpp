@@ -16,16 +16,12 @@ struct Original {
     // The calculation as a window of that decimal separator runs it: its
     // report writes the separator too.
     explicit Original(std::map<std::string, std::string> valores, char separador = '.') {
-        GuardarColoresDiagramas(e);
-        e.SeparadorDecimal = separador;
-        const OpcionesCalculo o{std::move(valores)};
-        DialogosGrabados dlg;
-        SuperficiesNulas s;
-        SuperficiesCalculo sc = s.Todas();
-        VentanaPrincipalSimple v;
-        bien = CalcularTodo(e, o, dlg, sc, v);
-        tipo = v.tipoCombustible;
-        informe = v.informe;
+        const ResultadoCalculo r =
+            Calcular(EntradasDeOpciones(OpcionesCalculo{std::move(valores)}), separador);
+        e = *r.estado;
+        bien = r.CicloCalculado();
+        tipo = r.tipoCombustible;
+        informe = r.informe;
     }
     bd::TextosRegistro Registro() const { return bd::ValoresRegistro(e, "registro", tipo, informe); }
 };

@@ -74,13 +74,13 @@ TEST(Lectura, LaRejillaDeCadaCicloContraSuArchivo) {
         auto c = Calcular(opciones);
         ASSERT_TRUE(c->bien) << nombre;
         s += std::string("== ") + nombre + "\n" + Rejilla(*c);
-        EXPECT_TRUE(c->dlg.mensajes.empty());
+        EXPECT_TRUE(c->r.mensajes.empty());
     }
     EXPECT_EQ(CompararDorado("lectura.txt", s), "");
 }
 
 TEST(Lectura, UnEmpateExactoEsDeLaCompresionYSinCicloNoHayLectura) {
-    auto c = Calcular({});
+    auto c = Calcular(std::vector<std::string>{});
     Estado& e = c->e;
     // Volumes that singles hold exactly, so that both candidates are round:
     // the compression gives 4·p1 at half the stroke, the expansion p4 there.
@@ -105,10 +105,9 @@ TEST(Lectura, LasCifrasDelCierreNoCambianConLosMovimientos) {
     auto c = Calcular({"--compresion", "variable", "--expansion", "variable"});
     Estado& e = c->e;
     auto potencia = [&e] {
-        CajaTextoSimple rpm("3000"), w, cv;
-        DialogosGrabados dlg;
-        txtRpm_Change(e, dlg, e.Wciclo, rpm, w, cv);
-        return w.Text() + " / " + cv.Text();
+        Mensajes dlg;
+        const auto p = txtRpm_Change(e, dlg, e.Wciclo, "3000");
+        return p->potencia + " / " + p->potenciaCV;
     };
     const std::string antes = potencia();
     const auto registro = bd::ValoresRegistro(e, "r", "Gasolina", "");

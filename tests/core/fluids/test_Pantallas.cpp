@@ -4,11 +4,10 @@
 // two leading boxes, the cycle's pictures and options, and the power block.
 #include <gtest/gtest.h>
 
-#include "core/cycle/PantallaCiclo.h"
 #include "core/fluids/AireHumedo.h"
 #include "core/fluids/Combustible.h"
 #include "core/fluids/Combustion.h"
-#include "core/sequence/Secuencia.h"
+#include "core/sequence/Calculo.h"
 #include "core/services/Numeros.h"
 #include "tests/Dorados.h"
 
@@ -19,32 +18,20 @@ namespace {
 
 struct Registro {
     std::string s;
-    DialogosGrabados dlg;
+    Mensajes msj;
     void operator()(const std::string& evento,
                     std::initializer_list<std::pair<const char*, std::string>> vistos) {
         s += evento + ":";
         for (auto [que, valor] : vistos) s += " " + std::string(que) + "[" + valor + "]";
         s += "\n";
-        for (const std::string& m : dlg.mensajes) s += "  mensaje: " + m + "\n";
-        dlg.mensajes.clear();
+        for (const std::string& m : msj.Textos()) s += "  mensaje: " + m + "\n";
+        msj = {};
     }
 };
 
 std::string Si(bool b) {
     return b ? "1" : "0";
 }
-
-// The cycle window's frames and pictures, as the logic sets them.
-struct FormularioCicloGrabado : FormularioCiclo {
-    std::string marcos, resaltado;
-    void MostrarMarcos(const Marcos& m) override {
-        marcos =
-            Si(m.compresion) + Si(m.expansion) + Si(m.aire) + Si(m.opcion) + Si(m.datos) + Si(m.seleccionar);
-    }
-    void ResaltarCiclo(const CiclosResaltados& c) override {
-        resaltado = Si(c.otto) + Si(c.diesel) + Si(c.mixto);
-    }
-};
 
 }  // namespace
 
@@ -53,140 +40,138 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
     Registro r;
     SuperficieNula pct;
 
-    // The air.
-    CajaTextoSimple txtPreAmb("101325"), txtTemAmb("288"), txtHum("50");
-    InterruptorSimple chkAire(true);
-    VentanaSimple vAire;
-    ControlesAire aire{.txtPreAmb = txtPreAmb,
-                       .txtTemAmb = txtTemAmb,
-                       .txtHum = txtHum,
-                       .chkOcultar = chkAire,
-                       .ventana = vAire,
-                       .pct1 = pct};
-    // An ambient temperature out of range keeps the window open.
+    // The air. An ambient temperature out of range keeps the window open.
+    Entradas aire;
+    aire.presionAmbiente = "101325", aire.temperaturaAmbiente = "288", aire.humedad = "50";
     for (const char* t : {"249.9", "5000.1"}) {
-        txtTemAmb.SetText(t);
-        const bool bien = CalcularAire(e, r.dlg, aire);
-        r(std::string("CalcularAire ") + t, {{"bien", Si(bien)}, {"oculta", Si(vAire.oculta)}});
+        aire.temperaturaAmbiente = t;
+        const bool bien = CalcularAire(e, r.msj, aire, pct);
+        r(std::string("CalcularAire ") + t, {{"bien", Si(bien)}, {"oculta", Si(bien)}});
     }
-    txtTemAmb.SetText("288");
-    const bool aireBien = CalcularAire(e, r.dlg, aire);
-    r("CalcularAire", {{"bien", Si(aireBien)},
-                       {"oculta", Si(vAire.oculta)},
-                       {"Psaturacion", TextoGeneral(e.Psaturacion, '.')}});
+    aire.temperaturaAmbiente = "288";
+    const bool aireBien = CalcularAire(e, r.msj, aire, pct);
+    r("CalcularAire",
+      {{"bien", Si(aireBien)}, {"oculta", Si(aireBien)}, {"Psaturacion", TextoGeneral(e.Psaturacion, '.')}});
 
-    // The fuel: each entry of the list, then the user's own.
-    PantallaCombustibleSimple f;
-    ControlesCombustible cf = f.Controles(pct);
+    // The fuel: each entry of the list, then the user's own, on the boxes as
+    // the screen opens (the window stays: no hiding).
+    Entradas f;
+    f.masaMolecular = "0.1", f.entalpiaFormacion = "0";
+    VistaCombustible vf;
+    SalidasCombustible sf;
     auto combustible = [&](const std::string& evento) {
-        r(evento, {{"txtC", f.txtC.Text()},
-                   {"txtH", f.txtH.Text()},
-                   {"txtN", f.txtN.Text()},
-                   {"txtO", f.txtO.Text()},
-                   {"txtS", f.txtS.Text()},
-                   {"Mol", f.txtMolC.Text() + " " + f.txtMolH.Text() + " " + f.txtMolN.Text() + " " +
-                               f.txtMolO.Text() + " " + f.txtMolS.Text()},
-                   {"mm", f.txtmmComb.Text()},
-                   {"EntPro", f.txtEntPro.Text()},
-                   {"Hcs", f.txtHcs.Text()},
-                   {"Hci", f.txtHci.Text()},
-                   {"Qvap", f.txtQvap.Text()},
-                   {"opt", Si(f.optMasa.Value()) + Si(f.optFOR.Value())},
-                   {"form", Si(f.formulario.entradaPropia) + " " + f.formulario.tituloOtros + " " +
-                                Si(f.formulario.marcoOtros) + " " + std::to_string(f.formulario.bloqueo)},
-                   {"oculta", Si(f.ventana.oculta)},
+        const int bloqueo = !vf.opcion ? 0 : *vf.opcion == FormaCombustible::Formula ? 1 : 2;
+        r(evento, {{"txtC", f.cienC},
+                   {"txtH", sf.cienH},
+                   {"txtN", f.cienN},
+                   {"txtO", f.cienO},
+                   {"txtS", f.cienS},
+                   {"Mol", f.atomosC + " " + f.atomosH + " " + f.atomosN + " " + f.atomosO + " " + f.atomosS},
+                   {"mm", f.masaMolecular},
+                   {"EntPro", f.entalpiaFormacion},
+                   {"Hcs", sf.hcs},
+                   {"Hci", sf.hci},
+                   {"Qvap", sf.calorVap},
+                   {"opt", Si(bloqueo == 2) + Si(bloqueo == 1)},
+                   {"form", Si(vf.entradaPropia) + " " + vf.tituloOtros + " " + Si(vf.marcoOtros) + " " +
+                                std::to_string(bloqueo)},
+                   {"oculta", "0"},
                    {"Error", std::to_string(e.ErrorCalculo)}});
     };
-    f.chkOcultar.SetValue(false);
-    cmdCal_Click(e, r.dlg, cf);
+    CalcularCombustiblePropio(e, r.msj, kElijaCombustible, f, vf, sf, pct);
     combustible("cmdCal sin Otros");
     for (const auto& c : kBibliotecaCombustibles) {
-        f.cboTipCom.SetText(c.nombre);
-        cboTipCom_Click(e, r.dlg, cf);
+        ElegirEntradaLista(e, r.msj, c.nombre, f, vf, sf, pct);
         combustible(std::string("cboTipCom ") + std::string(c.nombre));
     }
-    f.cboTipCom.SetText(kOtrosCombustibles);
-    cboTipCom_Click(e, r.dlg, cf);
+    ElegirEntradaLista(e, r.msj, kOtrosCombustibles, f, vf, sf, pct);
     combustible("cboTipCom Otros");
-    f.txtC.SetText("84,5"), f.txtN.SetText(""), f.txtO.SetText("1.2"), f.txtS.SetText("0.3"),
-        f.txtmmComb.SetText("0,15"), f.txtEntPro.SetText("-200000");
-    cmdCal_Click(e, r.dlg, cf);
+    f.cienC = "84,5", f.cienN = "", f.cienO = "1.2", f.cienS = "0.3", f.masaMolecular = "0,15",
+    f.entalpiaFormacion = "-200000";
+    CalcularCombustiblePropio(e, r.msj, kOtrosCombustibles, f, vf, sf, pct);
     combustible("cmdCal por masa");
-    optFOR_Click(cf);
-    f.txtMolC.SetText("7"), f.txtMolH.SetText("16"), f.txtMolN.SetText(""), f.txtMolO.SetText(""),
-        f.txtMolS.SetText("");
-    cmdCal_Click(e, r.dlg, cf);
+    ElegirFormaPropia(vf, FormaCombustible::Formula);
+    f.atomosC = "7", f.atomosH = "16", f.atomosN = "", f.atomosO = "", f.atomosS = "";
+    CalcularCombustiblePropio(e, r.msj, kOtrosCombustibles, f, vf, sf, pct);
     combustible("cmdCal por formula");
-    optMasa_Click(cf);
-    f.txtC.SetText("60"), f.txtO.SetText("45");
-    cmdCal_Click(e, r.dlg, cf);
+    ElegirFormaPropia(vf, FormaCombustible::Masa);
+    f.cienC = "60", f.cienO = "45";
+    CalcularCombustiblePropio(e, r.msj, kOtrosCombustibles, f, vf, sf, pct);
     combustible("cmdCal por masa de mas de 100");
 
-    // The combustion.
-    f.cboTipCom.SetText("Gasolina");
-    cboTipCom_Click(e, r.dlg, cf);
-    PantallaCombustionSimple g;
-    ControlesCombustion cg = g.Controles(pct);
+    // The combustion: neither box leads until one is clicked.
+    ElegirEntradaLista(e, r.msj, "Gasolina", f, vf, sf, pct);
+    Entradas g;
+    VariablesCombustion vg;
+    std::optional<FormaDosado> lider;
     auto gases = [&](const std::string& evento) {
-        r(evento, {{"txtFr", g.txtFr.Text()},
-                   {"txtLambda", g.txtLambda.Text()},
-                   {"opt", Si(g.optFr.Value()) + Si(g.optLambda.Value())},
+        r(evento, {{"txtFr", g.fr},
+                   {"txtLambda", g.lambda},
+                   {"opt", Si(lider == FormaDosado::Fr) + Si(lider == FormaDosado::Lambda)},
                    {"Fr", TextoGeneral(e.Fr, '.')},
-                   {"Lambda", TextoGeneral(g.variables.Lambda, '.')},
+                   {"Lambda", TextoGeneral(vg.Lambda, '.')},
                    {"Error", std::to_string(e.ErrorCalculo)}});
     };
-    FormGases_Load(e, cg);
+    auto cambia = [&](FormaDosado caja) {
+        if (lider != caja) return;
+        g.formaDosado = caja;
+        (caja == FormaDosado::Fr ? txtFr_Change : txtLambda_Change)(e, r.msj, g, vg);
+    };
+    FormGases_Load(e, vg);
     gases("FormGases_Load");
-    g.txtFr.SetText("0,9");
-    txtFr_Change(e, r.dlg, cg);
+    g.fr = "0,9";
+    cambia(FormaDosado::Fr);
     gases("txtFr_Change sin optFr");
-    txtFr_Click(cg);
-    txtFr_Change(e, r.dlg, cg);
+    lider = FormaDosado::Fr;
+    cambia(FormaDosado::Fr);
     gases("txtFr_Change 0,9");
     for (const char* t : {"-1", "0", "x"}) {
-        g.txtFr.SetText(t);
-        txtFr_Change(e, r.dlg, cg);
+        g.fr = t;
+        cambia(FormaDosado::Fr);
         gases(std::string("txtFr_Change ") + t);
     }
-    txtLambda_Click(cg);
+    lider = FormaDosado::Lambda;
     for (const char* t : {"1.2", "-2", "3"}) {
-        g.txtLambda.SetText(t);
-        txtLambda_Change(e, r.dlg, cg);
+        g.lambda = t;
+        cambia(FormaDosado::Lambda);
         gases(std::string("txtLambda_Change ") + t);
     }
     e.ErrorCalculo = Falso;
-    const bool humosBien = CalcularHumos(e, r.dlg, cg);
+    const bool humosBien = CalcularHumos(e, r.msj, g, vg, pct);
     gases(std::string("CalcularHumos ") + Si(humosBien));
 
     // The cycle window.
-    PantallaCicloSimple p;
-    ControlesCiclo cc = p.Controles();
-    FormularioCicloGrabado fc;
-    FormCiclo_Load(e, cc);
-    r("FormCiclo_Load", {{"txtP1", p.txtP1.Text()},
-                         {"txtT1", p.txtT1.Text()},
+    Entradas c;
+    FormCiclo_Load(e, c);
+    r("FormCiclo_Load", {{"txtP1", *c.p1},
+                         {"txtT1", *c.t1},
                          {"modelos", std::to_string(static_cast<int>(e.ModeloCompresion)) +
                                          std::to_string(static_cast<int>(e.ModeloExpansion))}});
+    VistaCiclo vista{};
+    std::string propPcte = "50";
     auto ciclo = [&](const std::string& evento) {
+        const Marcos& m = vista.marcos;
+        const CiclosResaltados& h = vista.resaltados;
         r(evento, {{"TipoCiclo", e.TipoCiclo},
                    {"Pmax", TextoGeneral(e.Pmax, '.')},
-                   {"marcos", fc.marcos},
-                   {"resaltado", fc.resaltado},
+                   {"marcos", Si(m.compresion) + Si(m.expansion) + Si(m.aire) + Si(m.opcion) + Si(m.datos) +
+                                  Si(m.seleccionar)},
+                   {"resaltado", Si(h.otto) + Si(h.diesel) + Si(h.mixto)},
                    {"OpcionProporcion", std::to_string(e.OpcionProporcion)},
-                   {"PropVcte", p.txtPropVcte.Text()},
-                   {"PropPcte", p.txtPropPcte.Text()}});
+                   {"PropVcte", c.proporcionVcte},
+                   {"PropPcte", propPcte}});
     };
-    imgMixto_Click(e, fc);
+    vista = ElegirCiclo(e, TipoCiclo::Mixto);
     optProporcion_Click(e);
     ciclo("imgMixto optProporcion");
-    imgOtto_Click(e, fc);
+    vista = ElegirCiclo(e, TipoCiclo::Otto);
     ciclo("imgOtto");
     e.Pmax = 1;
-    imgDiesel_Click(e, fc);
+    vista = ElegirCiclo(e, TipoCiclo::Diesel);
     ciclo("imgDiesel");
     for (const char* t : {"30", "101", "", "100"}) {
-        p.txtPropVcte.SetText(t);
-        txtPropVcte_Change(e, r.dlg, cc);
+        c.proporcionVcte = t;
+        propPcte = txtPropVcte_Change(e, r.msj, c);
         ciclo(std::string("txtPropVcte_Change ") + t);
     }
     optPmax_Click(e);
@@ -195,30 +180,32 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
     // A maximum pressure below the compression's: the focus goes to the
     // pressure up to a compression ratio of 30, beyond it to the ratio.
     for (const char* rc : {"30", "30.0001"}) {
-        Estado m;
-        SuperficiesNulas nulas;
-        SuperficiesCalculo s = nulas.Todas();
-        VentanaPrincipalSimple v;
         OpcionesCalculo o;
         o.valores = {{"ciclo", "Mixto"}, {"pmax", "1000"}, {"rc", rc}};
-        CalcularTodo(m, o, r.dlg, s, v);
-        PantallaCicloSimple q;
-        ControlesCiclo cq = q.Controles();
-        imgMixto_Click(m, q.formulario);
-        q.optProporcion.SetValue(false), q.optPmax.SetValue(true), q.txtPMax.SetText("1000"),
-            q.txtRc.SetText(rc);
-        CalcularCiclo(m, r.dlg, cq, s.diagramas, v);
+        const Entradas x = EntradasDeOpciones(o);
+        const ResultadoCalculo todo = Calcular(x);
+        for (const MensajeCalculo& texto : todo.mensajes) r.msj.MsgBox(texto.texto);
+        // CALCULAR again on a cycle window that was never loaded (its boxes of
+        // state 1 as designed), with the state the stages left.
+        Estado m = *todo.estado;
+        Entradas ventana = x;
+        ventana.p1 = "100000", ventana.t1 = "298";
+        Mensajes otra;
+        DiagramasNulos g;
+        Diagramas d = g.Todos();
+        CalcularCiclo(m, otra, ventana, d, todo.tipoCombustible);
+        for (const MensajeCalculo& texto : otra.lista) r.msj.MsgBox(texto.texto);
         r(std::string("CalcularCiclo Mixto Pmax 1000 Rc ") + rc,
-          {{"foco Pmax", std::to_string(q.txtPMax.focos)}, {"foco Rc", std::to_string(q.txtRc.focos)}});
+          {{"foco Pmax", Si(otra.foco.nombre == "pmax")}, {"foco Rc", Si(otra.foco.nombre == "rc")}});
     }
 
     // The power block, on a calculated cycle's work.
     e.Wciclo = 149.4567;
     for (const char* t : {"3000", "", "rpm", "-1200", "1e306"}) {
-        CajaTextoSimple rpm(t), w("antes"), cv("antes");
         e.ErrorCalculo = Falso;
-        txtRpm_Change(e, r.dlg, e.Wciclo, rpm, w, cv);
-        r(std::string("txtRpm_Change ") + t, {{"W", w.Text()}, {"CV", cv.Text()}});
+        const auto p = txtRpm_Change(e, r.msj, e.Wciclo, t);
+        r(std::string("txtRpm_Change ") + t,
+          {{"W", p ? p->potencia : "antes"}, {"CV", p ? p->potenciaCV : "antes"}});
     }
     EXPECT_EQ(CompararDorado("pantallas.txt", r.s), "");
 }

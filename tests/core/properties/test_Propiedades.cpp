@@ -18,7 +18,7 @@ using namespace vanta::pruebas;
 
 TEST(Propiedades, LasEspeciesDanSusValoresConocidos) {
     Estado e;
-    DialogosGrabados dlg;
+    Mensajes dlg;
     e.Temperatura = 1000;
     CalcularEspecies(e, dlg);
     EXPECT_DOUBLE_EQ(e.CpH2OBaja, 41.21461889908898);
@@ -30,22 +30,22 @@ TEST(Propiedades, LasEspeciesDanSusValoresConocidos) {
     for (double h : {e.hArBaja, e.hCOBaja, e.hCO2Baja, e.hH2OBaja, e.hN2Baja, e.hO2Baja})
         EXPECT_LT(std::fabs(h), 0.00023);
     EXPECT_DOUBLE_EQ(e.CpArBaja, 20.78575);
-    EXPECT_TRUE(dlg.mensajes.empty());
+    EXPECT_TRUE(dlg.lista.empty());
 }
 
 TEST(Propiedades, ElLimiteSeMiraAntesQueElFalloYLaEvaluacionQueLoPasaSumaLoAnterior) {
     Estado e;
-    DialogosGrabados dlg;
+    Mensajes dlg;
     e.xN2Aire = 0.78087, e.xO2Aire = 0.20946, e.xArAire = 0.00934, e.xCO2Aire = 0.00033;
     e.Temperatura = 7500;
     PropiedadesAire(e, dlg);
-    EXPECT_TRUE(dlg.mensajes.empty());
+    EXPECT_TRUE(dlg.lista.empty());
     const double h7500 = e.hAire;
     e.Temperatura = 7500.01;
     PropiedadesAire(e, dlg);
     EXPECT_EQ(e.hAire, h7500);  // the sums ran on the species of 7500 K
     CalcularEspecies(e, dlg);   // a direct call tells it again
-    EXPECT_EQ(dlg.mensajes,
+    EXPECT_EQ(dlg.Textos(),
               std::vector<std::string>(2,
                                        "Se ha superado la temperatura máxima que admite el programa 5000 K, "
                                        "Temperatura que provocó el error =     7 500 K"));
@@ -57,16 +57,16 @@ TEST(Propiedades, ElLimiteSeMiraAntesQueElFalloYLaEvaluacionQueLoPasaSumaLoAnter
 TEST(Propiedades, UnosGasesQueLosLogaritmosNoAdmitenSeRechazan) {
     for (int caso = 0; caso < 4; ++caso) {
         Estado e;
-        DialogosGrabados dlg;
+        Mensajes dlg;
         e.xArHumos = 0.01, e.xCO2Humos = 0.1, e.xN2Humos = 0.89, e.Temperatura = 500, e.Presion = 1e5;
         if (caso == 0) e.xCO2Humos = 0;
         if (caso == 1) e.xArHumos = 0;
         if (caso == 2) e.xN2Humos = 0;
         if (caso == 3) e.Presion = -1;
         PropiedadesHumos(e, dlg);
-        ASSERT_EQ(dlg.mensajes.size(), 1u) << caso;
-        EXPECT_NE(dlg.mensajes[0].find(caso == 3 ? "negativa" : "fracción"), std::string::npos)
-            << dlg.mensajes[0];
+        ASSERT_EQ(dlg.lista.size(), 1u) << caso;
+        EXPECT_NE(dlg.lista[0].texto.find(caso == 3 ? "negativa" : "fracción"), std::string::npos)
+            << dlg.lista[0].texto;
         EXPECT_EQ(e.hHumos, 0);
     }
 }
@@ -87,7 +87,7 @@ std::string Cifras(const char* que, std::initializer_list<double> v) {
 
 TEST(Propiedades, SondaDeLosFluidosContraSuArchivo) {
     Estado e;
-    DialogosGrabados dlg;
+    Mensajes dlg;
     // Humid air and lean gases with every species.
     e.xH2OAire = 0.02, e.xN2Aire = 0.78087 * 0.98, e.xO2Aire = 0.20946 * 0.98, e.xArAire = 0.00934 * 0.98,
     e.xCO2Aire = 0.00033 * 0.98;
@@ -125,13 +125,13 @@ TEST(Propiedades, SondaDeLosFluidosContraSuArchivo) {
         PropiedadesHumos(e, dlg);
         s += Cifras("humos sin H2O, CO ni O2", {T, e.hHumos, e.S0Humos, e.SHumos});
     }
-    EXPECT_TRUE(dlg.mensajes.empty());
+    EXPECT_TRUE(dlg.lista.empty());
     EXPECT_EQ(CompararDorado("propiedades.txt", s), "");
 }
 
 TEST(Propiedades, LasBusquedasCierranSobreElRegistro) {
     Estado e;
-    DialogosGrabados dlg;
+    Mensajes dlg;
     e.xN2Aire = 0.78087, e.xO2Aire = 0.20946, e.xArAire = 0.00934, e.xCO2Aire = 0.00033;
     e.TipoFluido = Fluido::Aire;
     e.TemperaturaFinal = 300;  // the search ends with an evaluation at the record's former end
@@ -161,6 +161,6 @@ TEST(Propiedades, LasBusquedasCierranSobreElRegistro) {
     e.TipoFluido = static_cast<Fluido>(7);
     PropiedadesInicio(e, dlg);
     PropiedadesFin(e, dlg, 0, 0);
-    EXPECT_EQ(dlg.mensajes,
+    EXPECT_EQ(dlg.Textos(),
               (std::vector<std::string>{std::string(kMensajeFluidoInicio), std::string(kMensajeFluidoFin)}));
 }

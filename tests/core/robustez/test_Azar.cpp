@@ -162,14 +162,14 @@ std::vector<std::string> Revisar(const std::vector<std::string>& opciones) {
     std::vector<std::string> fallos;
     auto c = Calcular(opciones, false);
     for (const std::string& v : NoFinitas(c->e)) fallos.push_back("variable no finita: " + v);
-    for (const std::string& m : c->dlg.mensajes)
+    for (const std::string& m : c->r.TextosMensajes())
         if (m.empty() || !Defecto(m).empty()) fallos.push_back("mensaje \"" + m + "\"");
     if (!c->bien) {
-        if (c->dlg.mensajes.empty()) fallos.push_back("falló sin ningún mensaje");
+        if (c->r.mensajes.empty()) fallos.push_back("falló sin ningún mensaje");
         return fallos;
     }
-    const std::string tipo = c->v.tipoCombustible;
-    std::string textos = c->v.informe + HTMLInforme(c->e, tipo);
+    const std::string tipo = c->r.tipoCombustible;
+    std::string textos = c->r.informe + HTMLInforme(c->e, tipo);
     for (const std::string& v : bd::ValoresRegistro(c->e, "x", tipo, "")) textos += v;
     if (std::string d = Defecto(textos, true); !d.empty()) fallos.push_back("informe o registro con " + d);
     for (const double v : {c->e.p1, c->e.p2, c->e.p3, c->e.p4, c->e.p5, c->e.T1, c->e.T2, c->e.T3, c->e.T4,

@@ -97,12 +97,13 @@ std::string Fila(const std::vector<std::string>& opciones) {
     std::string s;
     for (const std::string& o : opciones) s += o + " ";
     s += c->bien ? "-> bien\n" : "-> falla\n";
-    for (const std::string& m : c->dlg.mensajes) s += "  " + m + "\n";
-    for (const std::string& v : NoFinitas(c->e)) s += "  NO FINITA: " + v + "\n";
+    for (const std::string& m : c->r.TextosMensajes()) s += "  " + m + "\n";
+    const Estado& e = c->e;
+    for (const std::string& v : NoFinitas(e)) s += "  NO FINITA: " + v + "\n";
     // Where a refused run leaves the record and the maxima.
     char b[200];
-    std::snprintf(b, sizeof b, "  T=%.17g p=%.17g x=%.17g pmax=%.9g Tmax=%.9g\n", c->e.Temperatura,
-                  c->e.Presion, c->e.FraccionQuemada, c->e.PresionMaxima, c->e.TemperaturaMaxima);
+    std::snprintf(b, sizeof b, "  T=%.17g p=%.17g x=%.17g pmax=%.9g Tmax=%.9g\n", e.Temperatura, e.Presion,
+                  e.FraccionQuemada, e.PresionMaxima, e.TemperaturaMaxima);
     return c->bien ? s : s + b;
 }
 

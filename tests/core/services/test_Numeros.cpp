@@ -97,18 +97,18 @@ TEST(Numeros, LasCajasLeenConPuntoOConComaYRechazanLoDemas) {
 
 TEST(Numeros, ValidarNumeroDiceElNombreGuardaElValorYNuncaBorraElFallo) {
     Estado e;
-    DialogosGrabados dlg;
-    CajaTextoSimple mala("doce"), buena("1,23");
+    Mensajes m;
     double destino = 7;
-    ValidarNumero(e, dlg, mala, destino, "Cilindrada");
-    ValidarNumero(e, dlg, mala, destino, " Presión máxima ");
-    EXPECT_EQ(dlg.mensajes,
+    ValidarNumero(e, m, "doce", destino, "Cilindrada", {"cilindrada"});
+    ValidarNumero(e, m, "doce", destino, " Presión máxima ", {"pmax"});
+    EXPECT_EQ(m.Textos(),
               (std::vector<std::string>{"Cilindradano es un número", " Presión máxima no es un número"}));
+    EXPECT_EQ(m.lista[0].entrada.nombre, "cilindrada");
     EXPECT_EQ(destino, 7);
-    EXPECT_EQ(mala.focos, 2);
-    ValidarNumero(e, dlg, buena, destino, " n ");
+    EXPECT_EQ(m.foco.nombre, "pmax");
+    ValidarNumero(e, m, "1,23", destino, " n ", {"n-expansion"});
     EXPECT_EQ(destino, 1.23);
-    EXPECT_EQ(buena.selStart, 50);
+    EXPECT_EQ(m.foco.nombre, "pmax");
     EXPECT_EQ(e.ErrorCalculo, Verdadero);
-    EXPECT_EQ(dlg.mensajes.size(), 2u);
+    EXPECT_EQ(m.lista.size(), 2u);
 }

@@ -8,6 +8,7 @@
 #include <sstream>
 #include <type_traits>
 
+#include "core/services/JSON.h"
 #include "core/studies/Estudio.h"
 #include "core/studies/TablaEstudio.h"
 #include "tests/Dorados.h"
@@ -79,8 +80,8 @@ TEST(Estudio, LasSalidasYLasEntradasSeBuscanPorSuNombre) {
     for (const SalidaEstudio& s : SalidasEstudio()) EXPECT_EQ(BuscarSalidaEstudio(s.nombre), &s);
     // An input with a unit is a number; a choice (fuel, cycle, model) has none.
     for (const EntradaEstudio& en : EntradasEstudio()) {
-        EXPECT_TRUE(EsOpcionCalculo(en.nombre)) << en.nombre;
-        EXPECT_EQ(en.numerica, *en.unidad != '\0') << en.nombre;
+        EXPECT_EQ(BuscarEntrada(en.nombre), &en) << en.nombre;
+        EXPECT_EQ(en.Numerica(), !en.unidad.empty()) << en.nombre;
     }
     EXPECT_EQ(BuscarSalidaEstudio("nada"), nullptr);
     e.Qciclo = 10, e.Q23 = 4;

@@ -48,43 +48,37 @@ const Tabla kTablas[] = {
     {"N2", false, "300", "y", "10", {}},
 };
 
-// The tables window's boxes and options as plain controls.
-struct PantallaTablas {
-    CajaTextoSimple at, ti, tf, cbo;
-    InterruptorSimple mol, kg, aire, gases;
-    PantallaTablas(const char* paso, const char* desde, const char* hasta, const char* que, bool porKg,
-                   bool humos)
-        : at(paso), ti(desde), tf(hasta), cbo(que), mol(!porKg), kg(porKg), aire(!humos), gases(humos) {}
-    ControlesHerramientas Controles() {
-        return {.txtAT = at,
-                .txtTinicial = ti,
-                .txtTfinal = tf,
-                .optMol = mol,
-                .optKg = kg,
-                .optAire = aire,
-                .optHumos = gases,
-                .cboElemento = cbo};
-    }
-};
+// The tables window's boxes and options.
+EntradasHerramientas Pantalla(const char* paso, const char* desde, const char* hasta, const char* que,
+                              bool porKg, bool humos) {
+    return {.incremento = paso,
+            .tInicial = desde,
+            .tFinal = hasta,
+            .porMol = !porKg,
+            .porKg = porKg,
+            .aire = !humos,
+            .humos = humos,
+            .elemento = que};
+}
 
 std::string Hacer(const Tabla& t) {
     Estado e;
-    DialogosGrabados dlg;
+    Mensajes dlg;
     SuperficiesNulas nulas;
     SuperficiesCalculo s = nulas.Todas();
     const bool humos = std::string(t.que) == "humos";
-    if (t.fluido.empty() || t.fluido[0] != "NUNCA") DefinirFluido(e, Opciones(t.fluido), dlg, s, humos);
-    PantallaTablas p(t.paso, t.desde, t.hasta, t.que, t.porKg, humos);
-    ControlesHerramientas c = p.Controles();
+    const Entradas fluido = EntradasDeOpciones(Opciones(t.fluido));
+    if (t.fluido.empty() || t.fluido[0] != "NUNCA") DefinirFluido(e, dlg, fluido, s, humos);
+    const EntradasHerramientas c = Pantalla(t.paso, t.desde, t.hasta, t.que, t.porKg, humos);
     MiembrosHerramientas m;
     VisorTablasTexto v;
     const bool mezcla = humos || std::string(t.que) == "aire";
-    const bool bien = mezcla ? cmdTablas_Click(e, dlg, c, m, v, TextoListaCombustible(Opciones(t.fluido)))
+    const bool bien = mezcla ? cmdTablas_Click(e, dlg, c, m, v, TextoListaCombustible(fluido))
                              : cmdTab_Click(e, dlg, c, m, v);
     std::string r = std::string("== ") + t.que + (t.porKg ? " por kg " : " por mol ") + t.desde + " " +
                     t.hasta + " " + t.paso + (bien ? " bien" : " falla") +
                     (v.visible ? " visible" : " oculto") + "\n";
-    for (const std::string& msg : dlg.mensajes) r += "  " + msg + "\n";
+    for (const std::string& msg : dlg.Textos()) r += "  " + msg + "\n";
     return r + v.texto + "\n";
 }
 
@@ -92,17 +86,16 @@ std::string Hacer(const Tabla& t) {
 
 TEST(Tablas, UnaTablaRechazadaNoCallaLaSiguiente) {
     Estado e;
-    DialogosGrabados dlg;
+    Mensajes dlg;
     SuperficiesNulas nulas;
     SuperficiesCalculo s = nulas.Todas();
-    ASSERT_TRUE(DefinirFluido(e, Opciones({}), dlg, s, false));
-    PantallaTablas p("100", "300", "5000", "Elegir", false, false);
-    ControlesHerramientas c = p.Controles();
+    ASSERT_TRUE(DefinirFluido(e, dlg, Entradas(), s, false));
+    EntradasHerramientas c = Pantalla("100", "300", "5000", "Elegir", false, false);
     MiembrosHerramientas m;
     VisorTablasTexto v;
-    p.tf.SetText("5OOO");  // a typo: letters O
+    c.tFinal = "5OOO";  // a typo: letters O
     EXPECT_FALSE(cmdTablas_Click(e, dlg, c, m, v, "Gasolina"));
-    p.tf.SetText("700");
+    c.tFinal = "700";
     EXPECT_TRUE(cmdTablas_Click(e, dlg, c, m, v, "Gasolina"));
     // The figures of 700 K and of 600 K differ: none is a stale copy.
     const auto filas = Lineas(v.texto);

@@ -5,7 +5,7 @@
 #include <QTableWidget>
 #include <QTest>
 
-#include "core/validation/CicloIdeal.h"
+#include "core/warnings/CicloIdeal.h"
 #include "gui/validation/PanelConfianza.h"
 #include "gui/validation/frmValidacion.h"
 #include "tests/gui/mainwindow/Programa.h"

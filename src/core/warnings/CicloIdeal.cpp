@@ -1,4 +1,4 @@
-#include "core/validation/CicloIdeal.h"
+#include "core/warnings/CicloIdeal.h"
 
 #include <cmath>
 

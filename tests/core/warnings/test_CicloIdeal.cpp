@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include "core/properties/Especies.h"
-#include "core/sequence/Secuencia.h"
-#include "core/validation/CicloIdeal.h"
+#include "core/sequence/Calculo.h"
+#include "core/warnings/CicloIdeal.h"
 #include "tests/core/Calculos.h"
 
 using namespace vanta;

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "core/fluids/AireHumedo.h"
-#include "core/sequence/Secuencia.h"
-#include "core/validation/Avisos.h"
+#include "core/sequence/Calculo.h"
+#include "core/warnings/Avisos.h"
 #include "tests/core/Calculos.h"
 
 using namespace vanta;
@@ -23,7 +23,7 @@ constexpr TipoAviso D = TipoAviso::Disociacion, F = TipoAviso::FueraDeAjuste, R 
 Estado Calcular(const std::vector<std::string>& opciones, std::string& combustible) {
     const auto c = pruebas::Calcular(opciones, false);
     EXPECT_TRUE(c->bien);
-    combustible = TextoListaCombustible(pruebas::Opciones(opciones));
+    combustible = c->r.tipoCombustible;
     return c->e;
 }
 

@@ -1,7 +1,7 @@
-#include "core/validation/Referencias.h"
+#include "core/warnings/Referencias.h"
 
 #include "core/services/Numeros.h"
-#include "core/validation/DatosReferencia.h"
+#include "core/warnings/DatosReferencia.h"
 
 namespace vanta {
 

@@ -1,12 +1,12 @@
-#include "core/validation/Avisos.h"
+#include "core/warnings/Avisos.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "core/fluids/AireHumedo.h"
 #include "core/services/Numeros.h"
-#include "core/validation/Cifras.h"
-#include "core/validation/Referencias.h"
+#include "core/warnings/Cifras.h"
+#include "core/warnings/Referencias.h"
 
 namespace vanta {
 

@@ -8,7 +8,7 @@
 //   ethane from the same table of Moran & Shapiro).
 // - Flammability limits in air of the fuels of the library
 //   (kCsvInflamabilidad).
-#include "core/validation/DatosReferencia.h"
+#include "core/warnings/DatosReferencia.h"
 
 namespace vanta {
 
