@@ -14,12 +14,12 @@
 #include <memory>
 
 #include "core/services/Numeros.h"
-#include "core/services/Puertos.h"
 #include "gui/cycle/frmOtto_Diesel.h"
 #include "gui/fluids/frmAireHumedad.h"
 #include "gui/fluids/frmCombustible.h"
 #include "gui/fluids/frmGasesCombustion.h"
 #include "gui/mainwindow/frmFase1.h"
+#include "gui/services/Dialogos.h"
 
 namespace {
 

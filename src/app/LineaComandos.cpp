@@ -130,9 +130,6 @@ std::string TextoUso() {
            "Los datos del cálculo (por defecto, lo que muestran las pantallas al abrirse; --p1 y --t1, los\n"
            "del ambiente; --rpm escribe también la potencia a ese régimen):\n" +
            AyudaEntradas() +
-           "De --combustible, --formula y --masa, una; de --fr y --lambda, una; de --pmax y "
-           "--proporcion-vcte\n"
-           "(ciclo Mixto: presión máxima o reparto del calor), una.\n"
            "Los números se escriben como en las casillas: \"1,39\" y \"1.39\" valen lo mismo.\n"
            "Una opción se escribe \"--opción valor\" o \"--opción=valor\", una vez.\n";
 }
@@ -150,7 +147,7 @@ int EscribirCalculo(const ResultadoCalculo& r, const OpcionesCalcular& o, std::o
         // The report as the program keeps it, CR LF, closed by one more line end.
         out << r.informe << "\r\n";
         if (r.potencia)
-            out << "r.p.m. = " << r.entradas.rpm << "\r\n"
+            out << "r.p.m. = " << r.entradas.rpm.value_or("") << "\r\n"
                 << "Potencia = " << r.potencia->potencia << " W = " << r.potencia->potenciaCV << " CV\r\n"
                 << "Consumo = " << r.textos.txtConsumoMJ << " g / MJ = " << r.textos.txtConsumoKwh
                 << " g / (kW·h)\r\n";
@@ -162,7 +159,7 @@ int EscribirCalculo(const ResultadoCalculo& r, const OpcionesCalcular& o, std::o
 Entradas EntradasDeCalcular(const OpcionesCalcular& o) {
     Entradas x = EntradasDeOpciones(o);
     // The JSON holds no power: the speed plays no part there.
-    if (o.json) x.rpm.clear();
+    if (o.json) x.rpm.reset();
     return x;
 }
 

@@ -14,18 +14,14 @@ namespace {
 
 struct Salida {
     int estado;
-    std::string out, avisos;
+    std::string out, avisos;  // avisos: standard error, the messages and the warnings
 };
 
 Salida Calcular(const std::vector<std::string>& opciones) {
     const cli::Parseo p = cli::ParsearCalcular(opciones);
     EXPECT_TRUE(p.opciones) << p.error;
-    Estado e;
-    DialogosGrabados dlg;
-    SuperficiesNulas nulas;
-    SuperficiesCalculo s = nulas.Todas();
     std::ostringstream out, avisos;
-    const int estado = cli::EjecutarCalcular(e, *p.opciones, dlg, s, out, &avisos);
+    const int estado = cli::EjecutarCalcular(*p.opciones, out, avisos);
     return {estado, out.str(), avisos.str()};
 }
 
@@ -48,7 +44,7 @@ TEST(Validar, LosAvisosSiguenAlInformeOVanEnElJson) {
         "La temperatura máxima del ciclo (3 187 K) supera 2 500 K: el modelo no tiene en cuenta la "
         "disociación "
         "de los gases, y la temperatura real sería menor.";
-    const Salida informe = Calcular({});
+    const Salida informe = Calcular(std::vector<std::string>{});
     EXPECT_EQ(informe.estado, cli::kSalidaBien);
     EXPECT_EQ(informe.avisos, "aviso: " + disociacion + "\n");
 
@@ -67,5 +63,5 @@ TEST(Validar, LosAvisosSiguenAlInformeOVanEnElJson) {
     EXPECT_EQ(fallida.estado, cli::kSalidaFallo);
     EXPECT_EQ(fallida.out.substr(fallida.out.size() - 14), ",\"avisos\":[]}\n");
     EXPECT_EQ(fallida.out.find("RendimientoIdeal"), std::string::npos);
-    EXPECT_EQ(Calcular({"--fr", "2"}).avisos, "");
+    EXPECT_EQ(Calcular({"--fr", "2"}).avisos, "vanta calcular: Exceso de combustible-Cambie el dosado\n");
 }

@@ -326,6 +326,13 @@ CalculoComparado CalculoDeEstado(std::string nombre, const Estado& e, std::strin
     return SinCalculo(std::move(nombre), kMsgSinCalculoActual);
 }
 
+CalculoComparado CalculoDeResultado(std::string nombre, const ResultadoCalculo& r) {
+    const OpcionesCalculo o = OpcionesDeEntradas(r.entradas);
+    const Ejecucion x = Ejecutar(o);
+    if (x.bien && MismoCalculo(*x.estado, *r.estado)) return Comparado(std::move(nombre), o, x);
+    return CalculoDeEstado(std::move(nombre), *r.estado, r.tipoCombustible);
+}
+
 CalculoComparado CalculoDeRegistro(const bd::TextosRegistro& t, const std::string* entradas) {
     const std::string& nombre = t[bd::kColumnaNombre];
     std::string motivo;

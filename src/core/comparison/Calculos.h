@@ -50,6 +50,10 @@ std::vector<OpcionesCalculo> EntradasDeEstado(const Estado& e, std::string_view 
 // the same figures (the state no longer holds one calculation).
 CalculoComparado CalculoDeEstado(std::string nombre, const Estado& e, std::string_view tipoCombustible);
 
+// A calculation that ended well, run again from its inputs; from its state
+// when they no longer give the same figures.
+CalculoComparado CalculoDeResultado(std::string nombre, const ResultadoCalculo& r);
+
 // A saved record run again: from the inputs saved with it (entradas, as
 // EscribirEntradas wrote them; null when there are none) or from its figures
 // and report; in either case only when every figure of the record comes out

@@ -426,9 +426,9 @@ std::vector<DefinicionEntrada> CrearTabla() {
         .nombresMensaje = {" rpm "},
         .leer =
             [](const Entradas& x) {
-                return x.rpm.empty() ? std::vector<std::string>{} : std::vector<std::string>{x.rpm};
+                return x.rpm ? std::vector<std::string>{*x.rpm} : std::vector<std::string>{};
             },
-        .texto = [](Entradas& x, int) -> std::string* { return &x.rpm; },
+        .texto = [](Entradas& x, int) -> std::string* { return &(x.rpm ? *x.rpm : x.rpm.emplace()); },
         .elegir = nullptr,
     });
     return t;
@@ -650,11 +650,21 @@ std::string AyudaEntradas(bool (*filtro)(const DefinicionEntrada&)) {
         else
             linea += "  ";
         linea += std::string(d.titulo);
-        if (!d.unidad.empty() && d.unidad != "-" && d.unidad != d.metavariable)
-            linea += ", " + std::string(d.unidad);
+        if (!d.unidad.empty() && d.unidad != "-") linea += ", " + std::string(d.unidad);
         t += linea + "\n";
     }
-    return t;
+    // Of each group, one.
+    std::vector<std::string_view> grupos;
+    for (const DefinicionEntrada& d : Tabla()) {
+        if (d.grupo.empty() || (filtro && !filtro(d)) ||
+            std::find(grupos.begin(), grupos.end(), d.grupo) != grupos.end())
+            continue;
+        grupos.push_back(d.grupo);
+        std::vector<std::string_view> nombres;
+        for (const DefinicionEntrada* otro : DelGrupo(d.grupo)) nombres.push_back(otro->nombre);
+        t += std::string(grupos.size() == 1 ? "De " : "; de ") + Enumerar(nombres, "y") + ", una";
+    }
+    return grupos.empty() ? t : t + ".\n";
 }
 
 }  // namespace vanta

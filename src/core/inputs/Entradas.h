@@ -61,8 +61,8 @@ struct Entradas {
     std::string nCompresion, nExpansion;
     RepartoMixto reparto;
     std::string proporcionVcte, pmax;
-    // The speed; empty: no power.
-    std::string rpm;
+    // The speed; none: no power.
+    std::optional<std::string> rpm;
 };
 
 // ---- The table -------------------------------------------------------------------

@@ -99,9 +99,11 @@ ResultadoCalculo CalcularEnEstado(const Entradas& x, SuperficiesCalculo& s, char
     if (r.bien) {
         r.avisos = AvisosValidez(*e, r.tipoCombustible);
         // The speed on a copy: the state stays the calculation's.
-        if (!x.rpm.empty()) {
+        // An empty speed leaves the power boxes empty.
+        if (x.rpm && x.rpm->empty()) r.potencia.emplace();
+        if (x.rpm && !x.rpm->empty()) {
             Estado regimen = *e;
-            const double vatios = Potencia(regimen, msj, regimen.Wciclo, x.rpm);
+            const double vatios = Potencia(regimen, msj, regimen.Wciclo, *x.rpm);
             if (regimen.ErrorCalculo) {
                 r.bien = false;
                 r.parada = EtapaEntrada::Regimen;

@@ -216,7 +216,7 @@ ResultadoPunto CalcularPunto(const Estudio& estudio, size_t punto) {
     const bool conRegimen =
         std::any_of(estudio.salidas.begin(), estudio.salidas.end(), [](auto* s) { return s->conRegimen; });
     // The speed only where an output needs the power.
-    if (!conRegimen) x.rpm.clear();
+    if (!conRegimen) x.rpm.reset();
     const ResultadoCalculo c = Calcular(x, estudio.separador);
     ResultadoPunto r;
     r.bien = c.bien;

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "core/comparison/Calculos.h"
-#include "core/services/Puertos.h"
 #include "gui/database/AlmacenResultados.h"
+#include "gui/services/Dialogos.h"
 
 class QLabel;
 class QListWidget;

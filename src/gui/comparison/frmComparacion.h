@@ -11,8 +11,8 @@
 
 #include "core/comparison/Calculos.h"
 #include "core/comparison/Figura.h"
-#include "core/services/Puertos.h"
 #include "gui/comparison/Figuras.h"
+#include "gui/services/Dialogos.h"
 
 class QComboBox;
 class QTableWidget;

@@ -7,8 +7,8 @@
 #include <functional>
 #include <vector>
 
-#include "core/services/Puertos.h"
 #include "gui/comparison/Figuras.h"
+#include "gui/services/Dialogos.h"
 
 class QComboBox;
 class QListWidget;

@@ -12,9 +12,9 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "core/cycle/PantallaCiclo.h"
 #include "gui/resources/Dibujos.h"
 #include "gui/services/Controles.h"
+#include "gui/services/EnlaceEntradas.h"
 #include "gui/services/TextosVentanas.h"
 
 namespace vanta {
@@ -24,6 +24,13 @@ namespace {
 // The size of a cycle picture and of the panel shown until a cycle is chosen.
 const QSize kTamanoCiclo(170, 120);
 const QSize kTamanoSeleccionar(560, 330);
+// The boxes of state 1 as designed, until the window loads the ambient; the
+// boxes of the mean exponents until a calculation writes them.
+constexpr const char* kTextoP1 = "100000";
+constexpr const char* kTextoT1 = "298";
+constexpr const char* kTextoPropPcte = "50";
+constexpr const char* kTextoGammaMedioComp = "Gamma medio";
+constexpr const char* kTextoGammaMedioExp = "Gamma medioExp";
 // Room round a picture for the widest border of its shape.
 constexpr int kMargenForma = 4;
 
@@ -60,61 +67,6 @@ void Forma::paintEvent(QPaintEvent*) {
     p.drawRect(QRectF(rect()).adjusted(medio, medio, -medio, -medio));
 }
 
-// ---- Ports ----------------------------------------------------------------------------
-
-struct frmOtto_Diesel::Puertos {
-    explicit Puertos(frmOtto_Diesel& f)
-        : txtCilindrada(f.txtCilindrada_),
-          txtRc(f.txtRc_),
-          txtP1(f.txtP1_),
-          txtT1(f.txtT1_),
-          txtPropVcte(f.txtPropVcte_),
-          txtPMax(f.txtPMax_),
-          txtPropPcte(f.txtPropPcte_),
-          txt_nExp(f.txt_nExp_),
-          txt_nCom(f.txt_nCom_),
-          txtGammaMedioComp(f.txtGammaMedioComp_),
-          txtGMedioExp(f.txtGMedioExp_),
-          optProporcion(f.optProporcion_),
-          optPmax(f.optPmax_),
-          optGvariable(f.optGvariable_),
-          optGmedioCom(f.optGmedioCom_),
-          optPolitropicaCom(f.optPolitropicaCom_),
-          optGvariableExp(f.optGvariableExp_),
-          optGmedioExp(f.optGmedioExp_),
-          optPolitropica(f.optPolitropica_),
-          chkOcultar(f.chkOcultar_),
-          ventana(&f),
-          controles{.txtCilindrada = txtCilindrada,
-                    .txtRc = txtRc,
-                    .txtP1 = txtP1,
-                    .txtT1 = txtT1,
-                    .txtPropVcte = txtPropVcte,
-                    .txtPMax = txtPMax,
-                    .txtPropPcte = txtPropPcte,
-                    .txt_nExp = txt_nExp,
-                    .txt_nCom = txt_nCom,
-                    .txtGammaMedioComp = txtGammaMedioComp,
-                    .txtGMedioExp = txtGMedioExp,
-                    .optProporcion = optProporcion,
-                    .optPmax = optPmax,
-                    .optGvariable = optGvariable,
-                    .optGmedioCom = optGmedioCom,
-                    .optPolitropicaCom = optPolitropicaCom,
-                    .optGvariableExp = optGvariableExp,
-                    .optGmedioExp = optGmedioExp,
-                    .optPolitropica = optPolitropica,
-                    .chkOcultar = chkOcultar,
-                    .ventana = ventana} {}
-
-    CajaTextoQt txtCilindrada, txtRc, txtP1, txtT1, txtPropVcte, txtPMax, txtPropPcte, txt_nExp, txt_nCom,
-        txtGammaMedioComp, txtGMedioExp;
-    InterruptorQt optProporcion, optPmax, optGvariable, optGmedioCom, optPolitropicaCom, optGvariableExp,
-        optGmedioExp, optPolitropica, chkOcultar;
-    VentanaQt ventana;
-    ControlesCiclo controles;
-};
-
 // ---- The window ------------------------------------------------------------------------
 
 frmOtto_Diesel::frmOtto_Diesel(Estado& e, Dialogos& dlg, Diagramas& diagramas, VentanaPrincipal& principal,
@@ -125,7 +77,6 @@ frmOtto_Diesel::frmOtto_Diesel(Estado& e, Dialogos& dlg, Diagramas& diagramas, V
     setModal(true);
     CrearControles();
     Distribuir();
-    puertos_ = std::make_unique<Puertos>(*this);
 
     connect(cmdCal_, &QPushButton::clicked, this, &frmOtto_Diesel::cmdCal_Click);
     // An option's Click runs when it becomes selected, by the user or by code.
@@ -152,8 +103,8 @@ void frmOtto_Diesel::CrearControles() {
     chkOcultar_ = NuevaCasilla(this, "chkOcultar", kOcultarAutomaticamente, true);
 
     fraDTecnicos_ = NuevoMarco(this, "fraDTecnicos", "Datos técnicos del motor");
-    txtCilindrada_ = NuevaCaja(fraDTecnicos_, "txtCilindrada", kTextoCilindrada);
-    txtRc_ = NuevaCaja(fraDTecnicos_, "txtRc", kTextoRc);
+    txtCilindrada_ = NuevaCajaEntrada(fraDTecnicos_, "cilindrada");
+    txtRc_ = NuevaCajaEntrada(fraDTecnicos_, "rc");
     Label1_ = NuevaEtiqueta(fraDTecnicos_, "Label1", "Cilindrada");
     Label2_ = NuevaEtiqueta(fraDTecnicos_, "Label2", "Rc");
     lblcc_ = NuevaEtiqueta(fraDTecnicos_, "lblcc", "c.c.");
@@ -168,8 +119,8 @@ void frmOtto_Diesel::CrearControles() {
     lblK_ = NuevaEtiqueta(fraAire_, "lblK", "K");
 
     fraOpcion_ = NuevoMarco(this, "fraOpcion", "Ciclo Mixto");
-    txtPropVcte_ = NuevaCaja(fraOpcion_, "txtPropVcte", kTextoPropVcte);
-    txtPMax_ = NuevaCaja(fraOpcion_, "txtPMax", kTextoPMax);
+    txtPropVcte_ = NuevaCajaEntrada(fraOpcion_, "proporcion-vcte");
+    txtPMax_ = NuevaCajaEntrada(fraOpcion_, "pmax");
     txtPMax_->setToolTip(QString::fromUtf8(kPresionAbsoluta));
     // The share at constant pressure is the program's answer.
     txtPropPcte_ = NuevaCaja(fraOpcion_, "txtPropPcte", kTextoPropPcte, true);
@@ -187,7 +138,7 @@ void frmOtto_Diesel::CrearControles() {
     optGmedioExp_ = NuevaOpcion(fraExpansion_, "optGmedioExp", "Exponente adiabático medio");
     txtGMedioExp_ = NuevaCaja(fraExpansion_, "txtGMedioExp", kTextoGammaMedioExp, true);
     optPolitropica_ = NuevaOpcion(fraExpansion_, "optPolitropica", "Politrópica");
-    txt_nExp_ = NuevaCaja(fraExpansion_, "txt_nExp", kTextoNExpansion);
+    txt_nExp_ = NuevaCajaEntrada(fraExpansion_, "n-expansion");
     lbl_nExp_ = NuevaEtiqueta(fraExpansion_, "lbl_nExp", "n =");
 
     fraCompresion_ = NuevoMarco(this, "fraCompresion", "Compresión");
@@ -195,17 +146,17 @@ void frmOtto_Diesel::CrearControles() {
     optGmedioCom_ = NuevaOpcion(fraCompresion_, "optGmedioCom", "Exponente adiabático medio");
     txtGammaMedioComp_ = NuevaCaja(fraCompresion_, "txtGammaMedioComp", kTextoGammaMedioComp, true);
     optPolitropicaCom_ = NuevaOpcion(fraCompresion_, "optPolitropicaCom", "Politrópica");
-    txt_nCom_ = NuevaCaja(fraCompresion_, "txt_nCom", kTextoNCompresion);
+    txt_nCom_ = NuevaCajaEntrada(fraCompresion_, "n-compresion");
     lbl_n_comp_ = NuevaEtiqueta(fraCompresion_, "lbl_n_comp", "n =");
 
     cmdCal_ = NuevoBotonCalcular(this, "cmdCal");
 
     // The pictures, framed by their shapes; the two hidden samples of border.
     const qreal dpr = devicePixelRatioF();
-    const char* ciclos[3] = {kCicloOtto, kCicloDiesel, kCicloMixto};
     for (int i = 0; i < 3; ++i)
         for (int v = 0; v < 2; ++v)
-            stock_[i][v] = DibujoCiclo(QString::fromLatin1(ciclos[i]), v == 1, kTamanoCiclo, dpr);
+            stock_[i][v] =
+                DibujoCiclo(ATexto(NombreCiclo(static_cast<TipoCiclo>(i))), v == 1, kTamanoCiclo, dpr);
     auto imagen = [this](const char* nombreForma, const char* nombre, const char* ayuda, Forma*& forma,
                          int i) {
         forma = new Forma(this);
@@ -336,13 +287,10 @@ void frmOtto_Diesel::Distribuir() {
     columna->addWidget(chkOcultar_);
 }
 
-ControlesCiclo& frmOtto_Diesel::Controles() {
-    return puertos_->controles;
-}
-
 // ---- What the logic does to the window ---------------------------------------------------
 
-void frmOtto_Diesel::MostrarMarcos(const Marcos& m) {
+void frmOtto_Diesel::MostrarCiclo(const VistaCiclo& v) {
+    const Marcos& m = v.marcos;
     fraCompresion_->setVisible(m.compresion);
     fraExpansion_->setVisible(m.expansion);
     fraAire_->setVisible(m.aire);
@@ -350,9 +298,7 @@ void frmOtto_Diesel::MostrarMarcos(const Marcos& m) {
     fraDTecnicos_->setVisible(m.datos);
     imgSeleccinar_->setVisible(m.seleccionar);
     cmdCal_->setVisible(m.compresion);
-}
-
-void frmOtto_Diesel::ResaltarCiclo(const CiclosResaltados& c) {
+    const CiclosResaltados& c = v.resaltados;
     const bool elegido[3] = {c.otto, c.diesel, c.mixto};
     QLabel* imagenes[3] = {imgOtto_, imgDiesel_, imgMixto_};
     Forma* formas[3] = {shpOtto_, shpDiesel_, shpMixto_};
@@ -370,7 +316,10 @@ void frmOtto_Diesel::showEvent(QShowEvent* evento) {
     // Loaded once, at its first opening; activated at every opening.
     if (!cargada_) {
         cargada_ = true;
-        FormCiclo_Load(e_, Controles());
+        Entradas x;
+        FormCiclo_Load(e_, x);
+        txtP1_->setText(ATexto(*x.p1));
+        txtT1_->setText(ATexto(*x.t1));
     }
     FormCiclo_Activate(e_);
     QDialog::showEvent(evento);
@@ -385,19 +334,38 @@ bool frmOtto_Diesel::eventFilter(QObject* objeto, QEvent* evento) {
     return QDialog::eventFilter(objeto, evento);
 }
 
+void frmOtto_Diesel::LeerEntradas(Entradas& x) const {
+    LeerCajas(*this, EtapaEntrada::Ciclo, x);
+    const DefinicionEntrada& ciclo = Entrada("ciclo");
+    for (std::string_view valor : ciclo.valores)
+        if (valor == e_.TipoCiclo) ciclo.elegir(x, valor);
+    Entrada("compresion").elegir(x, ValorElegido(*this, Entrada("compresion")));
+    Entrada("expansion").elegir(x, ValorElegido(*this, Entrada("expansion")));
+    x.reparto = optProporcion_->isChecked() ? RepartoMixto::Proporcion : RepartoMixto::PresionMaxima;
+}
+
 void frmOtto_Diesel::cmdCal_Click() {
-    CalcularCiclo(e_, dlg_, Controles(), diagramas_, principal_);
-    principal_.CalculoTerminado(!e_.ErrorCalculo);
+    Entradas x;
+    LeerEntradas(x);
+    Mensajes msj;
+    const ResultadoCiclo r = CalcularCiclo(e_, msj, x, diagramas_, principal_.TipoCombustible());
+    if (r.gammaMedioCompresion) txtGammaMedioComp_->setText(ATexto(*r.gammaMedioCompresion));
+    if (r.gammaMedioExpansion) txtGMedioExp_->setText(ATexto(*r.gammaMedioExpansion));
+    for (const Botones& b : r.botones) principal_.Ocultabotones(b);
+    MostrarMensajes(dlg_, msj.lista);
+    Enfocar(*this, msj.foco);
+    principal_.CicloTerminado(r, x);
+    if (r.bien && chkOcultar_->isChecked()) hide();
 }
 
 void frmOtto_Diesel::imgOtto_Click() {
-    vanta::imgOtto_Click(e_, *this);
+    MostrarCiclo(ElegirCiclo(e_, TipoCiclo::Otto));
 }
 void frmOtto_Diesel::imgDiesel_Click() {
-    vanta::imgDiesel_Click(e_, *this);
+    MostrarCiclo(ElegirCiclo(e_, TipoCiclo::Diesel));
 }
 void frmOtto_Diesel::imgMixto_Click() {
-    vanta::imgMixto_Click(e_, *this);
+    MostrarCiclo(ElegirCiclo(e_, TipoCiclo::Mixto));
 }
 
 void frmOtto_Diesel::optGmedioCom_Click() {
@@ -459,10 +427,14 @@ void frmOtto_Diesel::optPmax_Click() {
 }
 
 void frmOtto_Diesel::txtPropVcte_Change() {
-    if (enPropVcte_) return;
-    enPropVcte_ = true;
-    vanta::txtPropVcte_Change(e_, dlg_, Controles());
-    enPropVcte_ = false;
+    Entradas x;
+    LeerEntradas(x);
+    Mensajes msj;
+    const std::string propPcte = vanta::txtPropVcte_Change(e_, msj, x);
+    PonerCajas(*this, EtapaEntrada::Ciclo, x);
+    txtPropPcte_->setText(ATexto(propPcte));
+    MostrarMensajes(dlg_, msj.lista);
+    Enfocar(*this, msj.foco);
 }
 
 }  // namespace vanta

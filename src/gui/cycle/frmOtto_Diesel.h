@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "core/cycle/Ciclo.h"
+#include "core/inputs/Entradas.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
 #include "gui/services/PuertosQt.h"
@@ -40,7 +41,18 @@ private:
     int ancho_ = 1;
 };
 
-class frmOtto_Diesel : public QDialog, public FormularioCiclo {
+// What the cycle window reaches in the main window.
+class VentanaPrincipal {
+public:
+    virtual ~VentanaPrincipal() = default;
+    virtual void Ocultabotones(const Botones& b) = 0;
+    // The text of the fuel list of the fuel window (the report's fuel).
+    virtual std::string TipoCombustible() const = 0;
+    // How CALCULAR ended, with the inputs it read.
+    virtual void CicloTerminado(const ResultadoCiclo& r, const Entradas& x) = 0;
+};
+
+class frmOtto_Diesel : public QDialog {
     Q_OBJECT
 
 public:
@@ -48,10 +60,8 @@ public:
                    QWidget* padre = nullptr);
     ~frmOtto_Diesel() override;
 
-    void MostrarMarcos(const Marcos& m) override;
-    void ResaltarCiclo(const CiclosResaltados& c) override;
-
-    ControlesCiclo& Controles();
+    // The cycle's inputs as the window holds them.
+    void LeerEntradas(Entradas& x) const;
 
 public slots:
     void cmdCal_Click();
@@ -75,15 +85,14 @@ protected:
 private:
     void CrearControles();
     void Distribuir();
+    // The frames and pictures of the cycle chosen.
+    void MostrarCiclo(const VistaCiclo& v);
 
     Estado& e_;
     Dialogos& dlg_;
     Diagramas& diagramas_;
     VentanaPrincipal& principal_;
     bool cargada_ = false;
-    // The logic writes txtPropVcte from inside its own change event and runs
-    // the event again itself; Qt's signal of that write is not a second run.
-    bool enPropVcte_ = false;
 
     QCheckBox* chkOcultar_;
     QGroupBox *fraDTecnicos_, *fraAire_, *fraOpcion_, *fraExpansion_, *fraCompresion_;
@@ -98,9 +107,6 @@ private:
     Forma *shpOtto_, *shpDiesel_, *shpMixto_, *shpActiva_, *shpInactiva_;
     // The stock of pictures: [cycle][variant 1 idle, variant 2 chosen].
     QPixmap stock_[3][2];
-
-    struct Puertos;
-    std::unique_ptr<Puertos> puertos_;
 };
 
 }  // namespace vanta

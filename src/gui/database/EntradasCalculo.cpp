@@ -8,9 +8,8 @@
 
 namespace vanta {
 
-bool GuardarEntradas(AlmacenResultados& almacen, qint64 id, const Estado& e,
-                     std::string_view tipoCombustible) {
-    const CalculoComparado c = CalculoDeEstado("", e, tipoCombustible);
+bool GuardarEntradas(AlmacenResultados& almacen, qint64 id, const ResultadoCalculo& r) {
+    const CalculoComparado c = CalculoDeResultado("", r);
     if (!c.Hay()) return false;
     QSqlQuery q(QSqlDatabase::database(almacen.NombreConexion(), false));
     if (!q.exec(QStringLiteral("CREATE TABLE IF NOT EXISTS EntradasCalculo (Registro BIGINT PRIMARY KEY, "

@@ -10,16 +10,15 @@
 #include <string>
 #include <string_view>
 
-#include "core/state/Estado.h"
+#include "core/sequence/Calculo.h"
 #include "gui/database/AlmacenResultados.h"
 
 namespace vanta {
 
-// Saves the inputs that give the state's calculation again, under the
-// record's id (replacing any there). False when none do or the file refused:
-// the record stands all the same, and a comparison rebuilds it.
-bool GuardarEntradas(AlmacenResultados& almacen, qint64 id, const Estado& e,
-                     std::string_view tipoCombustible);
+// Saves the inputs that give the calculation again, under the record's id
+// (replacing any there). False when none do or the file refused: the record
+// stands all the same, and a comparison rebuilds it.
+bool GuardarEntradas(AlmacenResultados& almacen, qint64 id, const ResultadoCalculo& r);
 
 // The inputs saved under the record's id; nothing when there are none.
 std::optional<std::string> EntradasGuardadas(AlmacenResultados& almacen, qint64 id);

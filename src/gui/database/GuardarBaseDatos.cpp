@@ -25,8 +25,10 @@ ImagenesRegistro ImagenesDeColumnas(const ImagenesPrincipal& imagenes) {
     return columnas;
 }
 
-bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombustible,
-                      std::string_view informe, const ImagenesPrincipal& imagenes, frmBaseDatos& navegador) {
+bool GuardarBaseDatos(const ResultadoCalculo& r, Dialogos& dlg, std::string_view informe,
+                      const ImagenesPrincipal& imagenes, frmBaseDatos& navegador) {
+    const Estado& e = *r.estado;
+    const std::string& tipoCombustible = r.tipoCombustible;
     const std::string nombre = dlg.InputBox(bd::kPromptGuardar, bd::NombrePorDefecto(e, tipoCombustible));
     if (nombre.empty()) return false;
     if (!navegador.Cargar()) return false;
@@ -44,7 +46,7 @@ bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombu
     }
     if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas))
         return false;
-    GuardarEntradas(*navegador.Almacen(), navegador.IdActual(), e, tipoCombustible);
+    GuardarEntradas(*navegador.Almacen(), navegador.IdActual(), r);
     navegador.MostrarModal();
     return true;
 }
@@ -57,9 +59,11 @@ bd::LecturaDireccion ResolverDireccion(const QString& texto) {
     return l;
 }
 
-bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
-                     std::string_view informe, const ImagenesPrincipal& imagenes, Dialogos& dlg,
-                     const QString& baseDatos) {
+bool GuardarRegistro(const ResultadoCalculo& r, std::string_view nombre, const ImagenesPrincipal& imagenes,
+                     Dialogos& dlg, const QString& baseDatos) {
+    const Estado& e = *r.estado;
+    const std::string& tipoCombustible = r.tipoCombustible;
+    const std::string& informe = r.informe;
     const bd::LecturaDireccion direccion = ResolverDireccion(baseDatos);
     if (!direccion.direccion) {
         dlg.MsgBox(direccion.error);
@@ -73,7 +77,7 @@ bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view 
         dlg.MsgBox(almacen.Error());
         return false;
     }
-    GuardarEntradas(almacen, *id, e, tipoCombustible);
+    GuardarEntradas(almacen, *id, r);
     return true;
 }
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/services/Puertos.h"
-#include "core/state/Estado.h"
+#include "core/sequence/Calculo.h"
 #include "gui/database/AlmacenResultados.h"
+#include "gui/services/Dialogos.h"
 
 namespace vanta {
 
@@ -29,20 +29,18 @@ ImagenesRegistro ImagenesDeColumnas(const ImagenesPrincipal& imagenes);
 // writes nothing and opens nothing. Otherwise the pictures pass one by one
 // through the system clipboard (which is left holding pctHS), the record is
 // added in one transaction, and the browser shows it modally as the last
-// record. tipoCombustible: the text of the fuel list; informe: the report as
-// its viewer holds it. Returns whether a record was added; a failure has
-// shown its message.
-bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombustible,
-                      std::string_view informe, const ImagenesPrincipal& imagenes, frmBaseDatos& navegador);
+// record. informe: the report as its viewer holds it. Returns whether a
+// record was added; a failure has shown its message.
+bool GuardarBaseDatos(const ResultadoCalculo& r, Dialogos& dlg, std::string_view informe,
+                      const ImagenesPrincipal& imagenes, frmBaseDatos& navegador);
 
 // The command line's save: one record with the name given, in the file BD.sqlite
 // of the current folder, or in the file or on the server that baseDatos names;
 // made when missing. No clipboard, no window. It waits longer than the window
 // for another program holding a file, since scripts start several at once.
 // Returns whether the record was added; a failure goes through dlg.
-bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
-                     std::string_view informe, const ImagenesPrincipal& imagenes, Dialogos& dlg,
-                     const QString& baseDatos = {});
+bool GuardarRegistro(const ResultadoCalculo& r, std::string_view nombre, const ImagenesPrincipal& imagenes,
+                     Dialogos& dlg, const QString& baseDatos = {});
 
 // A file or an address as the user wrote it, made ready for the store: empty
 // is BD.sqlite, and a relative file is taken from the current folder.

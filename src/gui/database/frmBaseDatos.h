@@ -20,8 +20,8 @@
 #include <vector>
 
 #include "core/database/Registro.h"
-#include "core/services/Puertos.h"
 #include "gui/database/AlmacenResultados.h"
+#include "gui/services/Dialogos.h"
 
 class QGridLayout;
 class QGroupBox;

@@ -8,7 +8,7 @@
 #include <QDialog>
 #include <QString>
 
-#include "core/services/Puertos.h"
+#include "gui/services/Dialogos.h"
 
 class QLineEdit;
 class QPushButton;

@@ -11,6 +11,7 @@
 
 #include "core/fluids/AireHumedo.h"
 #include "gui/services/Controles.h"
+#include "gui/services/EnlaceEntradas.h"
 #include "gui/services/TextosVentanas.h"
 
 namespace vanta {
@@ -21,9 +22,9 @@ frmAireHumedad::frmAireHumedad(Estado& e, Dialogos& dlg, Superficie& pct1, QWidg
       dlg_(dlg),
       pct1_(pct1),
       Frame1_(NuevoMarco(this, "Frame1", "Ambiente")),
-      txtTemAmb_(NuevaCaja(Frame1_, "txtTemAmb", kTextoTemperaturaAmbiente)),
-      txtPreAmb_(NuevaCaja(Frame1_, "txtPreAmb", kTextoPresionAmbiente)),
-      txtHum_(NuevaCaja(Frame1_, "txtHum", kTextoHumedad)),
+      txtTemAmb_(NuevaCajaEntrada(Frame1_, "temperatura-ambiente")),
+      txtPreAmb_(NuevaCajaEntrada(Frame1_, "presion-ambiente")),
+      txtHum_(NuevaCajaEntrada(Frame1_, "humedad")),
       Label1_(NuevaEtiqueta(Frame1_, "Label1", "Humedad  relativa")),
       Label2_(NuevaEtiqueta(Frame1_, "Label2", "%")),
       Label3_(NuevaEtiqueta(Frame1_, "Label3", "Temperatura")),
@@ -31,12 +32,7 @@ frmAireHumedad::frmAireHumedad(Estado& e, Dialogos& dlg, Superficie& pct1, QWidg
       Label5_(NuevaEtiqueta(Frame1_, "Label5", "Presión ")),
       Label6_(NuevaEtiqueta(Frame1_, "Label6", "Pa")),
       chkOcultar_(NuevaCasilla(this, "chkOcultar", kOcultarAutomaticamente, true)),
-      cmdCal_(NuevoBotonCalcular(this, "cmdCal")),
-      cajaTemAmb_(txtTemAmb_),
-      cajaPreAmb_(txtPreAmb_),
-      cajaHum_(txtHum_),
-      interruptorOcultar_(chkOcultar_),
-      ventana_(this) {
+      cmdCal_(NuevoBotonCalcular(this, "cmdCal")) {
     setObjectName(QStringLiteral("frmAireHumedad"));
     setWindowTitle(QString::fromUtf8("Aire húmedo"));
     setModal(true);
@@ -63,14 +59,19 @@ frmAireHumedad::frmAireHumedad(Estado& e, Dialogos& dlg, Superficie& pct1, QWidg
     connect(cmdCal_, &QPushButton::clicked, this, &frmAireHumedad::cmdCal_Click);
 }
 
+void frmAireHumedad::LeerEntradas(Entradas& x) const {
+    LeerCajas(*this, EtapaEntrada::Aire, x);
+}
+
 void frmAireHumedad::cmdCal_Click() {
-    ControlesAire c{.txtPreAmb = cajaPreAmb_,
-                    .txtTemAmb = cajaTemAmb_,
-                    .txtHum = cajaHum_,
-                    .chkOcultar = interruptorOcultar_,
-                    .ventana = ventana_,
-                    .pct1 = pct1_};
-    CalcularAire(e_, dlg_, c);
+    Entradas x;
+    LeerEntradas(x);
+    Mensajes msj;
+    const bool bien = CalcularAire(e_, msj, x, pct1_);
+    MostrarMensajes(dlg_, msj.lista);
+    Enfocar(*this, msj.foco);
+    if (bien) emit Calculado(x);
+    if (bien && chkOcultar_->isChecked()) hide();
 }
 
 }  // namespace vanta

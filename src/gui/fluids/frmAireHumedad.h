@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+#include "core/inputs/Entradas.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
 #include "gui/services/PuertosQt.h"
@@ -23,8 +24,15 @@ class frmAireHumedad : public QDialog {
 public:
     frmAireHumedad(Estado& e, Dialogos& dlg, Superficie& pct1, QWidget* padre = nullptr);
 
+    // The ambient as the boxes hold it.
+    void LeerEntradas(Entradas& x) const;
+
 public slots:
     void cmdCal_Click();
+
+signals:
+    // The air was calculated from these inputs.
+    void Calculado(const Entradas& x);
 
 private:
     Estado& e_;
@@ -36,10 +44,6 @@ private:
     QLabel *Label1_, *Label2_, *Label3_, *Label4_, *Label5_, *Label6_;
     QCheckBox* chkOcultar_;
     QPushButton* cmdCal_;
-
-    CajaTextoQt cajaTemAmb_, cajaPreAmb_, cajaHum_;
-    InterruptorQt interruptorOcultar_;
-    VentanaQt ventana_;
 };
 
 }  // namespace vanta

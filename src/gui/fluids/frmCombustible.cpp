@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "gui/services/Controles.h"
+#include "gui/services/EnlaceEntradas.h"
 #include "gui/services/SuperficieQt.h"
 #include "gui/services/TextosVentanas.h"
 
@@ -33,78 +34,10 @@ void Bloquear(QLineEdit* caja, bool bloqueada, const QPalette& normal) {
 
 }  // namespace
 
-// ---- The list as a box ----------------------------------------------------------
-
-std::string CajaListaQt::Text() const {
-    if (lista_->currentIndex() < 0) return std::string(kElijaCombustible);
-    return lista_->currentText().toStdString();
-}
-
-void CajaListaQt::SetText(std::string_view texto) {
-    lista_->setCurrentIndex(lista_->findText(ATexto(texto)));
-}
-
-void CajaListaQt::SetFocus() {
-    lista_->setFocus();
-}
-
 // ---- The window -------------------------------------------------------------------
 
-// The boxes and options as the logic sees them, and the controls struct that
-// gathers them.
-struct frmCombustible::Puertos {
-    explicit Puertos(frmCombustible& f)
-        : txtC(f.txtC_),
-          txtN(f.txtN_),
-          txtO(f.txtO_),
-          txtS(f.txtS_),
-          txtH(f.txtH_),
-          txtMolC(f.txtMol_[0]),
-          txtMolH(f.txtMol_[1]),
-          txtMolN(f.txtMol_[2]),
-          txtMolO(f.txtMol_[3]),
-          txtMolS(f.txtMol_[4]),
-          txtmmComb(f.txtmmComb_),
-          txtEntPro(f.txtEntPro_),
-          txtHcs(f.txtHcs_),
-          txtHci(f.txtHci_),
-          txtQvap(f.txtQvap_),
-          optMasa(f.optMasa_),
-          optFOR(f.optFOR_),
-          chkOcultar(f.chkOcultar_),
-          ventana(&f),
-          controles{.cboTipCom = f.lista_,
-                    .txtC = txtC,
-                    .txtN = txtN,
-                    .txtO = txtO,
-                    .txtS = txtS,
-                    .txtH = txtH,
-                    .txtMolC = txtMolC,
-                    .txtMolH = txtMolH,
-                    .txtMolN = txtMolN,
-                    .txtMolO = txtMolO,
-                    .txtMolS = txtMolS,
-                    .txtmmComb = txtmmComb,
-                    .txtEntPro = txtEntPro,
-                    .txtHcs = txtHcs,
-                    .txtHci = txtHci,
-                    .txtQvap = txtQvap,
-                    .optMasa = optMasa,
-                    .optFOR = optFOR,
-                    .chkOcultar = chkOcultar,
-                    .ventana = ventana,
-                    .pct2 = f.pct2_,
-                    .formulario = f} {}
-
-    CajaTextoQt txtC, txtN, txtO, txtS, txtH, txtMolC, txtMolH, txtMolN, txtMolO, txtMolS, txtmmComb,
-        txtEntPro, txtHcs, txtHci, txtQvap;
-    InterruptorQt optMasa, optFOR, chkOcultar;
-    VentanaQt ventana;
-    ControlesCombustible controles;
-};
-
 frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidget* padre)
-    : QDialog(padre), e_(e), dlg_(dlg), pct2_(pct2), lista_(nullptr) {
+    : QDialog(padre), e_(e), dlg_(dlg), pct2_(pct2) {
     setObjectName(QStringLiteral("frmCombustible"));
     setWindowTitle(QStringLiteral("Combustible"));
     setModal(true);
@@ -116,7 +49,6 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
     cboTipCom_->addItem(ATexto(kOtrosCombustibles));
     cboTipCom_->setPlaceholderText(ATexto(kElijaCombustible));
     cboTipCom_->setCurrentIndex(-1);
-    lista_ = CajaListaQt(cboTipCom_);
 
     fraOtrosCombustibles_ = NuevoMarco(this, "fraOtrosCombustibles", kOtrosCombustibles.data());
     optMasa_ = NuevaOpcion(fraOtrosCombustibles_, "optMasa", "Proporción en masa");
@@ -132,8 +64,12 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
     auto* rejillaOtros = new QGridLayout(fraOtrosCombustibles_);
     rejillaOtros->addWidget(optMasa_, 0, 0, 1, 3);
     rejillaOtros->addWidget(optFOR_, 0, 4, 1, 2);
+    // The mass boxes of the input in its order C, N, O, S; hydrogen's is the
+    // program's answer.
+    const int campoMasa[5] = {0, -1, 1, 2, 3};
     for (int i = 0; i < 5; ++i) {
-        cajasMasa[i] = NuevaCaja(fraOtrosCombustibles_, masa[i][0], "");
+        cajasMasa[i] = campoMasa[i] < 0 ? NuevaCaja(fraOtrosCombustibles_, masa[i][0], "")
+                                        : NuevaCajaEntrada(fraOtrosCombustibles_, "masa", campoMasa[i]);
         rejillaOtros->addWidget(NuevaEtiqueta(fraOtrosCombustibles_, masa[i][1], masa[i][2]), i + 1, 0);
         rejillaOtros->addWidget(cajasMasa[i], i + 1, 1);
         auto* unidad = NuevaEtiqueta(fraOtrosCombustibles_, "", "%");
@@ -152,7 +88,7 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
                                  {"txtMolS", "lblMolS", "S"}};
     rejillaOtros->setColumnMinimumWidth(3, 24);
     for (int i = 0; i < 5; ++i) {
-        txtMol_[i] = NuevaCaja(fraOtrosCombustibles_, formula[i][0], "");
+        txtMol_[i] = NuevaCajaEntrada(fraOtrosCombustibles_, "formula", i);
         txtMol_[i]->setToolTip(QString::fromUtf8(kAyudaSeparador));
         auto* l = NuevaEtiqueta(fraOtrosCombustibles_, formula[i][1], formula[i][2]);
         l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -162,7 +98,7 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
     for (QLineEdit* c : {txtC_, txtN_, txtO_, txtS_}) c->setToolTip(QString::fromUtf8(kAyudaSeparador));
     // Hydrogen is always computed.
     txtH_->setReadOnly(true);
-    txtmmComb_ = NuevaCaja(fraOtrosCombustibles_, "txtmmComb", kTextoInicialMasaMolecular.data());
+    txtmmComb_ = NuevaCajaEntrada(fraOtrosCombustibles_, "masa-molecular");
     paletaCaja_ = txtmmComb_->palette();
     rejillaOtros->addWidget(
         NuevaEtiqueta(fraOtrosCombustibles_, "lblmmComb", "Masa molecular del combustible"), 6, 0, 1, 4);
@@ -184,8 +120,8 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
         rejillaValores->addWidget(u, n, 2);
         return c;
     };
-    txtEntPro_ = fila(0, "txtEntPro", "Entalpía de formación del combustible", kTextoInicialEntalpia.data(),
-                      "J/mol", false);
+    txtEntPro_ = fila(0, "txtEntPro", "Entalpía de formación del combustible",
+                      std::string(Entrada("entalpia-formacion").porDefecto).c_str(), "J/mol", false);
     txtEntPro_->setToolTip(QString::fromUtf8(kAyudaEntalpia));
     txtHcs_ = fila(1, "txtHcs", "Poder calorífico superior", "", "J/kg", true);
     txtHci_ = fila(2, "txtHci", "Poder calorífico inferior", "", "J/kg", true);
@@ -207,8 +143,6 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
     columna->addLayout(rejillaValores);
     columna->addLayout(abajo);
 
-    puertos_ = std::make_unique<Puertos>(*this);
-
     connect(cboTipCom_, &QComboBox::activated, this, &frmCombustible::cboTipCom_Click);
     connect(cmdCal_, &QPushButton::clicked, this, &frmCombustible::cmdCal_Click);
     connect(optFOR_, &QRadioButton::clicked, this, &frmCombustible::optFOR_Click);
@@ -217,42 +151,83 @@ frmCombustible::frmCombustible(Estado& e, Dialogos& dlg, Superficie& pct2, QWidg
 
 frmCombustible::~frmCombustible() = default;
 
-ControlesCombustible& frmCombustible::Controles() {
-    return puertos_->controles;
+std::string frmCombustible::TipoCombustible() const {
+    if (cboTipCom_->currentIndex() < 0) return std::string(kElijaCombustible);
+    return cboTipCom_->currentText().toStdString();
+}
+
+void frmCombustible::LeerEntradas(Entradas& x) const {
+    LeerCajas(*this, EtapaEntrada::Combustible, x);
+    const std::string lista = TipoCombustible();
+    if (BuscarCombustible(lista)) {
+        x.combustible = lista;
+        x.formaCombustible = FormaCombustible::Lista;
+    } else if (lista == kOtrosCombustibles) {
+        x.formaCombustible = vista_.opcion.value_or(FormaCombustible::Masa);
+    }
+}
+
+void frmCombustible::Mostrar(const Entradas& x) {
+    PonerCajas(*this, EtapaEntrada::Combustible, x);
+    txtH_->setText(ATexto(salidas_.cienH));
+    txtHcs_->setText(ATexto(salidas_.hcs));
+    txtHci_->setText(ATexto(salidas_.hci));
+    txtQvap_->setText(ATexto(salidas_.calorVap));
+    for (QWidget* w : std::initializer_list<QWidget*>{cmdCal_, optMasa_, optFOR_})
+        w->setEnabled(vista_.entradaPropia);
+    fraOtrosCombustibles_->setTitle(ATexto(vista_.tituloOtros));
+    if (vista_.marcoOtros) fraOtrosCombustibles_->setEnabled(true);
+    if (vista_.opcion) {
+        const bool formula = *vista_.opcion == FormaCombustible::Formula;
+        (formula ? optFOR_ : optMasa_)->setChecked(true);
+        for (QLineEdit* c : {txtC_, txtN_, txtO_, txtS_, txtmmComb_}) Bloquear(c, formula, paletaCaja_);
+        for (QLineEdit* c : txtMol_) Bloquear(c, !formula, paletaCaja_);
+    }
+}
+
+void frmCombustible::Terminar(const Mensajes& msj, const Entradas& x, bool ocultar, bool definido) {
+    Mostrar(x);
+    MostrarMensajes(dlg_, msj.lista);
+    Enfocar(*this, msj.foco);
+    if (definido) {
+        Entradas aplicadas = x;
+        LeerEntradas(aplicadas);
+        emit Calculado(aplicadas);
+    }
+    if (ocultar && chkOcultar_->isChecked()) hide();
 }
 
 void frmCombustible::cboTipCom_Click() {
-    if (lista_.Text() == kElijaCombustible) return;
-    vanta::cboTipCom_Click(e_, dlg_, Controles());
+    const std::string lista = TipoCombustible();
+    if (lista == kElijaCombustible) return;
+    Entradas x;
+    LeerEntradas(x);
+    Mensajes msj;
+    const bool calculado = ElegirEntradaLista(e_, msj, lista, x, vista_, salidas_, pct2_);
+    Terminar(msj, x, calculado, calculado && !e_.ErrorCalculo);
 }
 
 void frmCombustible::cmdCal_Click() {
-    vanta::cmdCal_Click(e_, dlg_, Controles());
+    const std::string lista = TipoCombustible();
+    Entradas x;
+    LeerEntradas(x);
+    Mensajes msj;
+    const bool ocultar = CalcularCombustiblePropio(e_, msj, lista, x, vista_, salidas_, pct2_);
+    Terminar(msj, x, ocultar, ocultar && lista == kOtrosCombustibles && !e_.ErrorCalculo);
 }
+
 void frmCombustible::optFOR_Click() {
-    vanta::optFOR_Click(Controles());
+    Entradas x;
+    LeerEntradas(x);
+    ElegirFormaPropia(vista_, FormaCombustible::Formula);
+    Mostrar(x);
 }
+
 void frmCombustible::optMasa_Click() {
-    vanta::optMasa_Click(Controles());
-}
-
-void frmCombustible::HabilitarEntradaPropia(bool habilitar) {
-    cmdCal_->setEnabled(habilitar);
-    optMasa_->setEnabled(habilitar);
-    optFOR_->setEnabled(habilitar);
-}
-
-void frmCombustible::PonerTituloOtros(std::string_view titulo) {
-    fraOtrosCombustibles_->setTitle(ATexto(titulo));
-}
-
-void frmCombustible::HabilitarMarcoOtros() {
-    fraOtrosCombustibles_->setEnabled(true);
-}
-
-void frmCombustible::BloquearCajas(bool formula) {
-    for (QLineEdit* c : {txtC_, txtN_, txtO_, txtS_, txtmmComb_}) Bloquear(c, formula, paletaCaja_);
-    for (QLineEdit* c : txtMol_) Bloquear(c, !formula, paletaCaja_);
+    Entradas x;
+    LeerEntradas(x);
+    ElegirFormaPropia(vista_, FormaCombustible::Masa);
+    Mostrar(x);
 }
 
 }  // namespace vanta

@@ -23,20 +23,7 @@ class QRadioButton;
 
 namespace vanta {
 
-// The fuel list as the logic sees a box: its text is the entry shown.
-class CajaListaQt : public CajaTexto {
-public:
-    explicit CajaListaQt(QComboBox* lista) : lista_(lista) {}
-    std::string Text() const override;
-    void SetText(std::string_view texto) override;
-    void SetFocus() override;
-    void SetSelStart(int) override {}
-
-private:
-    QComboBox* lista_;
-};
-
-class frmCombustible : public QDialog, public FormularioCombustible {
+class frmCombustible : public QDialog {
     Q_OBJECT
 
 public:
@@ -44,12 +31,10 @@ public:
     ~frmCombustible() override;
 
     // The text of the list: an entry, or "Elija combustible" before a choice.
-    std::string TipoCombustible() const { return lista_.Text(); }
-
-    void HabilitarEntradaPropia(bool habilitar) override;
-    void PonerTituloOtros(std::string_view titulo) override;
-    void HabilitarMarcoOtros() override;
-    void BloquearCajas(bool formula) override;
+    std::string TipoCombustible() const;
+    // The fuel as the window holds it: the entry of the list, or the user's
+    // own by the way of input selected, and the texts of the boxes.
+    void LeerEntradas(Entradas& x) const;
 
 public slots:
     void cboTipCom_Click();
@@ -57,8 +42,16 @@ public slots:
     void optFOR_Click();
     void optMasa_Click();
 
+signals:
+    // A fuel was defined from these inputs.
+    void Calculado(const Entradas& x);
+
 private:
-    ControlesCombustible& Controles();
+    // Shows what the logic left: the texts of the boxes, the figures, what
+    // may be used and which boxes are locked.
+    void Mostrar(const Entradas& x);
+    // The messages of an event, the focus, and what follows a fuel defined.
+    void Terminar(const Mensajes& msj, const Entradas& x, bool ocultar, bool definido);
 
     Estado& e_;
     Dialogos& dlg_;
@@ -73,10 +66,9 @@ private:
     QCheckBox* chkOcultar_;
     QPushButton* cmdCal_;
 
-    CajaListaQt lista_;
     QPalette paletaCaja_;  // a box's own colours, for unlocking
-    struct Puertos;
-    std::unique_ptr<Puertos> puertos_;
+    VistaCombustible vista_;
+    SalidasCombustible salidas_;
 };
 
 }  // namespace vanta

@@ -12,32 +12,10 @@
 #include <QVBoxLayout>
 
 #include "gui/services/Controles.h"
+#include "gui/services/EnlaceEntradas.h"
 #include "gui/services/TextosVentanas.h"
 
 namespace vanta {
-
-struct frmGasesCombustion::Puertos {
-    explicit Puertos(frmGasesCombustion& f)
-        : txtFr(f.txtFr_),
-          txtLambda(f.txtLambda_),
-          optFr(f.optFr_),
-          optLambda(f.optLambda_),
-          chkOcultar(f.chkOcultar_),
-          ventana(&f),
-          controles{.txtFr = txtFr,
-                    .txtLambda = txtLambda,
-                    .optFr = optFr,
-                    .optLambda = optLambda,
-                    .chkOcultar = chkOcultar,
-                    .ventana = ventana,
-                    .pct3 = f.pct3_,
-                    .variables = f.variables_} {}
-
-    CajaTextoQt txtFr, txtLambda;
-    InterruptorQt optFr, optLambda, chkOcultar;
-    VentanaQt ventana;
-    ControlesCombustion controles;
-};
 
 frmGasesCombustion::frmGasesCombustion(Estado& e, Dialogos& dlg, Superficie& pct3, QWidget* padre)
     : QDialog(padre), e_(e), dlg_(dlg), pct3_(pct3) {
@@ -49,8 +27,8 @@ frmGasesCombustion::frmGasesCombustion(Estado& e, Dialogos& dlg, Superficie& pct
     Frame1_ = NuevoMarco(this, "Frame1");
     optFr_ = NuevaOpcion(Frame1_, "optFr", "Fr");
     optLambda_ = NuevaOpcion(Frame1_, "optLambda", "Lambda");
-    txtFr_ = NuevaCaja(Frame1_, "txtFr", kTextoInicialDosado.data());
-    txtLambda_ = NuevaCaja(Frame1_, "txtLambda", kTextoInicialDosado.data());
+    txtFr_ = NuevaCajaEntrada(Frame1_, "fr");
+    txtLambda_ = NuevaCajaEntrada(Frame1_, "lambda");
     auto* rejilla = new QGridLayout(Frame1_);
     rejilla->addWidget(optFr_, 0, 0);
     rejilla->addWidget(optLambda_, 0, 2);
@@ -69,7 +47,6 @@ frmGasesCombustion::frmGasesCombustion(Estado& e, Dialogos& dlg, Superficie& pct
     columna->addWidget(Frame1_);
     columna->addLayout(abajo);
 
-    puertos_ = std::make_unique<Puertos>(*this);
     connect(cmdCalcular_, &QPushButton::clicked, this, &frmGasesCombustion::cmdCalcular_Click);
     // A change runs the event also when the logic writes the other box; the
     // event itself acts only on the box that leads.
@@ -85,27 +62,59 @@ void frmGasesCombustion::showEvent(QShowEvent* evento) {
     // The window is loaded once, at its first opening.
     if (!cargada_) {
         cargada_ = true;
-        FormGases_Load(e_, puertos_->controles);
+        FormGases_Load(e_, variables_);
     }
     QDialog::showEvent(evento);
 }
 
 bool frmGasesCombustion::eventFilter(QObject* objeto, QEvent* evento) {
+    // A click in a box makes it lead.
     if (evento->type() == QEvent::MouseButtonRelease) {
-        if (objeto == txtFr_) txtFr_Click(puertos_->controles);
-        if (objeto == txtLambda_) txtLambda_Click(puertos_->controles);
+        if (objeto == txtFr_) optFr_->setChecked(true);
+        if (objeto == txtLambda_) optLambda_->setChecked(true);
     }
     return QDialog::eventFilter(objeto, evento);
 }
 
+void frmGasesCombustion::LeerEntradas(Entradas& x) const {
+    LeerCajas(*this, EtapaEntrada::Combustion, x);
+    x.formaDosado = optLambda_->isChecked() ? FormaDosado::Lambda : FormaDosado::Fr;
+}
+
+void frmGasesCombustion::Mostrar(const Mensajes& msj, const Entradas& x) {
+    PonerCajas(*this, EtapaEntrada::Combustion, x);
+    MostrarMensajes(dlg_, msj.lista);
+    Enfocar(*this, msj.foco);
+}
+
 void frmGasesCombustion::cmdCalcular_Click() {
-    CalcularHumos(e_, dlg_, puertos_->controles);
+    Entradas x;
+    LeerEntradas(x);
+    Mensajes msj;
+    const bool bien = CalcularHumos(e_, msj, x, variables_, pct3_);
+    Mostrar(msj, x);
+    if (bien) emit Calculado(x);
+    if (bien && chkOcultar_->isChecked()) hide();
 }
+
+// A change runs when the logic writes the other box too; the events act only
+// on the box that leads.
 void frmGasesCombustion::txtFr_Change() {
-    vanta::txtFr_Change(e_, dlg_, puertos_->controles);
+    if (!optFr_->isChecked()) return;
+    Entradas x;
+    LeerEntradas(x);
+    Mensajes msj;
+    vanta::txtFr_Change(e_, msj, x, variables_);
+    Mostrar(msj, x);
 }
+
 void frmGasesCombustion::txtLambda_Change() {
-    vanta::txtLambda_Change(e_, dlg_, puertos_->controles);
+    if (!optLambda_->isChecked()) return;
+    Entradas x;
+    LeerEntradas(x);
+    Mensajes msj;
+    vanta::txtLambda_Change(e_, msj, x, variables_);
+    Mostrar(msj, x);
 }
 
 }  // namespace vanta

@@ -28,11 +28,17 @@ public:
     ~frmGasesCombustion() override;
 
     const VariablesCombustion& Variables() const { return variables_; }
+    // Fr and Lambda as the boxes hold them, and which leads.
+    void LeerEntradas(Entradas& x) const;
 
 public slots:
     void cmdCalcular_Click();
     void txtFr_Change();
     void txtLambda_Change();
+
+signals:
+    // The gases were calculated from these inputs.
+    void Calculado(const Entradas& x);
 
 protected:
     void showEvent(QShowEvent* evento) override;
@@ -51,8 +57,7 @@ private:
     QCheckBox* chkOcultar_;
     QPushButton* cmdCalcular_;
 
-    struct Puertos;
-    std::unique_ptr<Puertos> puertos_;
+    void Mostrar(const Mensajes& msj, const Entradas& x);
 };
 
 }  // namespace vanta

@@ -15,6 +15,7 @@
 #include <QUrl>
 
 #include "core/reports/ArchivosInforme.h"
+#include "core/services/Numeros.h"
 #include "core/warnings/Avisos.h"
 #include "core/warnings/CicloIdeal.h"
 #include "gui/comparison/Comparar.h"
@@ -32,7 +33,6 @@
 #include "gui/resources/Dibujos.h"
 #include "gui/resources/Programa.h"
 #include "gui/services/Controles.h"
-#include "gui/studies/OpcionesVentanas.h"
 #include "gui/studies/frmEstudio.h"
 #include "gui/tables/frmHerramientas.h"
 #include "gui/validation/PanelConfianza.h"
@@ -114,9 +114,15 @@ frmFase1::frmFase1(Estado& e, Dialogos* dlg, QSize tamano, QWidget* padre)
     frmAireHumedad_ = new frmAireHumedad(e_, *dlg_, *pct1_, this);
     frmCombustible_ = new frmCombustible(e_, *dlg_, *pct2_, this);
     frmGasesCombustion_ = new frmGasesCombustion(e_, *dlg_, *pct3_, this);
-    FuentePagina fuente{[this] { return TipoCombustible(); },
+    connect(frmAireHumedad_, &frmAireHumedad::Calculado, this,
+            [this](const Entradas& x) { Aplicar(EtapaEntrada::Aire, x); });
+    connect(frmCombustible_, &frmCombustible::Calculado, this,
+            [this](const Entradas& x) { Aplicar(EtapaEntrada::Combustible, x); });
+    connect(frmGasesCombustion_, &frmGasesCombustion::Calculado, this,
+            [this](const Entradas& x) { Aplicar(EtapaEntrada::Combustion, x); });
+    FuentePagina fuente{[this] { return calculo_; },
                         [this](CuadroImagen cuadro) { return Imagenes()[static_cast<size_t>(cuadro)]; }};
-    visores_ = std::make_unique<VisoresInforme>(e_, *dlg_, std::move(fuente), this);
+    visores_ = std::make_unique<VisoresInforme>(*dlg_, std::move(fuente), this);
     frmOtto_Diesel_ = new frmOtto_Diesel(e_, *dlg_, diagramas_, *this, this);
 
     resize(tamano.isEmpty() ? TamanoInicial(this) : tamano);
@@ -271,9 +277,6 @@ void frmFase1::CrearPotencia() {
     for (QLineEdit* c :
          {txtRpm_, txtPotencia_, txtPotenciaCV_, txtCilindrada_, txtConsumoMJ_, txtConsumoKwh_})
         c->setAlignment(Qt::AlignRight);
-    cajaRpm_ = std::make_unique<CajaTextoQt>(txtRpm_);
-    cajaPotencia_ = std::make_unique<CajaTextoQt>(txtPotencia_);
-    cajaPotenciaCV_ = std::make_unique<CajaTextoQt>(txtPotenciaCV_);
     connect(txtRpm_, &QLineEdit::textChanged, this, &frmFase1::txtRpm_Change);
     txtRpm_->installEventFilter(this);
     txtCilindrada_->installEventFilter(this);
@@ -386,10 +389,44 @@ void frmFase1::Ocultabotones(const Botones& b) {
     Mostrar();
 }
 
-void frmFase1::CalculoTerminado(bool bien) {
-    vanta::CalculoTerminado(flujo_, bien);
-    if (!bien) return;
-    panelConfianza_->Mostrar(AvisosValidez(e_, TipoCombustible()), DistanciaAlIdeal(e_), e_.SeparadorDecimal);
+void frmFase1::Aplicar(EtapaEntrada etapa, const Entradas& x) {
+    for (const DefinicionEntrada& d : TablaEntradas()) {
+        if (d.etapa != etapa) continue;
+        if (d.tipo == TipoEntrada::Eleccion) {
+            const std::vector<std::string> valor = d.leer(x);
+            if (!valor.empty()) d.elegir(aplicadas_, valor.front());
+            continue;
+        }
+        Entradas copia = x;
+        for (int i = 0; i < d.Campos(); ++i) *d.texto(aplicadas_, i) = *d.texto(copia, i);
+    }
+    if (etapa == EtapaEntrada::Combustible) aplicadas_.formaCombustible = x.formaCombustible;
+    if (etapa == EtapaEntrada::Combustion) aplicadas_.formaDosado = x.formaDosado;
+    if (etapa == EtapaEntrada::Ciclo) {
+        aplicadas_.compresion = x.compresion, aplicadas_.expansion = x.expansion;
+        aplicadas_.reparto = x.reparto;
+    }
+}
+
+void frmFase1::CicloTerminado(const ResultadoCiclo& r, const Entradas& x) {
+    if (r.bien) {
+        Aplicar(EtapaEntrada::Ciclo, x);
+        auto calculo = std::make_shared<ResultadoCalculo>();
+        calculo->entradas = aplicadas_;
+        calculo->entradas.rpm.reset();
+        calculo->tipoCombustible = TipoCombustible();
+        calculo->bien = true;
+        calculo->estado = std::make_shared<const Estado>(e_);
+        calculo->informe = r.informe;
+        calculo->textos = r.textos;
+        calculo->avisos = AvisosValidez(e_, calculo->tipoCombustible);
+        calculo_ = std::move(calculo);
+        PonerInforme(r.informe);
+        MostrarResultados(r.textos);
+    }
+    vanta::CalculoTerminado(flujo_, r.bien);
+    if (!r.bien) return;
+    panelConfianza_->Mostrar(calculo_->avisos, DistanciaAlIdeal(e_), e_.SeparadorDecimal);
     DistribuirConfianza();
 }
 
@@ -491,7 +528,8 @@ void frmFase1::FijarDireccionBaseDatos(const QString& direccion) {
 }
 
 void frmFase1::cmdEnvBaseDatos_Click() {
-    GuardarBaseDatos(e_, *dlg_, TipoCombustible(), visores_->rthInforme(), Imagenes(), BaseDatos());
+    if (!calculo_) return;
+    GuardarBaseDatos(*calculo_, *dlg_, visores_->rthInforme(), Imagenes(), BaseDatos());
 }
 
 void frmFase1::chkVerHs_Click() {
@@ -515,7 +553,12 @@ void frmFase1::txtCilindrada_Click() {
 }
 
 void frmFase1::txtRpm_Change() {
-    vanta::txtRpm_Change(e_, *dlg_, wcicloEnPantalla_, *cajaRpm_, *cajaPotencia_, *cajaPotenciaCV_);
+    Mensajes msj;
+    const auto potencia = vanta::txtRpm_Change(e_, msj, wcicloEnPantalla_, txtRpm_->text().toStdString());
+    MostrarMensajes(*dlg_, msj.lista);
+    if (!potencia) return;
+    txtPotencia_->setText(ATexto(potencia->potencia));
+    txtPotenciaCV_->setText(ATexto(potencia->potenciaCV));
 }
 
 void frmFase1::txtRpm_Click() {
@@ -550,12 +593,16 @@ CalculoCiclo frmFase1::CalcularCicloActual() {
 // The readout of the state under the pointer; only while a cycle is on show
 // (the button of the report is not hidden).
 void frmFase1::pctPV_MouseMove(int, int, float x, float y) {
-    vanta::pctPV_MouseMove(e_, *dlg_, diagramas_, CicloEnPantalla(flujo_), x, y, lectura_);
+    Mensajes msj;
+    vanta::pctPV_MouseMove(e_, msj, diagramas_, CicloEnPantalla(flujo_), x, y, lectura_);
+    MostrarMensajes(*dlg_, msj.lista);
     MostrarLectura();
 }
 
 void frmFase1::pctTV_MouseMove(int, int, float x, float y) {
-    vanta::pctTV_MouseMove(e_, *dlg_, diagramas_, CicloEnPantalla(flujo_), x, y, lectura_);
+    Mensajes msj;
+    vanta::pctTV_MouseMove(e_, msj, diagramas_, CicloEnPantalla(flujo_), x, y, lectura_);
+    MostrarMensajes(*dlg_, msj.lista);
     MostrarLectura();
 }
 
@@ -667,12 +714,22 @@ void frmFase1::mnuTablas_Click() {
     Herramientas().MostrarParaDefinir();
 }
 
+Entradas frmFase1::EntradasDeVentanas() const {
+    Entradas x;
+    frmAireHumedad_->LeerEntradas(x);
+    frmCombustible_->LeerEntradas(x);
+    frmGasesCombustion_->LeerEntradas(x);
+    // Until a cycle is picked, the cycle's inputs are those the screens start
+    // with.
+    if (!e_.TipoCiclo.empty()) frmOtto_Diesel_->LeerEntradas(x);
+    const std::string rpm = txtRpm_->text().toStdString();
+    if (LeerNumero(rpm)) x.rpm = rpm;
+    return x;
+}
+
 void frmFase1::mnuEstudio_Click() {
     if (!frmEstudio_) {
-        auto base = [this] {
-            return OpcionesDeLasVentanas(
-                {frmAireHumedad_, frmCombustible_, frmGasesCombustion_, frmOtto_Diesel_, this}, e_.TipoCiclo);
-        };
+        auto base = [this] { return EntradasDeVentanas(); };
         frmEstudio_ =
             std::make_unique<frmEstudio>(std::move(base), *dlg_, e_.SeparadorDecimal, nullptr, this);
     }
@@ -695,8 +752,9 @@ void frmFase1::AbrirAyuda() {
 // ---- Comparison and figures ------------------------------------------------------------
 
 void frmFase1::mnuExportarDiagramas_Click() {
+    if (!calculo_) return;
     const auto calculo = std::make_shared<const std::vector<CalculoComparado>>(
-        1, CalculoDeEstado("Cálculo actual", e_, TipoCombustible()));
+        1, CalculoDeResultado("Cálculo actual", *calculo_));
     if (!calculo->front().Hay()) {
         dlg_->MsgBox(calculo->front().mensaje);
         return;
@@ -716,7 +774,7 @@ void frmFase1::mnuExportarDiagramas_Click() {
 
 void frmFase1::mnuComparar_Click() {
     std::optional<CalculoComparado> actual;
-    if (flujo_.habilitado.mnuInforme) actual = CalculoDeEstado("Cálculo actual", e_, TipoCombustible());
+    if (flujo_.habilitado.mnuInforme && calculo_) actual = CalculoDeResultado("Cálculo actual", *calculo_);
     frmBaseDatos& b = BaseDatos();
     Comparar(this, b.Cargar() ? b.Almacen() : nullptr, std::move(actual), -1, e_.SeparadorDecimal, *dlg_);
 }

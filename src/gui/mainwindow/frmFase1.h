@@ -17,9 +17,10 @@
 
 #include "core/cycle/Ciclo.h"
 #include "core/diagrams/LecturaRaton.h"
-#include "core/services/Puertos.h"
+#include "core/sequence/Calculo.h"
 #include "core/state/Estado.h"
 #include "core/workflow/Flujo.h"
+#include "gui/cycle/frmOtto_Diesel.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/services/SuperficieQt.h"
 
@@ -56,12 +57,19 @@ public:
     explicit frmFase1(Estado& e, Dialogos* dlg = nullptr, QSize tamano = {}, QWidget* padre = nullptr);
     ~frmFase1() override;
 
-    // ---- What the calculation reaches ----
+    // ---- What the cycle window reaches ----
     void Ocultabotones(const Botones& b) override;
-    void CalculoTerminado(bool bien) override;
     std::string TipoCombustible() const override;
-    void PonerInforme(const std::string& texto) override;
-    void MostrarResultados(const TextosResultados& textos) override;
+    void CicloTerminado(const ResultadoCiclo& r, const Entradas& x) override;
+
+    // The last calculation that ended well, as it ended (its state, report,
+    // labels, warnings and inputs): the report, the page, the record and the
+    // comparisons are all made from it. Null before the first.
+    const std::shared_ptr<const ResultadoCalculo>& CalculoActual() const { return calculo_; }
+    // The inputs as the stage windows last calculated them.
+    const Entradas& EntradasAplicadas() const { return aplicadas_; }
+    // The inputs as the windows hold them now (a study starts from them).
+    Entradas EntradasDeVentanas() const;
 
     // The workflow as the window shows it.
     const Flujo& flujo() const { return flujo_; }
@@ -175,6 +183,10 @@ private:
     void PresentacionInicial();
     // Shows the workflow's value: places, what is enabled, in view and marked.
     void Mostrar();
+    void PonerInforme(const std::string& texto);
+    void MostrarResultados(const TextosResultados& textos);
+    // The inputs a stage window calculated with, kept for the next snapshot.
+    void Aplicar(EtapaEntrada etapa, const Entradas& x);
 
     Estado& e_;
     std::unique_ptr<Dialogos> dlgPropios_;
@@ -231,7 +243,6 @@ private:
               *txtCilindrada_ = nullptr, *txtConsumoMJ_ = nullptr, *txtConsumoKwh_ = nullptr;
     QLabel *Label28_ = nullptr, *Label30_ = nullptr, *Label29_ = nullptr, *Label33_ = nullptr,
            *Label35_ = nullptr, *Label34_ = nullptr, *Label31_ = nullptr, *Label32_ = nullptr;
-    std::unique_ptr<CajaTextoQt> cajaRpm_, cajaPotencia_, cajaPotenciaCV_;
 
     // The readout of the state under the pointer.
     QGroupBox* fraEstadoActual_ = nullptr;
@@ -268,6 +279,8 @@ private:
     QString direccionBaseDatos_;
     // The report windows and the buffer rthInforme, which lives with them.
     std::unique_ptr<VisoresInforme> visores_;
+    Entradas aplicadas_;
+    std::shared_ptr<const ResultadoCalculo> calculo_;
 };
 
 }  // namespace vanta

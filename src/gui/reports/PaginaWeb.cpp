@@ -61,11 +61,10 @@ std::optional<std::string> EscribirPaginaWeb(const QString& archivo, std::string
     return EscribirConjunto(conjunto);
 }
 
-std::optional<std::string> EscribirPaginaEnCarpeta(const QString& carpeta, const Estado& e,
-                                                   std::string_view tipoCombustible,
+std::optional<std::string> EscribirPaginaEnCarpeta(const QString& carpeta, const ResultadoCalculo& r,
                                                    const ImagenesPagina& imagenes) {
     const QString archivo = QDir(carpeta).filePath(ATexto(NombreConExtension(kDialogoPaginaPrincipal)));
-    return EscribirPaginaWeb(archivo, HTMLInforme(e, tipoCombustible), imagenes);
+    return EscribirPaginaWeb(archivo, HTMLInforme(*r.estado, r.tipoCombustible), imagenes);
 }
 
 }  // namespace vanta

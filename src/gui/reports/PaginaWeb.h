@@ -16,7 +16,7 @@
 #include <string_view>
 
 #include "core/reports/Informes.h"
-#include "core/state/Estado.h"
+#include "core/sequence/Calculo.h"
 
 namespace vanta {
 
@@ -39,9 +39,7 @@ std::optional<std::string> EscribirPaginaWeb(const QString& archivo, std::string
 
 // The page of a calculated cycle and its seven bitmaps in a folder (made when
 // missing), the page under the main window's name for it, "Index.htm".
-// tipoCombustible: the text of the fuel list.
-std::optional<std::string> EscribirPaginaEnCarpeta(const QString& carpeta, const Estado& e,
-                                                   std::string_view tipoCombustible,
+std::optional<std::string> EscribirPaginaEnCarpeta(const QString& carpeta, const ResultadoCalculo& r,
                                                    const ImagenesPagina& imagenes);
 
 }  // namespace vanta

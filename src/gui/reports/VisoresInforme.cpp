@@ -9,9 +9,8 @@
 
 namespace vanta {
 
-VisoresInforme::VisoresInforme(Estado& e, Dialogos& dlg, FuentePagina fuente, QWidget* padre,
-                               DialogosArchivo* archivos)
-    : e_(e), dlg_(dlg), fuente_(std::move(fuente)), padre_(padre) {
+VisoresInforme::VisoresInforme(Dialogos& dlg, FuentePagina fuente, QWidget* padre, DialogosArchivo* archivos)
+    : dlg_(dlg), fuente_(std::move(fuente)), padre_(padre) {
     if (!archivos) {
         archivosPropios_ = std::make_unique<DialogosArchivoQt>();
         archivos = archivosPropios_.get();
@@ -55,7 +54,9 @@ void VisoresInforme::GuardarTexto(QWidget* ventana) {
 }
 
 void VisoresInforme::GuardarPaginaWeb(QWidget* ventana, const DialogoArchivo& dialogo) {
-    rthHTML_ = HTMLInforme(e_, fuente_.tipoCombustible ? fuente_.tipoCombustible() : std::string());
+    const auto calculo = fuente_.calculo ? fuente_.calculo() : nullptr;
+    if (!calculo) return;
+    rthHTML_ = HTMLInforme(*calculo->estado, calculo->tipoCombustible);
     dlg_.MsgBox(kConsejoCarpetaNueva);
     const QString nombre = archivos_->Guardar(ventana, dialogo);
     if (nombre.isEmpty()) return;

@@ -18,9 +18,9 @@
 
 #include "core/reports/ArchivosInforme.h"
 #include "core/reports/Informes.h"
-#include "core/services/Puertos.h"
-#include "core/state/Estado.h"
+#include "core/sequence/Calculo.h"
 #include "gui/reports/DialogosInforme.h"
+#include "gui/services/Dialogos.h"
 
 class QPrinter;
 class QWidget;
@@ -30,10 +30,11 @@ namespace vanta {
 class frmInforme;
 class frmMostrar;
 
-// Where a page takes what the state does not hold: the text of the fuel list
-// and the pictures of the main window's boxes, read when the page is saved.
+// What a page is made of: the last calculation that ended well (its state
+// and the text of its fuel list) and the pictures of the main window's
+// boxes, read when the page is saved.
 struct FuentePagina {
-    std::function<std::string()> tipoCombustible;
+    std::function<std::shared_ptr<const ResultadoCalculo>()> calculo;
     std::function<QImage(CuadroImagen)> imagen;
 };
 
@@ -42,7 +43,7 @@ public:
     // dlg: the message boxes (the advice before a page is saved). padre: the
     // main window, which the report windows stand beside. archivos: the file
     // and printer dialogs and the browser; the real ones when null.
-    VisoresInforme(Estado& e, Dialogos& dlg, FuentePagina fuente, QWidget* padre = nullptr,
+    VisoresInforme(Dialogos& dlg, FuentePagina fuente, QWidget* padre = nullptr,
                    DialogosArchivo* archivos = nullptr);
     ~VisoresInforme();
     VisoresInforme(const VisoresInforme&) = delete;
@@ -86,7 +87,6 @@ public:
     void FijarDialogosArchivo(DialogosArchivo& archivos) { archivos_ = &archivos; }
 
 private:
-    Estado& e_;
     Dialogos& dlg_;
     FuentePagina fuente_;
     QPointer<QWidget> padre_;

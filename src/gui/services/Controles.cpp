@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "core/inputs/Entradas.h"
 #include "gui/services/TextosVentanas.h"
 
 namespace vanta {
@@ -28,6 +29,13 @@ QLineEdit* NuevaCaja(QWidget* padre, const char* nombre, const char* texto, bool
     auto* c = Nombrar(new QLineEdit(QString::fromUtf8(texto), padre), nombre);
     c->setReadOnly(soloLectura);
     return c;
+}
+
+QLineEdit* NuevaCajaEntrada(QWidget* padre, std::string_view entrada, int i) {
+    const DefinicionEntrada& d = Entrada(entrada);
+    const std::string nombre(d.controles[static_cast<size_t>(i)]);
+    const std::string texto = i == 0 ? std::string(d.porDefecto) : std::string();
+    return NuevaCaja(padre, nombre.c_str(), texto.c_str());
 }
 
 QGroupBox* NuevoMarco(QWidget* padre, const char* nombre, const char* titulo) {

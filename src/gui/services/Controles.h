@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QString>
+#include <string_view>
 
 class QCheckBox;
 class QGroupBox;
@@ -16,6 +17,9 @@ namespace vanta {
 
 QLabel* NuevaEtiqueta(QWidget* padre, const char* nombre, const char* texto);
 QLineEdit* NuevaCaja(QWidget* padre, const char* nombre, const char* texto, bool soloLectura = false);
+// The box of number i of an input of the calculation, by the input's name:
+// its name and the text it starts with come from the table of inputs.
+QLineEdit* NuevaCajaEntrada(QWidget* padre, std::string_view entrada, int i = 0);
 QGroupBox* NuevoMarco(QWidget* padre, const char* nombre, const char* titulo = "");
 QCheckBox* NuevaCasilla(QWidget* padre, const char* nombre, const char* texto, bool marcada);
 QPushButton* NuevoBoton(QWidget* padre, const char* nombre, const char* texto);

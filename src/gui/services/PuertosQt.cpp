@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QTimer>
 #include <algorithm>
+#include <iostream>
 
 namespace vanta {
 
@@ -40,12 +41,9 @@ void DialogosQt::MostrarEntera(QInputDialog& dialogo) {
     QTimer::singleShot(0, caja, [caja, largo] { caja->setSelection(largo, -largo); });
 }
 
-void CajaTextoQt::SetText(std::string_view texto) {
-    caja_->setText(ATexto(texto));
-}
-
-void CajaTextoQt::SetSelStart(int posicion) {
-    caja_->setCursorPosition(std::min(posicion, static_cast<int>(caja_->text().size())));
+void DialogosConsola::MsgBox(std::string_view mensaje) {
+    ++cuenta;
+    std::cerr << prefijo_ << mensaje << '\n';
 }
 
 }  // namespace vanta

@@ -1,13 +1,11 @@
-// The ports on real Qt widgets.
+// The dialogs on real Qt widgets.
 #pragma once
 
-#include <QAbstractButton>
 #include <QInputDialog>
-#include <QLineEdit>
 #include <QPointer>
 #include <QWidget>
 
-#include "core/services/Puertos.h"
+#include "gui/services/Dialogos.h"
 
 namespace vanta {
 
@@ -23,37 +21,6 @@ private:
     void MostrarEntera(QInputDialog& dialogo);
 
     QPointer<QWidget> padre_;
-};
-
-class CajaTextoQt : public CajaTexto {
-public:
-    explicit CajaTextoQt(QLineEdit* caja) : caja_(caja) {}
-    std::string Text() const override { return caja_->text().toStdString(); }
-    void SetText(std::string_view texto) override;
-    void SetFocus() override { caja_->setFocus(); }
-    void SetSelStart(int posicion) override;
-
-private:
-    QLineEdit* caja_;
-};
-
-class InterruptorQt : public Interruptor {
-public:
-    explicit InterruptorQt(QAbstractButton* boton) : boton_(boton) {}
-    bool Value() const override { return boton_->isChecked(); }
-    void SetValue(bool valor) override { boton_->setChecked(valor); }
-
-private:
-    QAbstractButton* boton_;
-};
-
-class VentanaQt : public Ventana {
-public:
-    explicit VentanaQt(QWidget* ventana) : ventana_(ventana) {}
-    void Hide() override { ventana_->hide(); }
-
-private:
-    QWidget* ventana_;
 };
 
 inline QString ATexto(std::string_view s) {

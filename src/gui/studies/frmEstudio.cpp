@@ -36,6 +36,7 @@
 #include "core/studies/TablaEstudio.h"
 #include "gui/reports/DialogosInforme.h"
 #include "gui/services/Controles.h"
+#include "gui/services/PuertosQt.h"
 
 namespace vanta {
 
@@ -47,10 +48,6 @@ constexpr const char* kNinguna = "(ninguna)";
 // takes studies of any size.
 constexpr size_t kPuntosMaximosVentana = 100'000;
 constexpr const char* kMensajeSinSalidas = "Elija al menos una salida del estudio";
-constexpr const char* kMensajeMismaEntrada = "Las dos entradas variadas han de ser distintas";
-constexpr const char* kMensajeRegimen =
-    "La potencia necesita el régimen: escríbalo en la casilla rpm de la ventana principal o varíelo en el "
-    "estudio";
 constexpr const char* kMensajeNoEscrito = "No se ha podido escribir el archivo ";
 
 constexpr std::string_view kFiltroCSV =
@@ -115,14 +112,13 @@ QString NombreLinea(const Estudio& estudio, size_t punto, char separador) {
     const Variacion& v = estudio.variaciones[1];
     const EntradaEstudio* e = BuscarEntradaEstudio(v.nombre);
     const std::string valor = TextoEntrada(estudio, 1, punto, separador);
-    if (!e->numerica) return Q(valor);
-    return Q(v.nombre + " = " + valor +
-             (std::string_view(e->unidad) == "-" ? "" : std::string(" ") + e->unidad));
+    if (!e->Numerica()) return Q(valor);
+    return Q(v.nombre + " = " + valor + (e->unidad == "-" ? "" : " " + std::string(e->unidad)));
 }
 
 }  // namespace
 
-frmEstudio::frmEstudio(std::function<OpcionesCalculo()> base, Dialogos& dlg, char separador,
+frmEstudio::frmEstudio(std::function<Entradas()> base, Dialogos& dlg, char separador,
                        DialogosArchivo* archivos, QWidget* padre)
     : QDialog(padre), base_(std::move(base)), dlg_(dlg), separador_(separador) {
     if (!archivos) archivosPropios_ = std::make_unique<DialogosArchivoQt>();
@@ -158,10 +154,10 @@ void frmEstudio::CrearControles() {
     cboEntrada2_->addItem(QString::fromUtf8(kNinguna), QString());
     for (const EntradaEstudio& e : EntradasEstudio()) {
         if (!EnLaVentana(e)) continue;
-        const QString texto = QString::fromUtf8(e.titulo) + QStringLiteral(" (") +
-                              QString::fromUtf8(e.nombre) + QStringLiteral(")");
-        if (e.numerica) cboEntrada1_->addItem(texto, QString::fromUtf8(e.nombre));
-        cboEntrada2_->addItem(texto, QString::fromUtf8(e.nombre));
+        const QString texto =
+            ATexto(e.titulo) + QStringLiteral(" (") + ATexto(e.nombre) + QStringLiteral(")");
+        if (e.Numerica()) cboEntrada1_->addItem(texto, ATexto(e.nombre));
+        cboEntrada2_->addItem(texto, ATexto(e.nombre));
     }
     txtValores1_ = NuevaCaja(marcoEntradas, "txtValores1", "");
     txtValores2_ = NuevaCaja(marcoEntradas, "txtValores2", "");
@@ -264,7 +260,7 @@ void frmEstudio::ElegirEntrada(int cual) {
 }
 
 void frmEstudio::MostrarBase() {
-    const OpcionesCalculo o = base_();
+    const OpcionesCalculo o = OpcionesDeEntradas(base_());
     std::string texto;
     for (const auto& [nombre, valor] : o.valores)
         texto += (texto.empty() ? "" : ", ") + nombre + " = " + valor;
@@ -282,8 +278,8 @@ void frmEstudio::Mostrar() {
 
 bool frmEstudio::LeerEstudio(Estudio& estudio) {
     estudio = Estudio{};
-    estudio.base = base_();
     estudio.separador = separador_;
+    std::vector<std::string> variadas;
     const std::pair<QComboBox*, QLineEdit*> entradas[] = {{cboEntrada1_, txtValores1_},
                                                           {cboEntrada2_, txtValores2_}};
     for (auto [lista, caja] : entradas) {
@@ -291,29 +287,12 @@ bool frmEstudio::LeerEstudio(Estudio& estudio) {
         if (!e) continue;
         Variacion v;
         v.nombre = e->nombre;
-        if (std::string error = LeerValores(caja->text().toStdString(), e->numerica, v); !error.empty()) {
+        if (std::string error = LeerValores(caja->text().toStdString(), e->Numerica(), v); !error.empty()) {
             dlg_.MsgBox(std::string(e->titulo) + ": " + error);
             caja->setFocus();
             return false;
         }
-        const std::vector<std::string> eleccion = ValoresEleccion(e->nombre);
-        for (const std::string& valor : v.valores) {
-            if (!eleccion.empty() && std::find(eleccion.begin(), eleccion.end(), valor) == eleccion.end()) {
-                std::string lista;
-                for (const std::string& x : eleccion) lista += (lista.empty() ? "" : ", ") + x;
-                dlg_.MsgBox(std::string(e->titulo) + ": " + valor + " no es uno de sus valores (" + lista +
-                            ")");
-                caja->setFocus();
-                return false;
-            }
-        }
-        if (!estudio.variaciones.empty() && estudio.variaciones[0].nombre == v.nombre) {
-            dlg_.MsgBox(kMensajeMismaEntrada);
-            return false;
-        }
-        // The varied input leads, as a click on its option would make it.
-        QuitarExcluidas(estudio.base, v.nombre);
-        estudio.base.valores.erase(v.nombre);
+        variadas.push_back(v.nombre);
         estudio.variaciones.push_back(std::move(v));
     }
     for (int i = 0; i < lstSalidas_->count(); ++i) {
@@ -325,12 +304,10 @@ bool frmEstudio::LeerEstudio(Estudio& estudio) {
         dlg_.MsgBox(kMensajeSinSalidas);
         return false;
     }
-    const bool regimen =
-        estudio.base.Tiene("rpm") || std::any_of(estudio.variaciones.begin(), estudio.variaciones.end(),
-                                                 [](const Variacion& v) { return v.nombre == "rpm"; });
-    if (!regimen &&
-        std::any_of(estudio.salidas.begin(), estudio.salidas.end(), [](auto* s) { return s->conRegimen; })) {
-        dlg_.MsgBox(kMensajeRegimen);
+    // The varied inputs lead, as choosing them on their windows would make them.
+    estudio.base = BaseDeVentanas(base_(), variadas);
+    if (std::string error = ComprobarEstudio(estudio); !error.empty()) {
+        dlg_.MsgBox(error);
         return false;
     }
     if (NumeroPuntos(estudio) > kPuntosMaximosVentana) {

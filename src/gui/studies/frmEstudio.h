@@ -15,8 +15,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/services/Puertos.h"
 #include "core/studies/Estudio.h"
+#include "gui/services/Dialogos.h"
 
 class QCheckBox;
 class QComboBox;
@@ -44,7 +44,7 @@ public:
     // is shown and each time a study starts. separador: the decimal separator
     // of the numbers shown. archivos: the file dialogs (the real ones when
     // null).
-    frmEstudio(std::function<OpcionesCalculo()> base, Dialogos& dlg, char separador,
+    frmEstudio(std::function<Entradas()> base, Dialogos& dlg, char separador,
                DialogosArchivo* archivos = nullptr, QWidget* padre = nullptr);
     // A study under way is cancelled and waited for.
     ~frmEstudio() override;
@@ -85,7 +85,7 @@ private:
     QSize TamanoExportacion() const;
     void HabilitarResultados();
 
-    std::function<OpcionesCalculo()> base_;
+    std::function<Entradas()> base_;
     Dialogos& dlg_;
     char separador_;
     std::unique_ptr<DialogosArchivo> archivosPropios_;

@@ -17,46 +17,25 @@
 
 namespace vanta {
 
-namespace {
+// The boxes, options and species list as the tables read them.
+EntradasHerramientas frmHerramientas::LeerEntradas() const {
+    return {.incremento = txtAT_->text().toStdString(),
+            .tInicial = txtTinicial_->text().toStdString(),
+            .tFinal = txtTfinal_->text().toStdString(),
+            .porMol = optMol_->isChecked(),
+            .porKg = optKg_->isChecked(),
+            .aire = optAire_->isChecked(),
+            .humos = optHumos_->isChecked(),
+            .elemento = cboElemento_->currentText().toStdString()};
+}
 
-// The species list as the tables read it: the text shown, chosen or typed.
-class CajaElementoQt : public CajaTexto {
-public:
-    explicit CajaElementoQt(QComboBox* lista) : lista_(lista) {}
-    std::string Text() const override { return lista_->currentText().toStdString(); }
-    void SetText(std::string_view texto) override { lista_->setEditText(ATexto(texto)); }
-    void SetFocus() override { lista_->setFocus(); }
-    void SetSelStart(int) override {}
-
-private:
-    QComboBox* lista_;
-};
-
-}  // namespace
-
-// The controls as the tables see them.
-struct frmHerramientas::Puertos {
-    explicit Puertos(frmHerramientas& f)
-        : txtAT(f.txtAT_),
-          txtTinicial(f.txtTinicial_),
-          txtTfinal(f.txtTfinal_),
-          optMol(f.optMol_),
-          optKg(f.optKg_),
-          optAire(f.optAire_),
-          optHumos(f.optHumos_),
-          cboElemento(f.cboElemento_) {}
-    CajaTextoQt txtAT, txtTinicial, txtTfinal;
-    InterruptorQt optMol, optKg, optAire, optHumos;
-    CajaElementoQt cboElemento;
-    ControlesHerramientas controles{.txtAT = txtAT,
-                                    .txtTinicial = txtTinicial,
-                                    .txtTfinal = txtTfinal,
-                                    .optMol = optMol,
-                                    .optKg = optKg,
-                                    .optAire = optAire,
-                                    .optHumos = optHumos,
-                                    .cboElemento = cboElemento};
-};
+void frmHerramientas::Decir(const Mensajes& msj) {
+    MostrarMensajes(dlg_, msj.lista);
+    QLineEdit* cajas[] = {txtAT_, txtTinicial_, txtTfinal_};
+    const std::string_view nombres[] = {kCampoIncremento, kCampoTinicial, kCampoTfinal};
+    for (size_t i = 0; i < 3; ++i)
+        if (msj.foco.nombre == nombres[i]) cajas[i]->setFocus();
+}
 
 frmHerramientas::frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas enlaces, QWidget* padre,
                                  DialogosArchivo* archivos)
@@ -132,8 +111,6 @@ frmHerramientas::frmHerramientas(Estado& e, Dialogos& dlg, EnlacesHerramientas e
     columna->addLayout(rango);
     columna->addWidget(Frame2_);
     columna->addWidget(Frame1_);
-
-    puertos_ = std::make_unique<Puertos>(*this);
 
     connect(cmdComburente_, &QPushButton::clicked, this, &frmHerramientas::cmdComburente_Click);
     connect(cmdCombustible_, &QPushButton::clicked, this, &frmHerramientas::cmdCombustible_Click);
@@ -221,12 +198,18 @@ void frmHerramientas::HacerTabla(F&& tabla) {
 void frmHerramientas::cmdTablas_Click() {
     HacerTabla([this] {
         const std::string combustible = enlaces_.tipoCombustible ? enlaces_.tipoCombustible() : std::string();
-        vanta::cmdTablas_Click(e_, dlg_, puertos_->controles, miembros_, *frmTablas_, combustible);
+        Mensajes msj;
+        vanta::cmdTablas_Click(e_, msj, LeerEntradas(), miembros_, *frmTablas_, combustible);
+        Decir(msj);
     });
 }
 
 void frmHerramientas::cmdTab_Click() {
-    HacerTabla([this] { vanta::cmdTab_Click(e_, dlg_, puertos_->controles, miembros_, *frmTablas_); });
+    HacerTabla([this] {
+        Mensajes msj;
+        vanta::cmdTab_Click(e_, msj, LeerEntradas(), miembros_, *frmTablas_);
+        Decir(msj);
+    });
 }
 
 }  // namespace vanta

@@ -9,9 +9,9 @@
 #include <memory>
 #include <string>
 
-#include "core/services/Puertos.h"
 #include "core/state/Estado.h"
 #include "core/tables/TablasPropiedades.h"
+#include "gui/services/Dialogos.h"
 
 class QComboBox;
 class QGroupBox;
@@ -98,8 +98,9 @@ private:
     QPushButton *cmdComburente_, *cmdCombustible_, *cmdCombustion_, *cmdTablas_;
 
     frmTablas* frmTablas_;
-    struct Puertos;
-    std::unique_ptr<Puertos> puertos_;
+    EntradasHerramientas LeerEntradas() const;
+    // The messages of a table, and the focus on the box they name.
+    void Decir(const Mensajes& msj);
 };
 
 }  // namespace vanta

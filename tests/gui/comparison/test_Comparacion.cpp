@@ -33,8 +33,7 @@ struct Registros {
     Registros() {
         for (size_t i : {0, 1}) {
             const Calculo& c = TresCiclos()[i];
-            if (!GuardarRegistro(c.e, c.e.TipoCiclo, c.combustible, c.informe, c.imagenes, dlg, ruta))
-                qFatal("no se guarda");
+            if (!GuardarRegistro(c.r, c.e.TipoCiclo, c.imagenes, dlg, ruta)) qFatal("no se guarda");
         }
         almacen = std::make_unique<AlmacenResultados>(ruta);
         if (!almacen->Abrir()) qFatal("no se abre");

@@ -30,7 +30,8 @@ namespace vanta::pruebas {
 
 // A whole calculation as the command line runs it, drawn on Qt surfaces.
 struct Calculo {
-    Estado e;
+    ResultadoCalculo r;
+    Estado e;  // the state it left
     std::string combustible;
     std::string informe;
     ImagenesPrincipal imagenes;
@@ -38,21 +39,18 @@ struct Calculo {
 
 inline Calculo Calcular(const std::vector<std::string>& argumentos) {
     Calculo c;
-    GuardarColoresDiagramas(c.e);
     SuperficieQt pct1, pct2, pct3, pv, tv, ts(nullptr, kFondoGris), hs(nullptr, kFondoGris);
     for (SuperficieQt* s : {&pct1, &pct2, &pct3}) s->resize(280, 200);
     for (SuperficieQt* s : {&pv, &tv, &ts, &hs}) s->resize(420, 320);
-    DialogosGrabados dlg;
     SuperficiesCalculo superficies{pct1, pct2, pct3, {pv, tv, ts, hs}};
     const cli::Parseo p = cli::ParsearCalcular(argumentos);
     if (!p.opciones) qFatal("opciones: %s", p.error.c_str());
-    std::ostringstream salida;
-    if (cli::EjecutarCalcular(c.e, *p.opciones, dlg, superficies, salida) != cli::kSalidaBien)
-        qFatal("el cálculo falla");
+    c.r = Calcular(cli::EntradasDeCalcular(*p.opciones), superficies);
+    if (!c.r.bien) qFatal("el cálculo falla");
+    c.e = *c.r.estado;
     // The report as the main window keeps it: without the closing line end.
-    c.informe = salida.str();
-    c.informe.resize(c.informe.size() - 2);
-    c.combustible = p.opciones->Valor("combustible");
+    c.informe = c.r.informe;
+    c.combustible = c.r.tipoCombustible;
     c.imagenes = {pct1.Imagen(), pct2.Imagen(), pct3.Imagen(), pv.Imagen(),
                   tv.Imagen(),   ts.Imagen(),   hs.Imagen()};
     return c;

@@ -161,7 +161,7 @@ private slots:
             caso.preparar(b.Ruta());
             const QByteArray antes = Leer(b.Ruta());
             b.dlg.respuestas = {"x"};
-            QVERIFY2(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f), caso.nombre);
+            QVERIFY2(!GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f), caso.nombre);
             QCOMPARE(b.Mensaje(), Abre(b.Ruta(), caso.causa));
             QVERIFY(!b.f->isVisible());
             b.f->MostrarNoModal();
@@ -187,13 +187,13 @@ private slots:
         QVERIFY(!b.Mensaje().empty());
         const Calculo& c = TresCiclos()[0];
         b.dlg.respuestas = {"x"};
-        QVERIFY(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(!GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         QCOMPARE(b.dlg.mensajes.size(), size_t(2));
         QVERIFY(Leer(b.Ruta()) == datos);
         // The command line's save opens it (its first page is whole) and meets
         // the damage: the message says so, and promises nothing of the records
         // saved before.
-        QVERIFY(!GuardarRegistro(c.e, "x", c.combustible, c.informe, c.imagenes, b.dlg));
+        QVERIFY(!GuardarRegistro(c.r, "x", c.imagenes, b.dlg));
         const std::string danado = bd::MsgArchivoDanado(b.Ruta().toStdString(), "");
         QVERIFY2(b.Mensaje().rfind(danado.substr(0, danado.find('(')), 0) == 0, b.Mensaje().c_str());
         QVERIFY(Leer(b.Ruta()) == datos);
@@ -207,7 +207,7 @@ private slots:
         QVERIFY(q.exec(QStringLiteral("PRAGMA max_page_count = %1").arg(paginas)));
         const Calculo& c = TresCiclos()[1];
         b.dlg.respuestas = {"no cabe"};
-        QVERIFY(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(!GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         QCOMPARE(b.Mensaje(), bd::MsgNoSeGuarda(bd::CausaSQLite(13, "")));
         QVERIFY(!b.f->isVisible());
         QCOMPARE(b.f->RecordCount(), 2);
@@ -216,7 +216,7 @@ private slots:
         // With room again, the same connection saves.
         QVERIFY(q.exec(QStringLiteral("PRAGMA max_page_count = 1000000")));
         b.dlg.respuestas = {"cabe"};
-        QVERIFY(GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         QCOMPARE(Mirada(b.Ruta()).Nombres(), (QStringList{"A", "B", "cabe"}));
     }
 
@@ -413,8 +413,7 @@ private slots:
 
         const Calculo& c = TresCiclos()[0];
         QGuiApplication::clipboard()->setText(QStringLiteral("intacto"));
-        QVERIFY(
-            GuardarRegistro(c.e, "desde la línea de órdenes", c.combustible, c.informe, c.imagenes, b.dlg));
+        QVERIFY(GuardarRegistro(c.r, "desde la línea de órdenes", c.imagenes, b.dlg));
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("intacto"));
         auto otro = b.Nuevo();
         QVERIFY(otro->Cargar());

@@ -111,21 +111,21 @@ private slots:
         const Calculo& c = TresCiclos()[0];
         b.f->Almacen()->FijarAntesDeConfirmar([] { Servidor().Parar(); });
         b.dlg.respuestas = {"a medias"};
-        QVERIFY(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(!GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         QCOMPARE(b.Mensaje(), bd::MsgNoSeGuarda(bd::kCausaConexionPerdida));
         QVERIFY(!b.f->isVisible());
         QCOMPARE(b.f->RecordCount(), 2);
         // While it is down, a save says that the server cannot be reached.
         b.f->Almacen()->FijarAntesDeConfirmar({});
         b.dlg.respuestas = {"sin servidor"};
-        QVERIFY(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(!GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         QVERIFY2(b.Mensaje().find(bd::kCausaSinServidor) != std::string::npos, b.Mensaje().c_str());
 
         QVERIFY2(Servidor().Arrancar(), Servidor().Error().c_str());
         QCOMPARE(Mirada(b).Nombres(), (QStringList{"A", "B"}));
         // The same browser, on its connection made again.
         b.dlg.respuestas = {"de nuevo"};
-        QVERIFY(GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         QCOMPARE(Mirada(b).Nombres(), (QStringList{"A", "B", "de nuevo"}));
         b.f->MoveFirst();
         QCOMPARE(b.Texto("txtGuardarComo"), QStringLiteral("A"));

@@ -160,7 +160,7 @@ private slots:
         std::vector<std::string> nombres;
         for (size_t i = 0; i < calculos.size(); ++i) {
             const Calculo& c = calculos[i];
-            QVERIFY(GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+            QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
             QCOMPARE(b.dlg.prompts.back(), std::string(bd::kPromptGuardar));
             nombres.push_back(bd::NombrePorDefecto(c.e, c.combustible));
             // Shown at once on the new record, the last one.
@@ -214,8 +214,9 @@ private slots:
 
         Calculo c = TresCiclos()[1];
         c.e.SeparadorDecimal = ',';
+        c.r.estado = std::make_shared<const Estado>(c.e);
         b.dlg.respuestas = {"con comas"};
-        const bool guardado = GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f);
+        const bool guardado = GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f);
 
         QVERIFY(guardado);
         QCOMPARE(b.Texto("txtW"), QStringLiteral("47,5"));
@@ -231,7 +232,7 @@ private slots:
         const Calculo& c = TresCiclos()[0];
         QGuiApplication::clipboard()->setText(QStringLiteral("lo que el usuario copió"));
         b.dlg.respuestas = {""};
-        QVERIFY(!GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(!GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         QVERIFY(!b.f->isVisible());
         QVERIFY(!b.AlmacenCreado());
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("lo que el usuario copió"));
@@ -241,7 +242,7 @@ private slots:
         b.dlg.respuestas = {"   ", "doble", "doble"};
         for (int i = 0; i < 3; ++i) {
             if (i == 2) b.f->MoveFirst();
-            QVERIFY(GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+            QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         }
         QCOMPARE(b.f->Posicion(), 2);
         QCOMPARE(Mirada(b).Nombres(), (QStringList{"   ", "doble", "doble"}));
@@ -379,8 +380,8 @@ private slots:
         const QString nombre = QStringLiteral("'; DROP TABLE \"ResultadosGuardados\"; --");
         const Calculo& c = TresCiclos()[0];
         b.dlg.respuestas = {nombre.toStdString(), "después"};
-        QVERIFY(GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
-        QVERIFY(GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
+        QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         QCOMPARE(Mirada(b).Nombres(), (QStringList{nombre, QStringLiteral("después")}));
         b.f->MoveFirst();
         QCOMPARE(b.Texto("txtGuardarComo"), nombre);
@@ -446,7 +447,7 @@ private slots:
     void cabeEnUnaPantallaDe1024x768() {
         Banco b(EnServidor());
         const Calculo& c = TresCiclos()[1];
-        QVERIFY(GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         // Where the screen holds the design, the design.
         b.f->AjustarAPantalla(QRect(0, 0, 1920, 1080));
         QCOMPARE(b.f->size(), QSize(1100, 780));
@@ -480,7 +481,7 @@ private slots:
         Banco b(EnServidor());
         const Calculo& c = TresCiclos()[2];
         b.dlg.respuestas = {"mixto"};
-        QVERIFY(GuardarBaseDatos(c.e, b.dlg, c.combustible, c.informe, c.imagenes, *b.f));
+        QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
         QVERIFY(QTest::qWaitForWindowExposed(b.f.get()));
         auto* pv = b.f->findChild<ControlImagen*>(QStringLiteral("imgDPV"));
         QTest::mouseClick(pv, Qt::LeftButton);

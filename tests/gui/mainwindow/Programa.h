@@ -15,13 +15,13 @@
 #include <QTest>
 #include <string>
 
-#include "core/services/Puertos.h"
 #include "core/state/Estado.h"
 #include "gui/cycle/frmOtto_Diesel.h"
 #include "gui/fluids/frmAireHumedad.h"
 #include "gui/fluids/frmCombustible.h"
 #include "gui/fluids/frmGasesCombustion.h"
 #include "gui/mainwindow/frmFase1.h"
+#include "gui/services/Dialogos.h"
 
 namespace vanta::pruebas {
 

@@ -9,7 +9,7 @@
 
 #include "core/cycle/Ciclo.h"
 #include "core/diagrams/LecturaRaton.h"
-#include "core/sequence/Secuencia.h"
+#include "core/sequence/Calculo.h"
 #include "core/services/Numeros.h"
 #include "gui/services/Controles.h"
 #include "gui/services/TextosVentanas.h"
@@ -135,17 +135,19 @@ private slots:
         QVERIFY(p.Calcular());
         QVERIFY2(p.dlg.mensajes.empty(), p.dlg.mensajes.empty() ? "" : p.dlg.mensajes.front().c_str());
 
-        Estado e;
-        DialogosGrabados dlg;
-        SuperficiesNulas nulas;
-        SuperficiesCalculo s = nulas.Todas();
-        VentanaPrincipalSimple v;
         OpcionesCalculo o;
         o.valores = {
             {"combustible", "Gasoil"}, {"ciclo", "Diesel"}, {"rc", "18"}, {"compresion", "variable"}};
-        QVERIFY(CalcularTodo(e, o, dlg, s, v));
-        QCOMPARE(Q(p.f.InformeF1()), Q(v.informe));
-        const TextosResultados& t = v.resultados;
+        const ResultadoCalculo r = Calcular(EntradasDeOpciones(o));
+        QVERIFY(r.bien);
+        QCOMPARE(Q(p.f.InformeF1()), Q(r.informe));
+        // The window's snapshot is that calculation, inputs and all.
+        QVERIFY(p.f.CalculoActual());
+        QCOMPARE(p.f.CalculoActual()->estado->Wciclo, r.estado->Wciclo);
+        QCOMPARE(p.f.CalculoActual()->informe, r.informe);
+        // Its inputs, as the stage windows applied them, give it again.
+        QCOMPARE(Q(Calcular(p.f.CalculoActual()->entradas).informe), Q(r.informe));
+        const TextosResultados& t = r.textos;
         QCOMPARE(p.Etiqueta("lblP3"), Q(t.lblP[2]));
         QCOMPARE(p.Etiqueta("lblS5"), Q(t.lblS[4]));
         QCOMPARE(p.Etiqueta("lblG45"), Q(t.lblG45));
@@ -167,7 +169,7 @@ private slots:
             QTest::mouseMove(tv, punto);
             const QPointF u = tv->AUsuario(punto - tv->contentsRect().topLeft());
             LecturaEstado esperada;
-            DialogosGrabados dlg;
+            Mensajes dlg;
             DiagramasNulos nulos;
             Diagramas g = nulos.Todos();
             copia = p.e;
@@ -189,11 +191,10 @@ private slots:
         auto* rpm = Hijo<QLineEdit>(&p.f, "txtRpm");
         QTest::mouseClick(rpm, Qt::LeftButton);  // the prompt "rpm" goes
         QTest::keyClicks(rpm, QStringLiteral("3000"));
-        CajaTextoSimple r("3000"), w, cv;
-        DialogosGrabados dlg;
-        txtRpm_Change(p.e, dlg, wciclo, r, w, cv);
-        QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotencia")->text(), Q(w.Text()));
-        QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotenciaCV")->text(), Q(cv.Text()));
+        Mensajes dlg;
+        const auto potencia = txtRpm_Change(p.e, dlg, wciclo, "3000");
+        QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotencia")->text(), Q(potencia->potencia));
+        QCOMPARE(Hijo<QLineEdit>(&p.f, "txtPotenciaCV")->text(), Q(potencia->potenciaCV));
     }
 
     // Return in a stage window's box presses its CALCULAR; a figure too wide

@@ -29,7 +29,7 @@ namespace {
 // A cycle calculated as the command line does it, drawn on seven real
 // picture boxes of distinct sizes; the report is what the run printed.
 struct Calculo {
-    Estado e;
+    std::shared_ptr<const ResultadoCalculo> r;
     DialogosGrabados dlg;
     SuperficieQt pct1, pct2, pct3, pctPV, pctTV, pctTS{nullptr, kFondoGris}, pctHS{nullptr, kFondoGris};
     std::string informe;
@@ -37,23 +37,19 @@ struct Calculo {
     Calculo() {
         int i = 0;
         for (SuperficieQt* s : Todas()) s->resize(180 + 10 * i, 120 + 7 * i), ++i;
-        GuardarColoresDiagramas(e);
         SuperficiesCalculo s{pct1, pct2, pct3, {pctPV, pctTV, pctTS, pctHS}};
-        std::ostringstream salida;
-        const auto o = cli::ParsearCalcular({});
-        if (!o.opciones || cli::EjecutarCalcular(e, *o.opciones, dlg, s, salida) != cli::kSalidaBien)
-            qFatal("el cálculo de prueba falla");
-        informe = salida.str();
-        while (!informe.empty() && (informe.back() == '\n' || informe.back() == '\r')) informe.pop_back();
+        r = std::make_shared<const ResultadoCalculo>(Calcular(Entradas(), s));
+        if (!r->bien) qFatal("el cálculo de prueba falla");
+        informe = r->informe;
     }
+    const Estado& e() const { return *r->estado; }
 
     std::array<SuperficieQt*, 7> Todas() { return {&pct1, &pct2, &pct3, &pctPV, &pctTV, &pctTS, &pctHS}; }
 
     SuperficieQt& Cuadro(CuadroImagen c) { return *Todas()[static_cast<size_t>(c)]; }
 
     FuentePagina Fuente() {
-        return {[] { return std::string("Gasolina"); },
-                [this](CuadroImagen c) { return Cuadro(c).Imagen(); }};
+        return {[this] { return r; }, [this](CuadroImagen c) { return Cuadro(c).Imagen(); }};
     }
 };
 
@@ -110,7 +106,7 @@ private slots:
         carpeta = std::make_unique<QTemporaryDir>();
         archivos = DialogosArchivoGrabados();
         c.dlg.mensajes.clear();
-        v = std::make_unique<VisoresInforme>(c.e, c.dlg, c.Fuente(), nullptr, &archivos);
+        v = std::make_unique<VisoresInforme>(c.dlg, c.Fuente(), nullptr, &archivos);
         v->PonerInformeTexto(c.informe);
     }
     void cleanup() {
@@ -120,10 +116,9 @@ private slots:
 
     void laPaginaYSusSieteBitmapsQuedanJuntosYLaPaginaLosEncuentra() {
         const QString carpeta = Ruta(QStringLiteral("nueva/carpeta"));
-        QCOMPARE(EscribirPaginaEnCarpeta(carpeta, c.e, "Gasolina", ImagenesDe(c.Fuente().imagen)),
-                 std::nullopt);
+        QCOMPARE(EscribirPaginaEnCarpeta(carpeta, *c.r, ImagenesDe(c.Fuente().imagen)), std::nullopt);
         const QByteArray pagina = Leer(QDir(carpeta).filePath(QStringLiteral("Index.htm")));
-        QCOMPARE(pagina, QByteArray::fromStdString(BytesPagina(HTMLInforme(c.e, "Gasolina"))));
+        QCOMPARE(pagina, QByteArray::fromStdString(BytesPagina(HTMLInforme(c.e(), "Gasolina"))));
         QCOMPARE(Contenido(carpeta).size(), 8);
         // Every picture the page names is a file of that very name: a Windows
         // bitmap of the picture box's size and picture.
@@ -137,15 +132,15 @@ private slots:
         }
         // A box with no picture still gives the page a picture to show.
         ImagenesPagina vacias;
-        QCOMPARE(EscribirPaginaEnCarpeta(carpeta, c.e, "Gasolina", vacias), std::nullopt);
+        QCOMPARE(EscribirPaginaEnCarpeta(carpeta, *c.r, vacias), std::nullopt);
         QCOMPARE(QImage(ArchivoImagenEn(carpeta, kImagenesPagina[0])).size(), QSize(1, 1));
         // A folder that is a file: the reason, and nothing written.
         QFile(Ruta(QStringLiteral("archivo"))).open(QIODevice::WriteOnly);
-        QCOMPARE(EscribirPaginaEnCarpeta(Ruta(QStringLiteral("archivo")), c.e, "Gasolina", vacias),
+        QCOMPARE(EscribirPaginaEnCarpeta(Ruta(QStringLiteral("archivo")), *c.r, vacias),
                  Ruta(QStringLiteral("archivo")).toStdString() + " es un archivo, no una carpeta");
     }
 
-    void guardarComoPaginaAconsejaPreguntaYEscribeElEstadoDeAhora() {
+    void guardarComoPaginaAconsejaPreguntaYEscribeElUltimoCalculo() {
         const QString primera = Ruta(QStringLiteral("Index.htm"));
         archivos.respuestas << primera;
         v->GuardarPaginaWeb(nullptr, kDialogoPaginaPrincipal);
@@ -158,9 +153,13 @@ private slots:
         QCOMPARE(Contenido(Carpeta()).size(), 8);
 
         // From the report window: its own default name; the page shows the
-        // state as it stands now, and the pictures as the boxes stand now,
-        // over those of the former page.
-        c.e.TipoCiclo = "Diesel";
+        // last calculation that ended well, and the pictures as the boxes
+        // stand now, over those of the former page.
+        auto otro = std::make_shared<ResultadoCalculo>(*c.r);
+        Estado diesel = c.e();
+        diesel.TipoCiclo = "Diesel";
+        otro->estado = std::make_shared<const Estado>(diesel);
+        c.r = otro;
         c.pctPV.Cls();
         archivos.respuestas << Ruta(QStringLiteral("Ciclo.htm"));
         pruebas::Hijo<QAction>(v->Informe(), "mnuHTML")->trigger();

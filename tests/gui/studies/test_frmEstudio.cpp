@@ -37,7 +37,7 @@ namespace {
 struct VentanaEstudio {
     DialogosGrabados dlg;
     DialogosArchivoGrabados archivos;
-    OpcionesCalculo base;
+    vanta::Entradas base;
     frmEstudio f{[this] { return base; }, dlg, '.', &archivos};
 
     VentanaEstudio() {
@@ -101,7 +101,7 @@ private slots:
 
     void calculaDibujaConHuecosYExporta() {
         VentanaEstudio v;
-        v.base.valores["rpm"] = "3000";
+        v.base.rpm = "3000";
         v.Entradas("rc", "8, 0.5, 10, 12", "combustible", "Gasolina,Gasoil");
         v.Salidas({"rendimiento", "potencia"});
         QVERIFY(v.Calcular());
@@ -190,7 +190,7 @@ private slots:
         VentanaEstudio v;
         const std::pair<std::pair<const char*, const char*>, const char*> casos[] = {
             {{"8:14", "Gasolina"}, "Relación de compresión: un intervalo se escribe"},
-            {{"8:14:1", "Gasolina,Queroseno"}, "Combustible: Queroseno no es uno de sus valores"},
+            {{"8:14:1", "Gasolina,Queroseno"}, "Combustible: combustible desconocido: Queroseno"},
         };
         for (const auto& [valores, mensaje] : casos) {
             v.dlg.mensajes.clear();

@@ -61,26 +61,23 @@ struct Herramienta {
         SuperficieNula pct1, pct2, pct3;
         DiagramasNulos d;
         SuperficiesCalculo s{pct1, pct2, pct3, d.Todos()};
-        if (!DefinirFluido(e, *cli::ParsearCalcular({}).opciones, dlg, s, true)) qFatal("fluido");
+        Mensajes msj;
+        if (!DefinirFluido(e, msj, vanta::Entradas(), s, true)) qFatal("fluido");
     }
 
     // The text the core makes from the same state and boxes.
     std::string TextoEsperado(bool especie) {
         Estado copia = e;
-        DialogosGrabados d;
-        CajaTextoSimple at(Caja("txtAT")->text().toStdString()),
-            ti(Caja("txtTinicial")->text().toStdString()), tf(Caja("txtTfinal")->text().toStdString()),
-            cbo(Hijo<QComboBox>(&f, "cboElemento")->currentText().toStdString());
-        InterruptorSimple mol(Opcion("optMol")->isChecked()), kg(Opcion("optKg")->isChecked()),
-            aire(Opcion("optAire")->isChecked()), humos(Opcion("optHumos")->isChecked());
-        ControlesHerramientas c{.txtAT = at,
-                                .txtTinicial = ti,
-                                .txtTfinal = tf,
-                                .optMol = mol,
-                                .optKg = kg,
-                                .optAire = aire,
-                                .optHumos = humos,
-                                .cboElemento = cbo};
+        Mensajes d;
+        const EntradasHerramientas c{
+            .incremento = Caja("txtAT")->text().toStdString(),
+            .tInicial = Caja("txtTinicial")->text().toStdString(),
+            .tFinal = Caja("txtTfinal")->text().toStdString(),
+            .porMol = Opcion("optMol")->isChecked(),
+            .porKg = Opcion("optKg")->isChecked(),
+            .aire = Opcion("optAire")->isChecked(),
+            .humos = Opcion("optHumos")->isChecked(),
+            .elemento = Hijo<QComboBox>(&f, "cboElemento")->currentText().toStdString()};
         MiembrosHerramientas m;
         VisorTablasTexto v;
         if (especie)

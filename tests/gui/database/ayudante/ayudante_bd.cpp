@@ -88,8 +88,10 @@ int main(int argc, char** argv) {
     if (orden == "sin-permisos") {
         if (getuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) return 3;
         DialogosSalida dlg;
-        Estado e;
-        return GuardarRegistro(e, "sin permisos", "Gasolina", "", {}, dlg, ruta) ? 0 : 1;
+        ResultadoCalculo r;
+        r.estado = std::make_shared<Estado>();
+        r.tipoCombustible = "Gasolina";
+        return GuardarRegistro(r, "sin permisos", {}, dlg, ruta) ? 0 : 1;
     }
     return 2;
 }
