@@ -19,6 +19,7 @@
 #include "app/LineaEstudio.h"
 #include "app/LineaTablas.h"
 #include "app/LineaValidacion.h"
+#include "app/SalidaSegura.h"
 #include "core/services/Numeros.h"
 #include "gui/comparison/Figuras.h"
 #include "gui/database/CarpetaDatos.h"
@@ -117,7 +118,7 @@ int Estudio(const std::vector<std::string>& argumentos) {
         return cli::kSalidaUso;
     }
     return cli::EjecutarLineaEstudio(*p.opciones, std::cout, std::cerr,
-                                     isatty(fileno(stderr)) ? &std::cerr : nullptr);
+                                     isatty(fileno(stderr)) ? &std::cerr : nullptr, &cli::PararConSenales());
 }
 
 // The decimal separator of the system's regional settings: a Spanish system
@@ -157,6 +158,24 @@ int Ventanas(int argc, char** argv) {
     return QApplication::exec();
 }
 
+// A subcommand, or the help, or the version.
+int Orden(const std::string& orden, const std::vector<std::string>& resto) {
+    if (orden == "calcular") return Calcular(resto);
+    if (orden == "estudio") return Estudio(resto);
+    if (orden == "tablas") return vanta::cli::EjecutarTablas(resto, std::cout, std::cerr);
+    if (orden == "validar") return vanta::cli::EjecutarValidar(resto, std::cout, std::cerr);
+    if (orden == "--help" || orden == "-h") {
+        std::cout << vanta::cli::TextoUso();
+        return vanta::cli::kSalidaBien;
+    }
+    if (orden == "--version") {
+        std::cout << "vanta " << vanta::VersionPrograma().toStdString() << '\n';
+        return vanta::cli::kSalidaBien;
+    }
+    std::cerr << "vanta: orden desconocida: " << orden << "\n" << vanta::cli::kVerAyuda << "vanta --help\n";
+    return vanta::cli::kSalidaUso;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -172,18 +191,6 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(SoloMensajesGraves);
     const std::string orden = argumentos[0];
     const std::vector<std::string> resto(argumentos.begin() + 1, argumentos.end());
-    if (orden == "calcular") return Calcular(resto);
-    if (orden == "estudio") return Estudio(resto);
-    if (orden == "tablas") return vanta::cli::EjecutarTablas(resto, std::cout, std::cerr);
-    if (orden == "validar") return vanta::cli::EjecutarValidar(resto, std::cout, std::cerr);
-    if (orden == "--help" || orden == "-h") {
-        std::cout << vanta::cli::TextoUso();
-        return vanta::cli::kSalidaBien;
-    }
-    if (orden == "--version") {
-        std::cout << "vanta " << vanta::VersionPrograma().toStdString() << '\n';
-        return vanta::cli::kSalidaBien;
-    }
-    std::cerr << "vanta: orden desconocida: " << orden << "\n" << vanta::cli::kVerAyuda << "vanta --help\n";
-    return vanta::cli::kSalidaUso;
+    vanta::cli::SalidaEstandar salida;
+    return salida.Terminar(orden, Orden(orden, resto));
 }
