@@ -123,7 +123,11 @@ bool EscribirEnSuSitio(const std::string& ruta) {
 }  // namespace
 
 ArchivoNuevo::ArchivoNuevo(std::string ruta) : ruta_(std::move(ruta)) {
-    if (EscribirEnSuSitio(ruta_)) {
+    struct stat anterior;
+    const bool hay = ::lstat(ruta_.c_str(), &anterior) == 0;
+    if (hay && S_ISDIR(anterior.st_mode)) {
+        errno = EISDIR;
+    } else if (EscribirEnSuSitio(ruta_)) {
         fd_ = ::open(ruta_.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
     } else {
         namespace fs = std::filesystem;
@@ -135,6 +139,8 @@ ArchivoNuevo::ArchivoNuevo(std::string ruta) : ruta_(std::move(ruta)) {
             if (fd_ < 0 && errno != EEXIST) break;
         }
         if (fd_ < 0) temporal_.clear();
+        // The new file keeps the permissions of the one it replaces.
+        if (fd_ >= 0 && hay && S_ISREG(anterior.st_mode)) ::fchmod(fd_, anterior.st_mode & 07777);
     }
     if (fd_ < 0) error_ = TextoErrorSistema(errno);
     buffer_ = std::make_unique<BufferDescriptor>(fd_);
