@@ -4,8 +4,8 @@
 # configuration in a temporary folder, in a network namespace of their own
 # where only 127.0.0.1 exists (or, where none can be made, on 127.0.0.1 of this
 # machine, on free ports). `vanta estudio --slurm 4` writes the script of a
-# 2,000-point study into a folder whose name needs quoting; sbatch --wait runs
-# it; `vanta estudio --unir` joins the shares, which must equal the same study
+# 2,000-point study into a folder whose name needs quoting; sbatch runs it;
+# `vanta estudio --unir` joins the shares, which must equal the same study
 # run whole, byte for byte. The daemons are stopped at the end, whatever
 # happens. Where the cluster cannot start (no root, no Slurm), the test says
 # why and fails.
@@ -158,8 +158,17 @@ ORDEN=$("$VANTA" estudio "${ESTUDIO[@]}" --slurm 4 --carpeta "$CARPETA" --tiempo
 grep -q '^#SBATCH --array=1-4$' "$CARPETA/estudio.sbatch" || falla "el guion no pide un array de 4 tareas"
 
 T0=$(ahora)
-eval "timeout 300 ${ORDEN/sbatch/sbatch --wait}" >"$T/sbatch.out" 2>&1 ||
-    falla "el array de Slurm no ha terminado bien: $(cat "$T/sbatch.out")"
+TRABAJO=$(eval "timeout 60 ${ORDEN/sbatch/sbatch --parsable}" 2>"$T/sbatch.err") ||
+    falla "sbatch no ha aceptado el guion: $(cat "$T/sbatch.err")"
+# Every half second until the array leaves the queue (sbatch --wait looks
+# less often), then each task's end as the controller keeps it.
+for _ in $(seq 600); do
+    [ -z "$(timeout 10 squeue -h -j "$TRABAJO" -o %i 2>/dev/null || echo sigue)" ] && break
+    sleep 0.5
+done
+TAREAS=$(timeout 10 scontrol -o show job "$TRABAJO")
+[ "$(grep -c 'JobState=COMPLETED .*ExitCode=0:0' <<<"$TAREAS")" -eq 4 ] ||
+    falla "las 4 tareas del array no han terminado bien:"$'\n'"$TAREAS"
 ARRAY=$(desde "$T0")
 
 T0=$(ahora)
