@@ -45,7 +45,7 @@ int EscribirGuionSlurm(const OpcionesEstudio& o, std::ostream& out, std::ostream
     ArchivoNuevo guion(ruta);
     guion.Flujo() << GuionSlurm(p);
     if (const std::string fallo = guion.Error().empty() ? guion.Confirmar() : guion.Error(); !fallo.empty()) {
-        err << kPrefijoEstudio << "no se puede escribir " << ruta << ": " << fallo << '\n';
+        err << kPrefijoEstudio << NoSeEscribe(ruta, fallo) << '\n';
         return kSalidaFallo;
     }
     out << "sbatch " << ComillasShell(ruta) << '\n';
@@ -67,21 +67,21 @@ int UnirEstudio(const OpcionesEstudio& o, std::ostream& out, std::ostream& err) 
             << ": la tabla entera se escribe con " << (json ? "--json" : "--csv") << '\n';
         return kSalidaUso;
     }
+    const std::string cambiada = "una parte ha cambiado mientras se unía";
     const std::string ruta = json ? o.archivoJson : o.csv == "-" ? std::string() : o.csv;
     if (ruta.empty()) {
         // A failed standard output is told by the caller.
         if (UnirPartes(partes, out) || !out) return out ? kSalidaBien : kSalidaFallo;
-        err << kPrefijoEstudio << "una parte ha cambiado mientras se unía\n";
+        err << kPrefijoEstudio << cambiada << '\n';
         return kSalidaFallo;
     }
     ArchivoNuevo archivo(ruta);
     std::string fallo = archivo.Error();
     if (fallo.empty() && !UnirPartes(partes, archivo.Flujo()))
-        fallo = archivo.FalloEscritura().empty() ? "una parte ha cambiado mientras se unía"
-                                                 : archivo.FalloEscritura();
+        fallo = archivo.FalloEscritura().empty() ? cambiada : archivo.FalloEscritura();
     if (fallo.empty()) fallo = archivo.Confirmar();
     if (fallo.empty()) return kSalidaBien;
-    err << kPrefijoEstudio << "no se puede escribir " << ruta << ": " << fallo << '\n';
+    err << kPrefijoEstudio << NoSeEscribe(ruta, fallo) << '\n';
     return kSalidaFallo;
 }
 

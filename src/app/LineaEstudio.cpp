@@ -305,7 +305,7 @@ struct Destino {
         archivo.emplace(nombre);
         flujo = &archivo->Flujo();
         if (archivo->Error().empty()) return true;
-        err << kPrefijoEstudio << "no se puede escribir " << ruta << ": " << archivo->Error() << '\n';
+        err << kPrefijoEstudio << NoSeEscribe(ruta, archivo->Error()) << '\n';
         return false;
     }
 };
@@ -373,7 +373,7 @@ int EjecutarLineaEstudio(const OpcionesEstudio& o, std::ostream& out, std::ostre
         if (!d->archivo) continue;
         const std::string fallo = escrito() ? d->archivo->Confirmar() : d->archivo->FalloEscritura();
         if (fallo.empty()) continue;
-        err << kPrefijoEstudio << "no se puede escribir " << d->ruta << ": " << fallo << '\n';
+        err << kPrefijoEstudio << NoSeEscribe(d->ruta, fallo) << '\n';
         return kSalidaFallo;
     }
     out.flush();

@@ -46,6 +46,10 @@ std::string TextoErrorSistema(int error) {
     }
 }
 
+std::string NoSeEscribe(const std::string& ruta, const std::string& por) {
+    return "no se puede escribir " + ruta + ": " + por;
+}
+
 // ---- BufferDescriptor ----------------------------------------------------------------
 
 BufferDescriptor::BufferDescriptor(int fd) : fd_(fd), buffer_(1 << 13) {

@@ -14,6 +14,8 @@ namespace vanta::cli {
 
 // Spanish words for a system error (errno).
 std::string TextoErrorSistema(int error);
+// The message of a file that could not be written, and why.
+std::string NoSeEscribe(const std::string& ruta, const std::string& por);
 
 // A stream buffer on a file descriptor: every byte is written, a short write
 // is carried on, and the first failed write is kept (its errno), after which

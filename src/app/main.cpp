@@ -117,8 +117,12 @@ int Estudio(const std::vector<std::string>& argumentos) {
         std::cerr << "vanta estudio: " << p.error << "\n" << cli::kVerAyuda << "vanta estudio --help\n";
         return cli::kSalidaUso;
     }
+    // A run stops between points on SIGINT or SIGTERM; a join or a script is
+    // ended by them at once.
+    const bool corrida = p.opciones->unir.empty() && !p.opciones->slurm;
     return cli::EjecutarLineaEstudio(*p.opciones, std::cout, std::cerr,
-                                     isatty(fileno(stderr)) ? &std::cerr : nullptr, &cli::PararConSenales());
+                                     isatty(fileno(stderr)) ? &std::cerr : nullptr,
+                                     corrida ? &cli::PararConSenales() : nullptr);
 }
 
 // The decimal separator of the system's regional settings: a Spanish system
