@@ -121,6 +121,12 @@ TEST(PartesEstudio, UnaParteQueFaltaSobraOEstaCortadaSeNombraYNoSeUne) {
              Escribir(c / "parte-1.csv", t.substr(t.find('\n') + 1));
          },
          "parte-1.csv: no es una parte de un estudio (le falta la primera línea, que la nombra)\n"},
+        {"solo la marca, sin fin de línea",
+         [&](const fs::path& c) {
+             const std::string t = leer(c / "parte-1.csv");
+             Escribir(c / "parte-1.csv", t.substr(0, t.find('\n')));
+         },
+         "parte-1.csv: no es una parte de un estudio"},
         {"CSV y JSON", [](const fs::path& c) { EscribirParte(c, kEstudio, 1, 3, true); }, "la carpeta "},
     };
     for (const Caso& c : casos) {
@@ -136,6 +142,14 @@ TEST(PartesEstudio, UnaParteQueFaltaSobraOEstaCortadaSeNombraYNoSeUne) {
     EXPECT_NE(Errores(CarpetaNueva("vacia")).find(" no tiene partes (parte-1.csv, parte-1.json…)"),
               std::string::npos);
     EXPECT_NE(Errores(CarpetaNueva("vacia") / "no").find(" no existe"), std::string::npos);
+    const fs::path vacia = CarpetaNueva("vacia");
+    Escribir(vacia / "parte-01.csv", "");
+    EXPECT_FALSE(TienePartes(vacia));
+    // Twenty shares missing are all named; beyond, the list ends in "…".
+    const fs::path carpeta = CarpetaNueva("muchas");
+    for (size_t k : {1, 2}) EscribirParte(carpeta, {"--variar", "rc=8:10.2:0.1"}, k, 22, false);
+    EXPECT_TRUE(TienePartes(carpeta));
+    EXPECT_TRUE(Errores(carpeta).ends_with("parte-21.csv, parte-22.csv\n")) << Errores(carpeta);
 }
 
 TEST(PartesEstudio, UnDocumentoJSONCortadoOAlargadoNoSeUne) {
@@ -149,6 +163,10 @@ TEST(PartesEstudio, UnDocumentoJSONCortadoOAlargadoNoSeUne) {
          "está cortada: tiene 2 de sus 3 puntos"},
         {[](std::string t) { return t.replace(t.rfind("}\n]}"), 1, "},"); }, "está cortada o incompleta"},
         {[](std::string t) { return t.replace(0, 9, "{\"parto\""); }, "no es una parte de un estudio"},
+        {[](std::string t) { return t.replace(t.find("},\"entradas\""), 3, "},\"salidas"); },
+         "no es una parte de un estudio"},
+        {[](std::string t) { return t.erase(t.find("\"puntos\":[\n") + 9, 1); },
+         "no es una parte de un estudio"},
     };
     for (const auto& [estropear, error] : casos) {
         const fs::path carpeta = CarpetaNueva("json");
