@@ -179,19 +179,21 @@ ParseoEstudio ParsearEstudio(const std::vector<std::string>& argumentos) {
             o.slurm = *n;
         } else if (a == "--unir") {
             o.unir = valor;
+        } else if (a == "--carpeta") {
+            o.carpeta = valor;
         } else {
-            std::string error = a == "--particion" ? ComprobarParticionSlurm(valor)
-                                : a == "--tiempo"  ? ComprobarTiempoSlurm(valor)
-                                : a == "--memoria" ? ComprobarMemoriaSlurm(valor)
-                                                   : std::string();
+            // A line of the script, checked as Slurm reads it.
+            const std::string error = a == "--particion" ? ComprobarParticionSlurm(valor)
+                                      : a == "--tiempo"  ? ComprobarTiempoSlurm(valor)
+                                                         : ComprobarMemoriaSlurm(valor);
             if (!error.empty()) return fallo(error);
-            (a == "--particion" ? o.particion
-             : a == "--tiempo"  ? o.tiempo
-             : a == "--memoria" ? o.memoria
-                                : o.carpeta) = valor;
+            (a == "--particion" ? o.particion : a == "--tiempo" ? o.tiempo : o.memoria) = valor;
         }
     }
-    if (!o.unir.empty()) return ParsearUnir(std::move(o), dadas, !o.palabras.empty());
+    if (!o.unir.empty()) {
+        const bool conEstudio = !o.palabras.empty();
+        return ParsearUnir(std::move(o), dadas, conEstudio);
+    }
     if (estudio.variaciones.empty()) return fallo("falta --variar: la entrada que varía el estudio");
 
     const Parseo p = ParsearCalcular(base);
@@ -226,6 +228,8 @@ ParseoEstudio ParsearEstudio(const std::vector<std::string>& argumentos) {
     if (o.json && !dadas.count("--csv")) o.csv.clear();
     if (o.json && o.archivoJson.empty() && o.csv == "-")
         return fallo("--json y --csv - escriben los dos en la salida estándar");
+    if (!o.archivoJson.empty() && o.archivoJson == o.csv)
+        return fallo("--json y --csv escriben el mismo archivo");
     return {o, {}};
 }
 

@@ -265,6 +265,7 @@ TEST(LineaEstudio, PalabrasQueNoValen) {
         {"--variar", "rc=1,2", "--csv", "a", "--csv", "b"},
         {"--variar", "rc=1,2", "--salidas", "t3", "--salidas=p3"},
         {"--variar", "rc=1,2", "--json", "--json"},
+        {"--variar", "rc=1,2", "--json", "a", "--csv", "a"},
         {"--variar", "rc=1,2", "--csv-es", "--csv-es"},
         {"--variar", "rc=1,2", "--hilos", "1", "--hilos", "2"},
         {"--variar", "rc=1,2", "--slurm", "2"},
