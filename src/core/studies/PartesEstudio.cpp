@@ -278,13 +278,16 @@ PartesComprobadas ComprobarPartes(const std::filesystem::path& carpeta) {
     std::map<size_t, Lectura> lecturas;
     std::map<Clave, size_t> votos;
     std::optional<Clave> elegido;
+    size_t mejor = 0;
     for (const auto& [k, ruta] : porNumero) {
         bool primero = true;
         Lectura& l = lecturas[k] = LeerParte(ruta, r.formato, nullptr, primero);
         if (!l.marca) continue;
         const Clave e{l.marca->parte.n, l.marca->puntos, l.marca->estudio, l.cabecera};
-        const size_t v = ++votos[e];
-        if (!elegido || v > votos[*elegido]) elegido = e;
+        if (const size_t v = ++votos[e]; v > mejor) {
+            mejor = v;
+            elegido = e;
+        }
     }
     const size_t n = elegido ? std::get<0>(*elegido) : 0;
     for (const auto& [k, l] : lecturas) {
