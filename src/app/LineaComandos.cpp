@@ -75,7 +75,7 @@ Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
     for (size_t i = 0; i < palabras.size(); ++i) {
         const std::string& a = palabras[i];
         if (a == "--json") {
-            if (o.json) return {std::nullopt, "--json se ha dado dos veces"};
+            if (o.json) return {std::nullopt, a + kDadaDosVeces};
             o.json = true;
             continue;
         }
@@ -83,7 +83,7 @@ Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
         const std::string nombre = a.substr(2);
         if (!EsOpcion(nombre)) return {std::nullopt, "opción desconocida: " + a};
         if (i + 1 >= palabras.size()) return {std::nullopt, "falta el valor de " + a};
-        if (o.Tiene(nombre)) return {std::nullopt, a + " se ha dado dos veces"};
+        if (o.Tiene(nombre)) return {std::nullopt, a + kDadaDosVeces};
         o.valores[nombre] = palabras[++i];
     }
     if (std::string error = Comprobar(o); !error.empty()) return {std::nullopt, error};

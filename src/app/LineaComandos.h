@@ -21,6 +21,8 @@ inline constexpr int kSalidaUso = 2;
 
 // After a usage error: where the options are told (followed by the command).
 inline constexpr const char* kVerAyuda = "Las opciones, con ";
+// After an option given twice.
+inline constexpr const char* kDadaDosVeces = " se ha dado dos veces";
 
 // The inputs of the calculation, and what to write besides the report.
 struct OpcionesCalcular : OpcionesCalculo {

@@ -61,7 +61,7 @@ std::string Parsear(const std::vector<std::string>& palabras, OpcionesTablas& o)
                                                   : nullptr;
         if (!propia && !EsOpcionFluido(nombre)) return "opción desconocida: " + a;
         if (i + 1 >= argumentos.size()) return "falta el valor de " + a;
-        if (std::find(dadas.begin(), dadas.end(), nombre) != dadas.end()) return a + " se ha dado dos veces";
+        if (std::find(dadas.begin(), dadas.end(), nombre) != dadas.end()) return a + kDadaDosVeces;
         dadas.push_back(nombre);
         if (propia) {
             *propia = argumentos[++i];

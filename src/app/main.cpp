@@ -17,6 +17,7 @@
 #include "app/LineaEstudio.h"
 #include "app/LineaTablas.h"
 #include "app/LineaValidacion.h"
+#include "app/SalidaSegura.h"
 
 #ifndef VANTA_VERSION
 #define VANTA_VERSION "0.0.0"
@@ -81,18 +82,16 @@ int Estudio(const std::vector<std::string>& argumentos) {
         std::cerr << "vanta estudio: " << p.error << "\n" << cli::kVerAyuda << "vanta estudio --help\n";
         return cli::kSalidaUso;
     }
+    // A run stops between points on SIGINT or SIGTERM; a join or a script is
+    // ended by them at once.
+    const bool corrida = p.opciones->unir.empty() && !p.opciones->slurm;
     return cli::EjecutarLineaEstudio(*p.opciones, std::cout, std::cerr,
-                                     isatty(fileno(stderr)) ? &std::cerr : nullptr);
+                                     isatty(fileno(stderr)) ? &std::cerr : nullptr,
+                                     corrida ? &cli::PararConSenales() : nullptr);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    std::setlocale(LC_NUMERIC, "C");
-    const std::vector<std::string> argumentos(argv + 1, argv + argc);
-    if (argumentos.empty() || argumentos[0] == "--carpeta-datos") return Ventanas(argv);
-    const std::string orden = argumentos[0];
-    const std::vector<std::string> resto(argumentos.begin() + 1, argumentos.end());
+// A subcommand, or the help, or the version.
+int Orden(const std::string& orden, const std::vector<std::string>& resto, char** argv) {
     if (orden == "calcular") return Calcular(resto, argv);
     if (orden == "estudio") return Estudio(resto);
     if (orden == "tablas") return vanta::cli::EjecutarTablas(resto, std::cout, std::cerr);
@@ -107,4 +106,16 @@ int main(int argc, char** argv) {
     }
     std::cerr << "vanta: orden desconocida: " << orden << "\n" << vanta::cli::kVerAyuda << "vanta --help\n";
     return vanta::cli::kSalidaUso;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::setlocale(LC_NUMERIC, "C");
+    const std::vector<std::string> argumentos(argv + 1, argv + argc);
+    if (argumentos.empty() || argumentos[0] == "--carpeta-datos") return Ventanas(argv);
+    const std::string orden = argumentos[0];
+    const std::vector<std::string> resto(argumentos.begin() + 1, argumentos.end());
+    vanta::cli::SalidaEstandar salida;
+    return salida.Terminar(orden, Orden(orden, resto, argv));
 }

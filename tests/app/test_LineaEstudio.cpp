@@ -1,11 +1,14 @@
 // `vanta estudio` as a script runs it: every row is what `vanta calcular
-// --json` gives for the same inputs, the shares of --parte put together are
-// the whole table byte for byte, and words that are off exit with 2.
+// --json` gives for the same inputs, the shares of --parte joined by --unir
+// are the whole table byte for byte, an output that cannot be written or a
+// signal leaves no table that looks whole, and words that are off exit with 2.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -33,9 +36,10 @@ std::string Temporal(const std::string& nombre) {
            std::to_string(++llamada) + nombre;
 }
 
-Salida Ejecutar(const std::string& argumentos) {
+// A line of the shell, its standard error kept apart.
+Salida Shell(const std::string& linea) {
     const std::string errores = Temporal(".err");
-    const std::string orden = std::string(VANTA_BINARIO) + " " + argumentos + " 2>" + errores;
+    const std::string orden = "{ " + linea + "; } 2>" + errores;
     Salida s;
     FILE* p = popen(orden.c_str(), "r");
     char buf[4096];
@@ -46,6 +50,10 @@ Salida Ejecutar(const std::string& argumentos) {
     s.err = Leer(errores);
     std::remove(errores.c_str());
     return s;
+}
+
+Salida Ejecutar(const std::string& argumentos) {
+    return Shell(std::string(VANTA_BINARIO) + " " + argumentos);
 }
 
 // The lines of a CSV and their fields, quotes undone.
@@ -131,27 +139,105 @@ TEST(LineaEstudio, CadaFilaEsLaDeCalcularJsonConLasMismasEntradas) {
 
 TEST(LineaEstudio, LasPartesUnidasSonElEstudioEnteroByteAByte) {
     const std::string orden = "estudio --variar fr=0.8:1.2:0.1 --variar rc=8,10 --salidas rendimiento,t3,q23";
-    for (const std::string dialecto : {"", " --csv-es"}) {
-        const Salida entero = Ejecutar(orden + dialecto + " --hilos 1");
-        ASSERT_EQ(entero.estado, 0) << entero.err;
-        EXPECT_EQ(Ejecutar(orden + dialecto + " --hilos 2").out, entero.out);
-        for (int n : {2, 3}) {
-            std::string unidas;
-            for (int k = 1; k <= n; ++k)
-                unidas +=
-                    Ejecutar(orden + dialecto + " --parte " + std::to_string(k) + "/" + std::to_string(n))
-                        .out;
-            EXPECT_EQ(unidas, entero.out) << n << dialecto;
-        }
+    const Salida entero = Ejecutar(orden + " --hilos 1");
+    ASSERT_EQ(entero.estado, 0) << entero.err;
+    EXPECT_EQ(Ejecutar(orden + " --hilos 2").out, entero.out);
+    // Each share opens with its mark, in CSV or in JSON; --unir joins them,
+    // on standard output or into a file.
+    const std::string carpeta = Temporal("partes");
+    std::filesystem::create_directories(carpeta + "/json");
+    for (int k = 1; k <= 3; ++k) {
+        const std::string parte = " --parte " + std::to_string(k) + "/3";
+        const Salida csv = Ejecutar(orden + parte);
+        EXPECT_EQ(csv.out.rfind("#vanta estudio, parte " + std::to_string(k) + " de 3, 10 puntos: [", 0), 0u);
+        std::ofstream(carpeta + "/parte-" + std::to_string(k) + ".csv", std::ios::binary) << csv.out;
+        Ejecutar(orden + parte + " --json " + carpeta + "/json/parte-" + std::to_string(k) + ".json");
     }
-    // Into a file, the same bytes; the JSON document has one object a point.
-    const std::string archivo = Temporal(".csv");
-    const Salida a = Ejecutar(orden + " --parte 2/3 --csv " + archivo + " --json");
-    EXPECT_EQ(a.estado, 0);
-    EXPECT_EQ(Leer(archivo), Ejecutar(orden + " --parte 2/3").out);
-    EXPECT_NE(a.out.find("\"puntos\":["), std::string::npos);
-    EXPECT_EQ(FilasCSV(Leer(archivo)).size(), 3u);
-    std::remove(archivo.c_str());
+    EXPECT_EQ(Ejecutar("estudio --unir " + carpeta).out, entero.out);
+    const Salida json = Ejecutar("estudio --unir " + carpeta + "/json --json " + carpeta + "/unido.json");
+    EXPECT_EQ(json.estado, 0) << json.err;
+    EXPECT_EQ(Leer(carpeta + "/unido.json"), Ejecutar(orden + " --json").out);
+    // A share missing: it is named, and nothing is written.
+    std::filesystem::remove(carpeta + "/parte-2.csv");
+    const Salida falta = Ejecutar("estudio --unir " + carpeta + " --csv " + carpeta + "/unido.csv");
+    EXPECT_EQ(falta.estado, 1);
+    EXPECT_NE(falta.err.find("parte-2.csv"), std::string::npos) << falta.err;
+    EXPECT_FALSE(std::filesystem::exists(carpeta + "/unido.csv"));
+    std::filesystem::remove_all(carpeta);
+}
+
+TEST(LineaEstudio, UnaSalidaQueNoSePuedeEscribirEsUnErrorYNoDejaMedioArchivo) {
+    for (const char* orden : {"calcular", "tablas", "validar", "estudio --variar rc=8:14:0.5"}) {
+        const Salida s = Ejecutar(std::string(orden) + " >/dev/full");
+        EXPECT_EQ(s.estado, 1) << orden;
+        EXPECT_NE(s.err.find("no se ha podido escribir la salida estándar: no queda espacio en el disco"),
+                  std::string::npos)
+            << orden << ": " << s.err;
+    }
+    // A disk that fills up: the file is not left half written, nor its
+    // temporary file. (The document's first line, every value of the input,
+    // fills it at once.)
+    const std::string disco = Temporal("disco");
+    std::filesystem::create_directories(disco);
+    const Salida lleno =
+        Shell("unshare -m sh -c 'mount -t tmpfs -o size=16k none " + disco + " && " + VANTA_BINARIO +
+              " estudio --variar rc=8:14:0.0001 --json " + disco + "/e.json; echo $?; ls -A " + disco + "'");
+    if (lleno.out.empty()) GTEST_SKIP() << "no se puede montar un tmpfs: " << lleno.err;
+    EXPECT_EQ(lleno.out, "1\n");
+    EXPECT_NE(lleno.err.find("no se puede escribir " + disco + "/e.json: no queda espacio en el disco"),
+              std::string::npos)
+        << lleno.err;
+    // A reader that stops reading (| head) ends the study quietly, by SIGPIPE
+    // as a filter of the shell, and the file it was writing is not left.
+    const Salida cerrada =
+        Shell("bash -c '" + std::string(VANTA_BINARIO) + " estudio --variar rc=8:14:0.001 --json --csv " +
+              disco + "/e.csv | head -c 10 >/dev/null; echo ${PIPESTATUS[0]}; ls -A " + disco + "'");
+    EXPECT_EQ(cerrada.out, "141\n");
+    EXPECT_EQ(cerrada.err, "");
+}
+
+TEST(LineaEstudio, UnaSenalDetieneElEstudioSinDejarSuArchivoComoEntero) {
+    namespace fs = std::filesystem;
+    const std::string carpeta = Temporal("senal");
+    fs::create_directories(carpeta);
+    std::ofstream(carpeta + "/e.csv") << "anterior\n";
+    struct Caso {
+        int senal, estado;
+        std::string salida;
+    };
+    for (const Caso& c :
+         {Caso{SIGTERM, 143, "--csv " + carpeta + "/e.csv"}, Caso{SIGINT, 130, ">" + carpeta + "/out.csv"}}) {
+        const std::string orden =
+            std::string("exec ") + VANTA_BINARIO +
+            " estudio --variar rc=8:14:0.0001 --salidas p1,p2,p3,p4,p5,t1,t2,t3,t4,t5 " + c.salida + " 2>" +
+            carpeta + "/err";
+        const pid_t pid = fork();
+        if (pid == 0) {
+            execl("/bin/sh", "sh", "-c", orden.c_str(), nullptr);
+            _exit(127);
+        }
+        // Once the run writes: its temporary file is there, or its first rows.
+        auto escribe = [&] {
+            for (const auto& f : fs::directory_iterator(carpeta))
+                if (f.path().filename().string().starts_with(".e.csv.") ||
+                    (f.path().filename() == "out.csv" && f.file_size() > 0))
+                    return true;
+            return false;
+        };
+        for (int i = 0; i < 1000 && !escribe(); ++i) usleep(10000);
+        kill(pid, c.senal);
+        int w = 0;
+        waitpid(pid, &w, 0);
+        EXPECT_TRUE(WIFEXITED(w) && WEXITSTATUS(w) == c.estado) << c.senal << ": " << w;
+        EXPECT_NE(Leer(carpeta + "/err").find("vanta estudio: interrumpido por SIG"), std::string::npos);
+    }
+    EXPECT_EQ(Leer(carpeta + "/e.csv"), "anterior\n");
+    const std::string out = Leer(carpeta + "/out.csv");
+    EXPECT_NE(out.find("\r\n#vanta estudio: incompleto, interrumpido tras "), std::string::npos)
+        << out.substr(0, 200);
+    for (const char* f : {"/err", "/out.csv", "/e.csv"}) fs::remove(carpeta + f);
+    EXPECT_TRUE(fs::is_empty(carpeta));  // no temporary file left
+    fs::remove(carpeta);
 }
 
 TEST(LineaEstudio, PalabrasQueNoValen) {
@@ -176,6 +262,20 @@ TEST(LineaEstudio, PalabrasQueNoValen) {
         {"--variar", "rc=1,2", "--json", "--csv", "-"},
         {"--variar", "rc=1,2", "--html", "x"},
         {"--variar", "rc=1,2", "--ciclo", "Wankel"},
+        {"--variar", "rc=1,2", "--csv", "a", "--csv", "b"},
+        {"--variar", "rc=1,2", "--salidas", "t3", "--salidas=p3"},
+        {"--variar", "rc=1,2", "--json", "--json"},
+        {"--variar", "rc=1,2", "--json", "a", "--csv", "a"},
+        {"--variar", "rc=1,2", "--csv-es", "--csv-es"},
+        {"--variar", "rc=1,2", "--hilos", "1", "--hilos", "2"},
+        {"--variar", "rc=1,2", "--slurm", "2"},
+        {"--variar", "rc=1,2", "--slurm", "3", "--carpeta", "c"},
+        {"--variar", "rc=1,2", "--slurm", "2", "--carpeta", "c", "--parte", "1/2"},
+        {"--variar", "rc=1,2", "--slurm", "2", "--carpeta", "c", "--csv", "x"},
+        {"--variar", "rc=1,2", "--slurm", "2", "--carpeta", "c", "--tiempo", "1h"},
+        {"--variar", "rc=1,2", "--carpeta", "c"},
+        {"--unir", "c", "--variar", "rc=1,2"},
+        {"--unir", "c", "--csv", "a", "--json"},
     };
     for (const auto& palabras : malas) {
         const auto p = vanta::cli::ParsearEstudio(palabras);

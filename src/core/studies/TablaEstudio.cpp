@@ -112,9 +112,10 @@ std::string ValorJSON(const Estudio& estudio, size_t i, const std::string& texto
 
 }  // namespace
 
-EscritorJSONEstudio::EscritorJSONEstudio(std::ostream& os, const Estudio& estudio)
+EscritorJSONEstudio::EscritorJSONEstudio(std::ostream& os, const Estudio& estudio,
+                                         const std::string& primeraClave)
     : os_(os), estudio_(estudio) {
-    os_ << "{\"entradas\":[";
+    os_ << "{" << primeraClave << "\"entradas\":[";
     for (size_t i = 0; i < estudio.variaciones.size(); ++i) {
         const Variacion& v = estudio.variaciones[i];
         const EntradaEstudio* entrada = BuscarEntradaEstudio(v.nombre);

@@ -35,10 +35,10 @@ std::string TituloConUnidad(std::string_view titulo, std::string_view unidad);
 // The study as one JSON document: its inputs with their units and values, its
 // outputs with their units, then one object a point: "entradas" and
 // "salidas" by name (an output null where the point failed), "bien" and
-// "mensajes".
+// "mensajes". A key given first (with its comma) opens the document.
 class EscritorJSONEstudio {
 public:
-    EscritorJSONEstudio(std::ostream& os, const Estudio& estudio);
+    EscritorJSONEstudio(std::ostream& os, const Estudio& estudio, const std::string& primeraClave = {});
     void Punto(size_t punto, const ResultadoPunto& r);
     void Cerrar();
 
