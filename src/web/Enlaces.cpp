@@ -1,0 +1,51 @@
+// The page's entry points into the WebAssembly module: the calls of Pagina.h
+// under the names the scripts use. Texts and JSON only cross the boundary.
+#include <emscripten/bind.h>
+#include <emscripten/val.h>
+
+#include "web/Pagina.h"
+
+namespace {
+
+using emscripten::val;
+
+// A list of pairs from the page: [[nombre, texto], …].
+std::vector<std::pair<std::string, std::string>> Pares(const val& lista) {
+    std::vector<std::pair<std::string, std::string>> pares;
+    const unsigned n = lista["length"].as<unsigned>();
+    for (unsigned i = 0; i < n; ++i)
+        pares.emplace_back(lista[i][0].as<std::string>(), lista[i][1].as<std::string>());
+    return pares;
+}
+
+std::string Preparar(vanta::web::EstudioWeb& estudio, const std::string& base, const val& variar,
+                     const std::string& salidas, bool espanol) {
+    return estudio.Preparar(base, Pares(variar), salidas, espanol);
+}
+
+std::string Punto(const vanta::web::EstudioWeb& estudio, double i) {
+    return estudio.Punto(static_cast<size_t>(i));
+}
+
+std::string Comparar(const val& calculos, bool enBar) {
+    return vanta::web::CompararJSON(Pares(calculos), enBar);
+}
+
+}  // namespace
+
+EMSCRIPTEN_BINDINGS(vanta) {
+    using namespace emscripten;
+    using vanta::web::Calculadora;
+    using vanta::web::EstudioWeb;
+    function("entradas", &vanta::web::EntradasJSON);
+    function("comparar", &Comparar);
+    function("validacion", &vanta::web::ValidacionJSON);
+    class_<Calculadora>("Calculadora")
+        .constructor<>()
+        .function("calcular", &Calculadora::Calcular)
+        .function("leer", &Calculadora::Leer)
+        .function("paginaHTML", &Calculadora::PaginaHTML)
+        .function("informeArchivo", &Calculadora::InformeArchivo)
+        .function("imagen", &Calculadora::Imagen);
+    class_<EstudioWeb>("Estudio").constructor<>().function("preparar", &Preparar).function("punto", &Punto);
+}
