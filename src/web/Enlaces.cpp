@@ -31,6 +31,22 @@ std::string Comparar(const val& calculos, bool enBar) {
     return vanta::web::CompararJSON(Pares(calculos), enBar);
 }
 
+// Bytes as they are, in a Uint8Array of their own: a text would lose the
+// page's byte-order mark on its way to the page.
+val Bytes(const std::string& bytes) {
+    return val::global("Uint8Array")
+        .new_(val(emscripten::typed_memory_view(bytes.size(),
+                                                reinterpret_cast<const unsigned char*>(bytes.data()))));
+}
+
+val PaginaHTML(const vanta::web::Calculadora& c) {
+    return Bytes(c.PaginaHTML());
+}
+
+val InformeArchivo(const vanta::web::Calculadora& c) {
+    return Bytes(c.InformeArchivo());
+}
+
 }  // namespace
 
 EMSCRIPTEN_BINDINGS(vanta) {
@@ -44,8 +60,8 @@ EMSCRIPTEN_BINDINGS(vanta) {
         .constructor<>()
         .function("calcular", &Calculadora::Calcular)
         .function("leer", &Calculadora::Leer)
-        .function("paginaHTML", &Calculadora::PaginaHTML)
-        .function("informeArchivo", &Calculadora::InformeArchivo)
+        .function("paginaHTML", &PaginaHTML)
+        .function("informeArchivo", &InformeArchivo)
         .function("imagen", &Calculadora::Imagen);
     class_<EstudioWeb>("Estudio").constructor<>().function("preparar", &Preparar).function("punto", &Punto);
 }

@@ -148,6 +148,11 @@ std::vector<std::string> Excluidas(std::string_view nombre) {
     return fuera;
 }
 
+// The inputs that are lists of numbers, and how many each has: the boxes of
+// the formula and of the mass composition.
+constexpr std::pair<std::string_view, size_t> kCamposLista[] = {{"formula", 5}, {"masa", 4}};
+constexpr const char* kCuantos[] = {"", "un", "dos", "tres", "cuatro", "cinco"};
+
 }  // namespace
 
 std::string EntradasJSON() {
@@ -181,7 +186,7 @@ std::string EntradasJSON() {
         .Crudo("salidas", salidas)
         .Texto("nombrePagina", NombreConExtension(kDialogoPaginaPrincipal))
         .Crudo("imagenesPagina",
-               Lista(kImagenesPagina, [](const ImagenPagina& i) { return Cadena(ArchivoImagen(i)); }))
+               Lista(kImagenesPagina, [](const ImagenPagina& i) { return Cadena(ImagenEnPagina(i)); }))
         .Cerrar();
 }
 
@@ -197,6 +202,14 @@ std::string ComprobarEntradas(const std::string& lineas, OpcionesCalculo& o, std
                 return "«" + nombre + "» no es una entrada del cálculo";
         }
         return "las entradas se escriben nombre=valor, una por línea";
+    }
+    for (const auto& [nombre, cuantos] : kCamposLista) {
+        if (!leidas->Tiene(std::string(nombre)) ||
+            SepararLista(leidas->Valor(std::string(nombre))).size() == cuantos)
+            continue;
+        if (entrada) *entrada = nombre;
+        return BuscarEntradaEstudio(nombre)->titulo + std::string(" lleva ") + kCuantos[cuantos] +
+               " números separados por comas";
     }
     for (const auto& [nombre, valor] : leidas->valores) {
         const std::vector<std::string> lista = ValoresEleccion(nombre);

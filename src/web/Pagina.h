@@ -28,7 +28,7 @@ namespace vanta::web {
 // the choice it only means something with ("ciclo=Mixto"), and its stage
 // ("aire", "combustible", "combustion", "ciclo", "potencia"). Then the
 // outputs a study may ask for, and the names of the saved page and of its
-// pictures.
+// pictures as the desktop writes them.
 std::string EntradasJSON();
 
 // Reads the input lines into o. Why they cannot be used as they stand ("" when

@@ -54,7 +54,7 @@ async function descargarPagina() {
   const boton = document.getElementById('descargar-pagina');
   boton.disabled = true;
   try {
-    const archivos = { [Vanta.nombrePagina]: bytesUtf8(Calculo.calculadora.paginaHTML()) };
+    const archivos = { [Vanta.nombrePagina]: Calculo.calculadora.paginaHTML() };
     for (let i = 0; i < Vanta.imagenesPagina.length; i++)
       archivos[Vanta.imagenesPagina[i]] = bmpDe(await pixelesDe(Calculo.calculadora.imagen(i)));
     descargar('pagina-vanta.zip', new Blob([fflate.zipSync(archivos)], { type: 'application/zip' }));
@@ -67,6 +67,6 @@ async function descargarPagina() {
 
 function prepararArchivos() {
   document.getElementById('descargar-informe').addEventListener('click', () =>
-    descargar('informe.txt', bytesUtf8(Calculo.calculadora.informeArchivo()), 'text/plain;charset=utf-8'));
+    descargar('informe.txt', Calculo.calculadora.informeArchivo(), 'text/plain;charset=utf-8'));
   document.getElementById('descargar-pagina').addEventListener('click', descargarPagina);
 }

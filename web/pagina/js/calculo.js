@@ -147,9 +147,10 @@ function alCambiar() {
   Calculo.tiempos.push(performance.now() - t0);
 }
 
-// One calculation of the inputs given, shown whole.
-function calcular(valores, avisosDireccion = []) {
-  actualizarDireccion(valores);
+// One calculation of the inputs given, shown whole. The address follows the
+// forms, but for the one the page was opened with, which stays as it came.
+function calcular(valores, avisosDireccion = [], conDireccion = true) {
+  if (conDireccion) actualizarDireccion(valores);
   const r = JSON.parse(Calculo.calculadora.calcular(lineasDe(valores)));
   Calculo.ultimo = r;
   Calculo.valores = valores;
@@ -288,7 +289,7 @@ function empezarCalculo() {
   const { valores, desconocidas } = leerDireccion(location.search);
   ponerValores(valores);
   const avisos = desconocidas.map((n) => `La dirección trae «${n}», que no es una entrada del cálculo: no se tiene en cuenta.`);
-  calcular(valoresDados(), avisos);
+  calcular(valoresDados(), avisos, false);
   document.getElementById('restablecer').addEventListener('click', () => { ponerValores({}); alCambiar(); });
   document.getElementById('copiar-enlace').addEventListener('click', async (ev) => {
     const boton = ev.currentTarget;
