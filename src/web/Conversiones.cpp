@@ -93,11 +93,9 @@ T Leer(const std::string& t) {
         return std::strtod(t.c_str(), nullptr);
 }
 
-// The fewest digits that read back to v (positive, finite), the nearest of
-// them: the digits printf rounds to, or where the gap below a power of two is
-// narrower than above, the next decimal on the other side.
-// The search halves the number of digits: more digits never lose the way
-// back.
+// Whether p digits read back to v: those printf rounds to, or where the gap
+// below a power of two is narrower than above, the next decimal on the other
+// side (d then holds them). More digits never lose the way back.
 template <class T>
 bool Vuelve(T v, int p, Decimal& d) {
     d = Redondeado(static_cast<double>(v), p);
@@ -107,10 +105,18 @@ bool Vuelve(T v, int p, Decimal& d) {
     return Leer<T>(ConExponente(d)) == v;
 }
 
+// The fewest digits that read back to v (positive, finite), the nearest of
+// them. Most figures of a calculation need their last two or three digits:
+// those are tried first, then the search halves below.
 template <class T>
 Decimal MasCorto(T v, int maximo) {
-    int desde = 1, hasta = maximo;
-    Decimal d, mejor = Redondeado(static_cast<double>(v), maximo);
+    Decimal d, mejor;
+    int hasta = maximo - 2;
+    if (!Vuelve(v, hasta, mejor)) {
+        if (Vuelve(v, maximo - 1, mejor)) return mejor;
+        return Redondeado(static_cast<double>(v), maximo);
+    }
+    int desde = 1;
     while (desde < hasta) {
         const int p = (desde + hasta) / 2;
         if (Vuelve(v, p, d)) {

@@ -59,6 +59,7 @@ EMSCRIPTEN_BINDINGS(vanta) {
     class_<Calculadora>("Calculadora")
         .constructor<>()
         .function("calcular", &Calculadora::Calcular)
+        .function("json", &Calculadora::JSON)
         .function("leer", &Calculadora::Leer)
         .function("paginaHTML", &PaginaHTML)
         .function("informeArchivo", &InformeArchivo)

@@ -290,11 +290,12 @@ std::string IdealJSON(const Estado& e) {
 
 }  // namespace
 
-// The pictures, drawn by a second run of the same calculation: the figures
-// the program gives come from a run on surfaces that draw nothing (as
-// `vanta calcular` runs it; the text position of the charts is part of the
-// state), the pictures from a run on surfaces that write SVG.
+// The last calculation: its inputs, its state, its seven pictures. The state
+// is that of a run on surfaces that write SVG; the JSON comes from a run on
+// surfaces that draw nothing, as `vanta calcular` runs it, for the text
+// position of the charts is part of the state.
 struct Calculadora::Calculo {
+    OpcionesCalculo opciones;
     Estado e;
     SuperficieSVG pct1{kAnchoGrafica, kAltoGrafica, kFondoBlanco};
     SuperficieSVG pct2{kAnchoGrafica, kAltoGrafica, kFondoBlanco};
@@ -304,6 +305,7 @@ struct Calculadora::Calculo {
     SuperficieSVG ts{kAnchoDiagrama, kAltoDiagrama, kFondoGris};
     SuperficieSVG hs{kAnchoDiagrama, kAltoDiagrama, kFondoGris};
     std::string tipoCombustible, informe;
+    bool leida = false;  // the inputs were read
     bool bien = false;
 
     Diagramas Todos() { return {pv, tv, ts, hs}; }
@@ -318,35 +320,35 @@ Calculadora::~Calculadora() = default;
 
 std::string Calculadora::Calcular(const std::string& lineas) {
     c_ = std::make_unique<Calculo>();
+    Calculo& k = *c_;
     Objeto r;
-    OpcionesCalculo o;
     std::string entrada;
-    if (const std::string error = ComprobarEntradas(lineas, o, &entrada); !error.empty()) {
+    if (const std::string error = ComprobarEntradas(lineas, k.opciones, &entrada); !error.empty()) {
         r.Logico("bien", false).Crudo("mensajes", Textos({error}));
         if (!entrada.empty()) r.Texto("entrada", entrada).Texto("etapa", EtapaDe(entrada));
         return r.Cerrar();
     }
-
-    // The figures, as the command line gets them.
-    Estado e;
-    GuardarColoresDiagramas(e);
+    k.leida = true;
+    const OpcionesCalculo& o = k.opciones;
+    GuardarColoresDiagramas(k.e);
     DialogosGrabados dlg;
-    SuperficiesNulas nulas;
-    SuperficiesCalculo s = nulas.Todas();
+    SuperficiesCalculo svg{k.pct1, k.pct2, k.pct3, k.Todos()};
     VentanaPrincipalSimple v;
-    const bool bien = CalcularTodo(e, o, dlg, s, v);
-    const std::string tipo = TextoListaCombustible(o);
-    r.Logico("bien", bien)
-        .Texto("tipoCombustible", tipo)
-        .Texto("json", EstadoJSONConfianza(e, tipo, bien) + "\n");
-    if (bien) {
+    k.bien = CalcularTodo(k.e, o, dlg, svg, v);
+    k.tipoCombustible = TextoListaCombustible(o);
+    k.informe = v.informe;
+    r.Logico("bien", k.bien).Texto("tipoCombustible", k.tipoCombustible);
+    if (k.bien) {
         std::vector<std::string> avisos;
-        for (const Aviso& a : AvisosValidez(e, tipo)) avisos.push_back(a.texto);
+        for (const Aviso& a : AvisosValidez(k.e, k.tipoCombustible)) avisos.push_back(a.texto);
         r.Texto("informe", v.informe + std::string(kFinLinea))
             .Crudo("resultados", TextosResultadosJSON(v.resultados))
             .Crudo("avisos", Textos(avisos))
-            .Crudo("ideal", IdealJSON(e));
+            .Crudo("ideal", IdealJSON(k.e));
         if (o.Tiene("rpm")) {
+            // On a copy: a speed refused stops the calculation, and the
+            // readout still reads this one.
+            Estado e = k.e;
             CajaTextoSimple txtRpm(o.Valor("rpm")), txtPotencia, txtPotenciaCV;
             txtRpm_Change(e, dlg, e.Wciclo, txtRpm, txtPotencia, txtPotenciaCV);
             if (!e.ErrorCalculo)
@@ -358,21 +360,23 @@ std::string Calculadora::Calcular(const std::string& lineas) {
         }
     }
     r.Crudo("mensajes", Textos(dlg.mensajes));
-    if (!bien) r.Texto("etapa", EtapaQueFalla(o));
-
-    // The pictures.
-    Calculo& k = *c_;
-    GuardarColoresDiagramas(k.e);
-    DialogosGrabados dlgImagenes;
-    SuperficiesCalculo svg{k.pct1, k.pct2, k.pct3, k.Todos()};
-    VentanaPrincipalSimple vImagenes;
-    k.bien = CalcularTodo(k.e, o, dlgImagenes, svg, vImagenes);
-    k.tipoCombustible = tipo;
-    k.informe = vImagenes.informe;
+    if (!k.bien) r.Texto("etapa", EtapaQueFalla(o));
     std::vector<std::string> imagenes;
     for (int i = 0; i < 7; ++i)
         imagenes.push_back(k.Imagen(i)->Dibujada() ? k.Imagen(i)->SVG() : std::string());
     return r.Crudo("imagenes", Textos(imagenes)).Cerrar();
+}
+
+std::string Calculadora::JSON() const {
+    if (!c_ || !c_->leida) return {};
+    Estado e;
+    GuardarColoresDiagramas(e);
+    DialogosGrabados dlg;
+    SuperficiesNulas nulas;
+    SuperficiesCalculo s = nulas.Todas();
+    VentanaPrincipalSimple v;
+    const bool bien = CalcularTodo(e, c_->opciones, dlg, s, v);
+    return EstadoJSONConfianza(e, c_->tipoCombustible, bien) + "\n";
 }
 
 std::string Calculadora::Leer(int diagrama, float px, float py) {

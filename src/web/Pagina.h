@@ -46,12 +46,16 @@ public:
     // The four stages on the inputs given. JSON: "bien", "mensajes" (in
     // order), "etapa" (of a failure: the first stage that does not pass),
     // "entrada" (when the failure is known to concern one input),
-    // "informe" (as `vanta calcular` writes it), "json" (as `vanta calcular
-    // --json` writes it), "resultados" (the texts of the result labels),
-    // "potencia" (when the speed is given), "avisos", "ideal", and the seven
-    // pictures as SVG in "imagenes" (pct1, pct2, pct3, pctPV, pctTV, pctTS,
-    // pctHS).
+    // "informe" (as `vanta calcular` writes it), "resultados" (the texts of
+    // the result labels), "potencia" (when the speed is given), "avisos",
+    // "ideal", and the seven pictures as SVG in "imagenes" (pct1, pct2, pct3,
+    // pctPV, pctTV, pctTS, pctHS).
     std::string Calcular(const std::string& lineas);
+
+    // Every variable of the last calculation as `vanta calcular --json`
+    // writes it ("" when its inputs were refused): asked apart, for it takes
+    // a calculation of its own.
+    std::string JSON() const;
 
     // The pointer at pixel (px, py) of the p-V (diagrama 0) or T-V (1)
     // picture. JSON: the readout's texts and the transient layer of the four

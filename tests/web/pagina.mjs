@@ -62,7 +62,11 @@ async function abrir(busqueda, p = pagina, base = direccion) {
   return p;
 }
 
-const texto = (p, selector) => p.$eval(selector, (e) => e.textContent);
+// The JSON follows the calculation when the typing pauses.
+async function texto(p, selector) {
+  if (selector === '#json') await p.waitForSelector('#json[data-listo="si"]', { timeout: 30000 });
+  return p.$eval(selector, (e) => e.textContent);
+}
 
 async function descargado(nombre, accion) {
   const archivo = join(descargas, nombre);

@@ -84,7 +84,7 @@ TEST(Pagina, ElInformeYElJSONSonLosDeVantaCalcular) {
         const std::string r = c.Calcular(Lineas(caso));
         const auto [informe, mensajes] = Linea(caso, false);
         EXPECT_EQ(Campo(r, "informe"), informe) << Lineas(caso);
-        EXPECT_EQ(Campo(r, "json"), Linea(caso, true).first) << Lineas(caso);
+        EXPECT_EQ(c.JSON(), Linea(caso, true).first) << Lineas(caso);
         EXPECT_EQ(Tiene(r, "\"bien\":true"), !informe.empty());
         for (const std::string& m : mensajes) EXPECT_TRUE(Tiene(r, m)) << m;
     }
@@ -117,6 +117,7 @@ TEST(Pagina, UnRechazoDiceLaEtapaQueNoPasa) {
     EXPECT_TRUE(Tiene(c.Calcular("color=rojo\n"), "«color» no es una entrada del cálculo"));
     EXPECT_TRUE(Tiene(c.Calcular("rc\n"), "nombre=valor"));
     EXPECT_EQ(c.PaginaHTML(), "");
+    EXPECT_EQ(c.JSON(), "");
     EXPECT_EQ(c.Leer(0, 10, 10), "{}");
 }
 

@@ -11,7 +11,23 @@ const Calculo = {
   grupos: [],         // each a list of names that exclude each other
   ultimaLectura: null,
   tiempos: [],        // ms of the calculations as the user types
+  imagenes: [],       // the pictures on show, to leave alone those that stay the same
+  esperaJSON: 0,
 };
+
+// The JSON takes a calculation of its own: it follows when the typing
+// pauses. The element says when it holds the last calculation's.
+const kPausaJSON = 150;
+
+function ponerJSONDespues() {
+  const caja = document.getElementById('json');
+  delete caja.dataset.listo;
+  clearTimeout(Calculo.esperaJSON);
+  Calculo.esperaJSON = setTimeout(() => {
+    caja.textContent = Calculo.calculadora.json();
+    caja.dataset.listo = 'si';
+  }, kPausaJSON);
+}
 
 // ---- The forms ----------------------------------------------------------------
 
@@ -172,7 +188,10 @@ function mostrarResultado(r, avisosDireccion) {
   }
 
   document.querySelectorAll('.imagen[data-imagen]').forEach((caja) => {
-    const svg = r.imagenes ? r.imagenes[Number(caja.dataset.imagen)] : '';
+    const i = Number(caja.dataset.imagen);
+    const svg = r.imagenes ? r.imagenes[i] : '';
+    if (svg === Calculo.imagenes[i] && !caja.querySelector('g.transitoria > *')) return;
+    Calculo.imagenes[i] = svg;
     caja.innerHTML = svg;
     caja.classList.toggle('vacia', !svg);
   });
@@ -182,7 +201,7 @@ function mostrarResultado(r, avisosDireccion) {
   mostrarTablas(r);
   mostrarAvisos(r);
   document.getElementById('informe').textContent = r.bien ? r.informe : '';
-  document.getElementById('json').textContent = r.json || '';
+  ponerJSONDespues();
   for (const id of ['descargar-informe', 'descargar-pagina', 'anadir-comparacion']) document.getElementById(id).disabled = !r.bien;
 }
 
