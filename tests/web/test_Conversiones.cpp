@@ -66,9 +66,11 @@ TEST(Conversiones, ElTextoMasCortoEsElDeLaBibliotecaEstandar) {
     }
     for (double v :
          {0.0, -0.0, 1e23, 9007199254740993.0, 123456789012345680.0, 5e-324, 1.7976931348623157e308, 0.1,
-          100.0, 1e15, 1e16, 0.0001, 0.001, 1e-5, 8.5, 300.0, 0x1p-1022, 0x1p60})
+          100.0, 1e15, 1e16, 0.0001, 0.001, 1e-5, 8.5, 300.0, 0x1p-1022, 0x1p60,
+          // Powers of two whose shortest decimal lies above them, in the wider gap.
+          0x1p-1017, 0x1p-957, 0x1p-808})
         EXPECT_EQ(Nuestro(v), Estandar(v)) << v;
-    EXPECT_EQ(Nuestro(16777216.0f), Estandar(16777216.0f));
+    for (float v : {16777216.0f, 0x1p87f, 0x1p-96f}) EXPECT_EQ(Nuestro(v), Estandar(v)) << v;
     EXPECT_EQ(NuestroFijo(1e23), EstandarFijo(1e23));
 
     char corto[3];

@@ -51,7 +51,9 @@ TEST(SuperficieSVG, UneLasLineasQueSiguenYDejaLasQueNoAportan) {
     EXPECT_NE(svg.find("stroke-width='2' d='M40 40 L50 50'"), std::string::npos);
     EXPECT_EQ(Cuenta(svg, "<rect x='10' y='10' width='1' height='1'"), 1);  // the point itself
     s.Line(60, 60, 70, 70);  // not from the end: a path of its own
-    EXPECT_NE(s.SVG().find("d='M60 60 L70 70'"), std::string::npos);
+    s.Line(70, 75, 80, 80);  // nor from below it
+    EXPECT_NE(s.SVG().find("d='M60 60 L70 70'/><path"), std::string::npos);
+    EXPECT_NE(s.SVG().find("d='M70 75 L80 80'"), std::string::npos);
 }
 
 TEST(SuperficieSVG, LaCapaTransitoriaSeBorraSinTocarElDibujo) {
