@@ -315,6 +315,10 @@ comprobar('la comparación se guarda en el navegador, se exporta y se importa', 
   cierto(rendimientos && rendimientos.includes(JSON.parse(calcular('ciclo=Otto&rc=9', '--json').salida).Rendimiento.toFixed(3)), `el rendimiento: ${rendimientos}`);
 
   const exportado = await descargado('comparacion-vanta.json', () => pagina.click('#exportar-comparacion'));
+  // Six at most.
+  for (let i = 0; i < 4; i++) await pagina.click('#form-comparacion button[type="submit"]');
+  igual(String((await pagina.$$('#lista-comparacion li')).length), '6', 'los cálculos tras añadir cuatro más');
+  cierto((await texto(pagina, '#mensajes-comparacion')).includes('tiene ya 6 cálculos'), 'el séptimo no se rechaza');
   const otro = await navegador.createBrowserContext();
   const p2 = await nuevaPagina(otro);
   await abrir('#comparacion', p2);

@@ -118,7 +118,7 @@ function ajustarVisibles() {
 
 // The inputs given: each chosen, shown input whose text is not the one it
 // starts with (the chosen one of a group that is not taken by default,
-// always).
+// always, even empty: its box then says what it lacks).
 function valoresDados() {
   const valores = {};
   for (const e of Vanta.entradas) {
@@ -126,7 +126,7 @@ function valoresDados() {
     if (fila.hidden || !elegida(e.nombre)) continue;
     const texto = Calculo.campos[e.nombre].value;
     const porOpcion = Calculo.opciones[e.nombre] && !e.elegidaSinDar;
-    if (texto !== e.defecto || (porOpcion && texto !== '')) valores[e.nombre] = texto;
+    if (texto !== e.defecto || porOpcion) valores[e.nombre] = texto;
   }
   return valores;
 }

@@ -9,6 +9,7 @@ const kFormatoArchivo = 'vanta-comparacion';
 
 const Comparacion = {
   calculos: [], // {nombre, entradas: {nombre: valor}}
+  aviso: null,  // why the last one could not be added, until it is shown
 };
 
 function guardarComparacion() {
@@ -46,7 +47,8 @@ function nombreSugerido() {
 function anadirCalculoActual(nombre) {
   const mensajes = document.getElementById('mensajes-comparacion');
   if (Comparacion.calculos.length >= kMaximoComparados) {
-    mostrarMensajes(mensajes, [`La comparación tiene ya ${kMaximoComparados} cálculos: quite uno antes de añadir otro.`]);
+    Comparacion.aviso = `La comparación tiene ya ${kMaximoComparados} cálculos: quite uno antes de añadir otro.`;
+    mostrarMensajes(mensajes, [Comparacion.aviso]);
     return false;
   }
   Comparacion.calculos.push({ nombre: nombre || nombreSugerido(), entradas: { ...Calculo.valores } });
@@ -56,7 +58,9 @@ function anadirCalculoActual(nombre) {
 }
 
 function dibujarComparacion() {
-  mostrarMensajes(document.getElementById('mensajes-comparacion'), []);
+  const avisos = Comparacion.aviso ? [Comparacion.aviso] : [];
+  Comparacion.aviso = null;
+  mostrarMensajes(document.getElementById('mensajes-comparacion'), avisos);
   const lista = document.getElementById('lista-comparacion');
   lista.replaceChildren(...Comparacion.calculos.map((c, i) => el('li', {},
     el('span', { class: 'muestra', 'data-i': i }), el('span', { class: 'nombre', texto: c.nombre }), ' ',
@@ -74,7 +78,7 @@ function dibujarComparacion() {
   const r = JSON.parse(Vanta.modulo.comparar(Comparacion.calculos.map((c) => [c.nombre, lineasDe(c.entradas)]), enBar));
   r.calculos.forEach((c, i) => { const m = lista.querySelector(`.muestra[data-i="${i}"]`); if (m) m.style.background = c.color; });
   mostrarMensajes(document.getElementById('mensajes-comparacion'),
-    r.calculos.filter((c) => !c.hay).map((c) => `«${c.nombre}»: ${c.mensaje}`));
+    [...avisos, ...r.calculos.filter((c) => !c.hay).map((c) => `«${c.nombre}»: ${c.mensaje}`)]);
   figuras.replaceChildren(...r.figuras.filter((f) => f).map((svg) => { const d = el('div', { class: 'imagen' }); d.innerHTML = svg; return d; }));
   const cabeza = el('tr', {}, el('th', { scope: 'col', texto: 'Magnitud' }),
     ...r.calculos.map((c) => el('th', { scope: 'col', texto: c.nombre })),
@@ -105,8 +109,10 @@ function prepararComparacion() {
     ev.preventDefault();
     if (anadirCalculoActual(form.elements.nombre.value.trim())) form.elements.nombre.value = '';
   });
+  // To the comparison, which shows it (or why it could not be added).
   document.getElementById('anadir-comparacion').addEventListener('click', () => {
-    if (anadirCalculoActual('')) location.hash = '#comparacion';
+    anadirCalculoActual('');
+    location.hash = '#comparacion';
   });
   document.getElementById('unidad-comparacion').addEventListener('change', dibujarComparacion);
   document.getElementById('exportar-comparacion').addEventListener('click', () => descargar('comparacion-vanta.json',
