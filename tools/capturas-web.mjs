@@ -57,7 +57,7 @@ await p.evaluate(() => {
 });
 await p.click('#empezar-estudio');
 await p.waitForFunction(() => !Estudio.corriendo && Estudio.puntos.length);
-await p.evaluate(() => document.getElementById('progreso-estudio').scrollIntoView());
+await p.evaluate(() => document.querySelector('#form-estudio .botones').scrollIntoView());
 await p.screenshot({ path: join(carpeta, 'web-estudio-1280x800.png') });
 
 await navegador.close();
