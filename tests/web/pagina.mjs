@@ -47,6 +47,8 @@ const erroresPagina = [];
 
 async function nuevaPagina(contexto = navegador.defaultBrowserContext(), ancho = 1280, alto = 800) {
   const p = await contexto.newPage();
+  // A machine busy with other builds may take its time.
+  p.setDefaultTimeout(90000);
   p.on('pageerror', (e) => erroresPagina.push(e.message));
   await p.setViewport({ width: ancho, height: alto });
   return p;
@@ -58,13 +60,13 @@ const pagina = await nuevaPagina();
 
 async function abrir(busqueda, p = pagina, base = direccion) {
   await p.goto(`${base}${busqueda ? `?${busqueda}` : ''}`);
-  await p.waitForSelector('body[data-listo="si"]', { timeout: 30000 });
+  await p.waitForSelector('body[data-listo="si"]');
   return p;
 }
 
 // The JSON follows the calculation when the typing pauses.
 async function texto(p, selector) {
-  if (selector === '#json') await p.waitForSelector('#json[data-listo="si"]', { timeout: 30000 });
+  if (selector === '#json') await p.waitForSelector('#json[data-listo="si"]');
   return p.$eval(selector, (e) => e.textContent);
 }
 
@@ -288,7 +290,7 @@ comprobar('un estudio en su trabajador da la tabla de vanta estudio, y se cancel
   await pagina.click('#empezar-estudio');
   await pagina.waitForFunction(() => Estudio.puntos.length > 0);
   await pagina.click('#cancelar-estudio');
-  await pagina.waitForFunction(() => !Estudio.corriendo, { timeout: 30000 });
+  await pagina.waitForFunction(() => !Estudio.corriendo);
   const { hechos, total, aviso } = await pagina.evaluate(() => ({ hechos: Estudio.filas.length, total: Estudio.info.puntos, aviso: document.getElementById('progreso-estudio').textContent }));
   cierto(hechos > 0 && hechos < total && aviso.includes('Cancelado'), `la cancelación: ${hechos} de ${total}, «${aviso}»`);
 });
@@ -352,7 +354,7 @@ comprobar('el informe y la página HTML con sus imágenes se descargan como los 
 comprobar('la validación es la de vanta validar', async () => {
   await abrir('');
   await pagina.evaluate(() => { location.hash = '#validacion'; });
-  await pagina.waitForFunction(() => Validacion.hecha, { timeout: 60000 });
+  await pagina.waitForFunction(() => Validacion.hecha);
   const v = await descargado('validacion.txt', () => pagina.click('#descargar-validacion'));
   igual(v.toString('utf8'), spawnSync(vanta, ['validar'], { encoding: 'utf8' }).stdout, 'la validación');
   cierto((await pagina.$$('#tablas-validacion table')).length === 4, 'las cuatro tablas');
@@ -371,7 +373,7 @@ comprobar('a 360 px de ancho nada se sale de la pantalla', async () => {
   const p = await nuevaPagina(navegador.defaultBrowserContext(), 360, 740);
   for (const seccion of ['', '#estudio', '#comparacion', '#validacion']) {
     await abrir(`ciclo=Mixto${seccion}`, p);
-    if (seccion === '#validacion') await p.waitForFunction(() => Validacion.hecha, { timeout: 60000 });
+    if (seccion === '#validacion') await p.waitForFunction(() => Validacion.hecha);
     const ancho = await p.evaluate(() => document.documentElement.scrollWidth);
     cierto(ancho <= 360, `la sección «${seccion || '#calculo'}» mide ${ancho} px`);
   }
