@@ -8,6 +8,11 @@
 
 namespace vanta {
 
+// The grounds of the surfaces: white for the charts, p-V and T-V; light grey
+// for T-s and h-s.
+inline constexpr int32_t kFondoBlanco = RGB(255, 255, 255);
+inline constexpr int32_t kFondoGris = RGB(245, 245, 245);
+
 // Black pen, drawing to the persistent picture, cleared.
 void PrepararDiagramas(Diagramas& g);
 // Scales every surface from the maxima with a margin of 8 % of each range

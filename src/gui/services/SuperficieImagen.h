@@ -12,15 +12,11 @@
 #include <QPainter>
 #include <memory>
 
+#include "core/cycle/DibujoDiagramas.h"
 #include "core/services/Superficie.h"
 #include "core/state/Estado.h"
 
 namespace vanta {
-
-// The grounds of the surfaces: white for the charts, p-V and T-V; light grey
-// for T-s and h-s.
-inline constexpr int32_t kFondoBlanco = RGB(255, 255, 255);
-inline constexpr int32_t kFondoGris = RGB(245, 245, 245);
 
 // A colour of the program (red in the low byte) as Qt's.
 QColor ColorQt(int32_t color);
