@@ -1,6 +1,8 @@
 #include "core/cycle/Transformaciones.h"
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -129,6 +131,53 @@ bool PasoPolitropico(Estado& e, Mensajes& msj, double V, double& acumulado) {
     return true;
 }
 
+// ---- Walks that feed the drawing -------------------------------------------------
+
+// Where nothing is drawn, the steps of a walk in temperature whose evaluation
+// leaves something in the state: the first (a failure that no temperature
+// causes shows there and stops the walk), the last one in each range of the
+// polynomials before the limit of temperature (the values of that range's
+// species stay in the state; the last of all leaves the mixture's), and the
+// first beyond the limit, whose message names its temperature and stops the
+// walk. The other steps only feed the drawing.
+std::vector<size_t> PasosQueCuentan(const std::vector<double>& temperaturas) {
+    std::vector<size_t> pasos;
+    if (temperaturas.empty()) return pasos;
+    pasos.push_back(0);
+    size_t hasta = temperaturas.size();
+    for (size_t i = 0; i < temperaturas.size(); ++i)
+        if (temperaturas[i] > kTemperaturaLimite) {
+            hasta = i;
+            break;
+        }
+    std::optional<size_t> baja, alta;
+    for (size_t i = 0; i < hasta; ++i) (RangoBajo(temperaturas[i]) ? baja : alta) = i;
+    for (std::optional<size_t> i :
+         {baja, alta, hasta < temperaturas.size() ? std::optional(hasta) : std::nullopt})
+        if (i && *i > 0) pasos.push_back(*i);
+    std::sort(pasos.begin(), pasos.end());
+    pasos.erase(std::unique(pasos.begin(), pasos.end()), pasos.end());
+    return pasos;
+}
+
+// Runs a walk's steps at the temperatures given, as the walk's loop does (it
+// stops at the first step that fails), all of them when the walk is drawn
+// and only those that count when it is not.
+template <class Paso>
+void Recorrer(Estado& e, const std::vector<double>& temperaturas, bool dibuja, Paso&& paso) {
+    auto dar = [&](size_t i) {
+        e.Temperatura = temperaturas[i];
+        paso();
+        return !e.ErrorCalculo;
+    };
+    if (dibuja) {
+        for (size_t i = 0; i < temperaturas.size() && dar(i);) ++i;
+        return;
+    }
+    for (size_t i : PasosQueCuentan(temperaturas))
+        if (!dar(i)) return;
+}
+
 // ---- Heat at constant volume ----------------------------------------------------
 
 void TrazarVolumenConstante(Estado& e, Mensajes& msj, Diagramas& g, Dibujo dibujar) {
@@ -139,16 +188,18 @@ void TrazarVolumenConstante(Estado& e, Mensajes& msj, Diagramas& g, Dibujo dibuj
         FalloAritmetico(e, msj, kCausaFraccionQuemada);
         return;
     }
+    const bool dibuja = dibujar == Dibujo::Dibujar && g.Dibujan();
     auto paso = [&] {
         e.Presion = e.Temperatura * e.PresionInicial / e.TemperaturaInicial;
         e.FraccionQuemada = (e.Presion - e.MolesHumos * e.PresionMolFresco) / denominador;
         PropiedadesAireHumosFraccion(e, msj, e.FraccionQuemada);
-        if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
+        if (dibuja) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
     };
-    while (e.TemperaturaIsocora - 2 > e.Temperatura && !e.ErrorCalculo) {
-        e.Temperatura += 1;
-        paso();
-    }
+    // One kelvin a step up to two short of the end.
+    std::vector<double> temperaturas;
+    for (double t = e.Temperatura; !e.ErrorCalculo && e.TemperaturaIsocora - 2 > t;)
+        temperaturas.push_back(t += 1);
+    Recorrer(e, temperaturas, dibuja, paso);
     if (e.Temperatura >= e.TemperaturaIsocora) return;
     // The walk has no test of the flag: once an evaluation has tripped the
     // limit, the rest of it evaluates nothing (and is never drawn: the flag
@@ -344,15 +395,18 @@ void TrazarPresionConstante(Estado& e, Mensajes& msj, Diagramas& g, Dibujo dibuj
         return e.FraccionQuemada +
                (1 - e.FraccionQuemada) * (e.Temperatura - e.T3) / (e.TemperaturaFinal - e.T3);
     };
-    while (e.TemperaturaFinal - 1 > e.Temperatura && !e.ErrorCalculo) {
-        e.Temperatura += 1;
+    const bool dibuja = dibujar == Dibujo::Dibujar && g.Dibujan();
+    std::vector<double> temperaturas;
+    for (double t = e.Temperatura; !e.ErrorCalculo && e.TemperaturaFinal - 1 > t;)
+        temperaturas.push_back(t += 1);
+    Recorrer(e, temperaturas, dibuja, [&] {
         PropiedadesAireHumosFraccion(e, msj, fraccion());
-        if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
-    }
+        if (dibuja) LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
+    });
     if (e.Temperatura < e.TemperaturaFinal && !e.ErrorCalculo) {
         e.Temperatura = e.TemperaturaFinal;
         PropiedadesAireHumosFraccion(e, msj, fraccion());
-        if (dibujar == Dibujo::Dibujar) LineaEntropia(g, e.SHumos, e.Temperatura, e.hHumos);
+        if (dibuja) LineaEntropia(g, e.SHumos, e.Temperatura, e.hHumos);
     }
 }
 
@@ -487,12 +541,14 @@ void TrazarEscape(Estado& e, Mensajes& msj, Diagramas& g) {
     FinalAInicial(e);
     LineaVolumen(g, e.V1, e.T1, e.p1);
     e.Temperatura = e.T5;
-    while (e.Temperatura > e.T1 && !e.ErrorCalculo) {
-        e.Temperatura -= 2;
+    // Two kelvin a step down to state 1.
+    std::vector<double> temperaturas;
+    for (double t = e.T5; !e.ErrorCalculo && t > e.T1;) temperaturas.push_back(t -= 2);
+    Recorrer(e, temperaturas, g.Dibujan(), [&] {
         e.Presion = e.p1 * e.Temperatura / e.T1;
         PropiedadesAireHumosLineal(e, msj, e.T5, e.T1, e.Temperatura);
         LineaEntropia(g, e.SMezcla, e.Temperatura, e.hMezcla);
-    }
+    });
 }
 
 }  // namespace vanta

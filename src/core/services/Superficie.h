@@ -52,6 +52,9 @@ public:
     void SetCurrentX(float x) { actualX_ = x; }
     void SetCurrentY(float y) { actualY_ = y; }
 
+    // Whether its points and lines go anywhere.
+    bool Dibuja() const { return dibuja_; }
+
     // Clears the picture and puts the current point at the top left.
     void Cls();
     // Wipes the transient layer and shows the persistent picture again.
@@ -144,6 +147,9 @@ struct Diagramas {
     Superficie& pctTV;
     Superficie& pctTS;
     Superficie& pctHS;
+
+    // Whether a line drawn goes anywhere.
+    bool Dibujan() const { return pctPV.Dibuja() || pctTV.Dibuja() || pctTS.Dibuja() || pctHS.Dibuja(); }
 };
 
 // Four surfaces that draw nothing, for a headless calculation.
