@@ -19,6 +19,7 @@
 #include "app/LineaEstudio.h"
 #include "app/LineaTablas.h"
 #include "app/LineaValidacion.h"
+#include "core/files/EscribirArchivos.h"
 #include "core/services/Numeros.h"
 #include "gui/comparison/Figuras.h"
 #include "gui/database/CarpetaDatos.h"
@@ -81,27 +82,35 @@ int Calcular(const std::vector<std::string>& argumentos) {
     if (salida != cli::kSalidaBien) return salida;
     const std::string tipo = TextoListaCombustible(o);
     const std::array<QImage, 7> imagenes = cajas.Imagenes();
-    if (!o.html.empty()) {
-        if (const auto fallo = EscribirPaginaEnCarpeta(QString::fromStdString(o.html), e, tipo, imagenes)) {
-            std::cerr << "vanta calcular: no se ha podido escribir la página en " << o.html << ": " << *fallo
-                      << '\n';
-            return cli::kSalidaFallo;
-        }
-    }
-    if (!o.guardar.empty()) {
-        if (!GuardarRegistro(e, o.guardar, tipo, informe, imagenes, dlg, QString::fromStdString(o.baseDatos)))
-            return cli::kSalidaFallo;
-    }
-    if (!o.figuras.empty()) {
-        const std::string error = EscribirFiguras(
-            CalcularComparado(tipo, o), QString::fromStdString(o.figuras),
-            *FormatoDe(QString::fromStdString(o.formato)), {o.ancho, o.alto}, UnidadPresion::Pa);
-        if (!error.empty()) {
-            std::cerr << "vanta calcular: " << error << '\n';
-            return cli::kSalidaFallo;
-        }
-    }
-    return cli::kSalidaBien;
+    // The folders are checked and the store opened before anything is
+    // written, and the record goes in last: a failure leaves no record, so
+    // that the exit status says whether one was kept.
+    const auto bien = [](const char* que, const std::string& carpeta,
+                         const std::optional<std::string>& causa) {
+        if (causa)
+            std::cerr << "vanta calcular: no se ha podido escribir " << que << " en " << carpeta << ": "
+                      << *causa << '\n';
+        return !causa;
+    };
+    constexpr const char* kPagina = "la página";
+    constexpr const char* kFiguras = "las figuras";
+    if ((!o.html.empty() && !bien(kPagina, o.html, ComprobarCarpeta(o.html))) ||
+        (!o.figuras.empty() && !bien(kFiguras, o.figuras, ComprobarCarpeta(o.figuras))))
+        return cli::kSalidaFallo;
+    const auto escribir = [&] {
+        return (o.html.empty() ||
+                bien(kPagina, o.html,
+                     EscribirPaginaEnCarpeta(QString::fromStdString(o.html), e, tipo, imagenes))) &&
+               (o.figuras.empty() ||
+                bien(kFiguras, o.figuras,
+                     EscribirFiguras(CalcularComparado(tipo, o), QString::fromStdString(o.figuras),
+                                     *FormatoDe(QString::fromStdString(o.formato)), {o.ancho, o.alto},
+                                     UnidadPresion::Pa)));
+    };
+    const bool hecho = o.guardar.empty() ? escribir()
+                                         : GuardarRegistro(e, o.guardar, tipo, informe, imagenes, dlg,
+                                                           QString::fromStdString(o.baseDatos), escribir);
+    return hecho ? cli::kSalidaBien : cli::kSalidaFallo;
 }
 
 // A parametric study headless, with its progress on the terminal.

@@ -59,7 +59,7 @@ bd::LecturaDireccion ResolverDireccion(const QString& texto) {
 
 bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view tipoCombustible,
                      std::string_view informe, const ImagenesPrincipal& imagenes, Dialogos& dlg,
-                     const QString& baseDatos) {
+                     const QString& baseDatos, const std::function<bool()>& antesDeGuardar) {
     const bd::LecturaDireccion direccion = ResolverDireccion(baseDatos);
     if (!direccion.direccion) {
         dlg.MsgBox(direccion.error);
@@ -67,9 +67,14 @@ bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view 
     }
     AlmacenResultados almacen(*direccion.direccion);
     almacen.FijarEspera(kEsperaLineaOrdenes);
-    std::optional<qint64> id;
-    if (!almacen.Abrir() || !(id = almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe),
-                                                    ImagenesDeColumnas(imagenes)))) {
+    if (!almacen.Abrir()) {
+        dlg.MsgBox(almacen.Error());
+        return false;
+    }
+    if (antesDeGuardar && !antesDeGuardar()) return false;
+    const std::optional<qint64> id =
+        almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), ImagenesDeColumnas(imagenes));
+    if (!id) {
         dlg.MsgBox(almacen.Error());
         return false;
     }
