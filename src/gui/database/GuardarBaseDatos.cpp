@@ -42,9 +42,9 @@ bool GuardarBaseDatos(const Estado& e, Dialogos& dlg, std::string_view tipoCombu
         // cost the record its picture.
         if (const QImage copia = portapapeles->image(); !copia.isNull()) imagen = copia;
     }
-    if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas))
+    if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas,
+                                   EntradasDe(e, tipoCombustible)))
         return false;
-    GuardarEntradas(*navegador.Almacen(), navegador.IdActual(), e, tipoCombustible);
     navegador.MostrarModal();
     return true;
 }
@@ -72,13 +72,11 @@ bool GuardarRegistro(const Estado& e, std::string_view nombre, std::string_view 
         return false;
     }
     if (antesDeGuardar && !antesDeGuardar()) return false;
-    const std::optional<qint64> id =
-        almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), ImagenesDeColumnas(imagenes));
-    if (!id) {
+    if (!almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe),
+                          ImagenesDeColumnas(imagenes), EntradasDe(e, tipoCombustible))) {
         dlg.MsgBox(almacen.Error());
         return false;
     }
-    GuardarEntradas(almacen, *id, e, tipoCombustible);
     return true;
 }
 
