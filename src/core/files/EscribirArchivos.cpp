@@ -183,12 +183,11 @@ public:
     // puts right what a killed writer left. Why not, or nothing.
     std::optional<std::string> Abrir(fs::path ruta, bool crear) {
         if (ruta.empty()) ruta = ".";
-        std::error_code e;
-        if (crear && !fs::is_directory(ruta, e)) {
-            if (fs::exists(ruta, e)) return Causa(std::make_error_code(std::errc::not_a_directory), ruta);
-            fs::create_directories(ruta, e);
-            if (e) return Causa(e, ruta);
-        }
+        // Another writer may make it meanwhile: what counts is a folder
+        // there afterwards.
+        std::error_code e, otro;
+        if (crear && !fs::create_directories(ruta, e) && !fs::is_directory(ruta, otro))
+            return Causa(fs::exists(ruta, otro) ? std::make_error_code(std::errc::not_a_directory) : e, ruta);
         // Its own links are followed, as the user named it; nothing is
         // reached through it by name again.
         fd_ = Descriptor(open(ruta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
