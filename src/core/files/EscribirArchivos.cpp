@@ -105,9 +105,9 @@ std::error_code EscribirNuevo(int carpeta, std::string_view bytes, std::string& 
     if (modo >= 0) (void)fchmod(archivo.fd(), static_cast<mode_t>(modo));
     while (!error && !bytes.empty()) {
         const ssize_t n = write(archivo.fd(), bytes.data(), bytes.size());
-        if (n >= 0)
+        if (n > 0)
             bytes.remove_prefix(static_cast<size_t>(n));
-        else if (errno != EINTR)
+        else if (n == 0 || errno != EINTR)
             error = UltimoError();
     }
     if (!error && fsync(archivo.fd()) != 0) error = UltimoError();

@@ -156,6 +156,12 @@ TEST(Almacen, LaTablaDelServidorNumeraSusRegistrosComoSQLite) {
     EXPECT_EQ(tabla.find("BLOB"), std::string::npos);
     EXPECT_EQ(bd::SQLCrearTabla(Motor::SQLite).find("rowid"), std::string::npos);
     EXPECT_EQ(bd::SQLInsertar(Motor::PostgreSQL), bd::SQLInsertar(Motor::SQLite) + " RETURNING rowid");
+    // A server's inputs ask no right to update; a file may give an id again.
+    EXPECT_EQ(bd::SQLGuardarEntradas(Motor::PostgreSQL),
+              "INSERT INTO EntradasCalculo (Registro, Entradas) VALUES (?, ?)");
+    EXPECT_EQ(bd::SQLGuardarEntradas(Motor::SQLite)
+                  .find(bd::SQLGuardarEntradas(Motor::PostgreSQL) + " ON CONFLICT"),
+              0u);
 }
 
 TEST(Almacen, LoQueLePasaAlArchivoSeDiceComoEs) {

@@ -103,6 +103,7 @@ TEST_F(EscribirArchivos, UnEnlaceSeReemplazaSinSeguirloYNadaSeEscribeFuera) {
     EXPECT_EQ(ComprobarCarpeta(pagina / "Index.htm"),
               (pagina / "Index.htm").string() + " es un archivo, no una carpeta");
     EXPECT_EQ(ComprobarCarpeta(raiz / "nueva"), std::nullopt);
+    EXPECT_TRUE(fs::is_empty(raiz / "nueva"));
 
     // A journal planted by someone else moves nothing into or out of the folder.
     std::ofstream(pagina / ".vanta-diario") << std::string("../privado\0\0BMPPV.BMP\0../privado\0", 33);
@@ -136,6 +137,11 @@ TEST_F(EscribirArchivos, UnaMuerteOUnFalloEnCadaLlamadaDejaElConjuntoViejoOElNue
         }
     }
     EXPECT_GT(muertes, 20);
+
+    // A file system without hard links: the earlier files are moved aside.
+    const std::string sinEnlaces = "strace -f -o /dev/null -e trace=linkat -e inject=linkat:error=EPERM";
+    ASSERT_EQ(Escritor(sinEnlaces, pagina, "movida").estado, 0);
+    EXPECT_EQ(Contenido(pagina), Esperado(actual = "movida"));
 
     // A write or a rename that fails: the reason, and the earlier set whole
     // at once, with nothing left behind.
