@@ -105,8 +105,10 @@ TEST_F(EscribirArchivos, UnEnlaceSeReemplazaSinSeguirloYNadaSeEscribeFuera) {
     EXPECT_EQ(ComprobarCarpeta(raiz / "nueva"), std::nullopt);
     EXPECT_TRUE(fs::is_empty(raiz / "nueva"));
 
-    // A journal planted by someone else moves nothing into or out of the folder.
-    std::ofstream(pagina / ".vanta-diario") << std::string("../privado\0\0BMPPV.BMP\0../privado\0", 33);
+    // A journal planted by someone else, a name short and all, moves nothing
+    // into or out of the folder.
+    std::ofstream(pagina / ".vanta-diario")
+        << std::string("../privado\0\0BMPPV.BMP\0../privado\0Index.htm\0", 43);
     EXPECT_EQ(RecuperarCarpeta(pagina), std::nullopt);
     EXPECT_EQ(LeerArchivoEntero(raiz / "privado"), "mío");
     EXPECT_EQ(Contenido(pagina), "Index.htm nueva|BMPAIRE.BMP nueva|BMPPV.BMP nueva|4");
