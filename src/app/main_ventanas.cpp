@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "app/LineaComandos.h"
+#include "core/files/EscribirArchivos.h"
 #include "core/services/Numeros.h"
 #include "gui/comparison/Figuras.h"
 #include "gui/database/CarpetaDatos.h"
@@ -65,29 +66,37 @@ int Calcular(const std::vector<std::string>& argumentos) {
     const int salida = cli::EscribirCalculo(r, o, std::cout, std::cerr);
     if (salida != cli::kSalidaBien) return salida;
     const std::array<QImage, 7> imagenes = cajas.Imagenes();
-    if (!o.html.empty()) {
-        if (const auto fallo = EscribirPaginaEnCarpeta(QString::fromStdString(o.html), r, imagenes)) {
-            std::cerr << "vanta calcular: no se ha podido escribir la página en " << o.html << ": " << *fallo
-                      << '\n';
-            return cli::kSalidaFallo;
-        }
-    }
-    if (!o.guardar.empty()) {
-        DialogosConsola dlg("vanta calcular: ");
-        if (!GuardarRegistro(r, o.guardar, imagenes, dlg, QString::fromStdString(o.baseDatos)))
-            return cli::kSalidaFallo;
-    }
-    if (!o.figuras.empty()) {
-        const std::string error =
-            EscribirFiguras(CalcularComparado(r.tipoCombustible, OpcionesDeEntradas(r.entradas)),
-                            QString::fromStdString(o.figuras), *FormatoDe(QString::fromStdString(o.formato)),
-                            {o.ancho, o.alto}, UnidadPresion::Pa);
-        if (!error.empty()) {
-            std::cerr << "vanta calcular: " << error << '\n';
-            return cli::kSalidaFallo;
-        }
-    }
-    return cli::kSalidaBien;
+    // The folders are checked and the store opened before anything is
+    // written, and the record goes in last: a failure leaves no record, so
+    // that the exit status says whether one was kept.
+    const auto bien = [](const char* que, const std::string& carpeta,
+                         const std::optional<std::string>& causa) {
+        if (causa)
+            std::cerr << "vanta calcular: no se ha podido escribir " << que << " en " << carpeta << ": "
+                      << *causa << '\n';
+        return !causa;
+    };
+    constexpr const char* kPagina = "la página";
+    constexpr const char* kFiguras = "las figuras";
+    if ((!o.html.empty() && !bien(kPagina, o.html, ComprobarCarpeta(o.html))) ||
+        (!o.figuras.empty() && !bien(kFiguras, o.figuras, ComprobarCarpeta(o.figuras))))
+        return cli::kSalidaFallo;
+    const auto escribir = [&] {
+        return (o.html.empty() ||
+                bien(kPagina, o.html,
+                     EscribirPaginaEnCarpeta(QString::fromStdString(o.html), r, imagenes))) &&
+               (o.figuras.empty() ||
+                bien(kFiguras, o.figuras,
+                     EscribirFiguras(CalcularComparado(r.tipoCombustible, OpcionesDeEntradas(r.entradas)),
+                                     QString::fromStdString(o.figuras),
+                                     *FormatoDe(QString::fromStdString(o.formato)), {o.ancho, o.alto},
+                                     UnidadPresion::Pa)));
+    };
+    DialogosConsola dlg("vanta calcular: ");
+    const bool hecho = o.guardar.empty() ? escribir()
+                                         : GuardarRegistro(r, o.guardar, imagenes, dlg,
+                                                           QString::fromStdString(o.baseDatos), escribir);
+    return hecho ? cli::kSalidaBien : cli::kSalidaFallo;
 }
 
 // The decimal separator of the system's regional settings: a Spanish system

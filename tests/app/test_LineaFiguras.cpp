@@ -76,3 +76,29 @@ TEST(LineaFiguras, EscribeLosCuatroDiagramasYLasTresGraficas) {
     EXPECT_FALSE(fs::exists(carpeta));
     fs::remove_all(carpeta);
 }
+
+TEST(LineaFiguras, LasSalidasSeEscribenSoloDondeSePidenYSinRegistroSiAlgunaFalla) {
+    const fs::path raiz = fs::path(::testing::TempDir()) / ("vanta_salidas_" + std::to_string(getpid()));
+    fs::remove_all(raiz);
+    fs::create_directories(raiz / "fig");
+    fs::create_directories(raiz / "html");
+    std::ofstream(raiz / "privado") << "mío";
+    // Links planted in the folders: replaced, never written through.
+    fs::create_symlink(raiz / "privado", raiz / "fig" / "diagrama-pv.png");
+    fs::create_symlink(raiz / "privado", raiz / "html" / "Index.htm");
+    fs::create_symlink(raiz / "nada", raiz / "html" / "BMPAIRE.BMP");
+    ASSERT_EQ(
+        Ejecutar("calcular --figuras " + (raiz / "fig").string() + " --html " + (raiz / "html").string()), 0);
+    EXPECT_EQ(Leer(raiz / "privado"), "mío");
+    EXPECT_FALSE(fs::exists(fs::symlink_status(raiz / "nada")));
+    EXPECT_FALSE(fs::is_symlink(raiz / "fig" / "diagrama-pv.png"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(raiz / "fig"), fs::directory_iterator()), 7);
+    EXPECT_EQ(std::distance(fs::directory_iterator(raiz / "html"), fs::directory_iterator()), 8);
+    // A folder that cannot be written is found before the record is saved.
+    for (const char* salida : {"--figuras privado", "--html privado"})
+        EXPECT_EQ(Orden("cd " + raiz.string() + " && " + VANTA_BINARIO + " calcular --guardar uno " + salida +
+                        " >/dev/null 2>&1"),
+                  1);
+    EXPECT_FALSE(fs::exists(raiz / "BD.sqlite"));
+    fs::remove_all(raiz);
+}

@@ -68,6 +68,13 @@ bool ValorLimpio(std::string_view v) {
     return !v.empty() && v.find_first_of(" \t\r\n;'\\") == std::string_view::npos;
 }
 
+constexpr std::string_view kEsperasDireccion[] = {"connect_timeout", "statement_timeout", "lock_timeout"};
+
+bool EsEspera(std::string_view clave) {
+    return std::find(std::begin(kEsperasDireccion), std::end(kEsperasDireccion), clave) !=
+           std::end(kEsperasDireccion);
+}
+
 }  // namespace
 
 LecturaDireccion LeerDireccion(std::string_view texto) {
@@ -163,8 +170,8 @@ LecturaDireccion LeerDireccion(std::string_view texto) {
                 std::find(std::begin(kModosSSL), std::end(kModosSSL), *valor) == std::end(kModosSSL))
                 return Error("sslmode no válido en la dirección: " + *valor +
                              " (disable, allow, prefer, require, verify-ca o verify-full)");
-            if (*clave == "connect_timeout" && !SoloCifras(*valor))
-                return Error("connect_timeout no válido en la dirección: " + *valor + " (segundos)");
+            if (EsEspera(*clave) && (!SoloCifras(*valor) || valor->size() > 6))
+                return Error(*clave + " no válido en la dirección: " + *valor + " (segundos)");
             if (!ValorLimpio(*valor))
                 return Error("valor no admitido en la dirección: " + *clave + "=" + *valor);
             d.parametros.emplace_back(*clave, *valor);
@@ -173,18 +180,40 @@ LecturaDireccion LeerDireccion(std::string_view texto) {
     return {d, {}};
 }
 
+Esperas EsperasDe(const Direccion& d) {
+    Esperas e;
+    for (const auto& [clave, valor] : d.parametros) {
+        int* espera = clave == "connect_timeout"     ? &e.conexion
+                      : clave == "statement_timeout" ? &e.orden
+                      : clave == "lock_timeout"      ? &e.bloqueo
+                                                     : nullptr;
+        if (espera && SoloCifras(valor) && valor.size() <= 6 && std::stoi(valor) > 0)
+            *espera = std::stoi(valor);
+    }
+    return e;
+}
+
 std::string OpcionesConexion(const Direccion& d) {
     std::string opciones;
-    bool espera = false, nombre = false;
+    bool nombre = false;
     for (const auto& [clave, valor] : d.parametros) {
-        opciones += (opciones.empty() ? "" : ";") + clave + "=" + valor;
-        espera = espera || clave == "connect_timeout";
+        if (EsEspera(clave)) continue;
+        opciones += clave + "=" + valor + ";";
         nombre = nombre || clave == "application_name";
     }
-    if (!espera)
-        opciones +=
-            (opciones.empty() ? "" : ";") + std::string("connect_timeout=") + std::string(kEsperaConexion);
-    if (!nombre) opciones += ";application_name=vanta";
+    const Esperas e = EsperasDe(d);
+    const auto n = [](int segundos) { return std::to_string(segundos); };
+    // A connection that stops answering is noticed within a few seconds of
+    // silence, and data the server does not take within the connection's
+    // limit end it. The server cancels a statement or a wait for a lock past
+    // its limit, and ends a session left inside a transaction as long as
+    // the program waits for an answer (its locks then go with it).
+    opciones += "connect_timeout=" + n(e.conexion) +
+                ";keepalives=1;keepalives_idle=5;keepalives_interval=2;keepalives_count=3;tcp_user_timeout=" +
+                n(e.conexion * 1000) + (nombre ? "" : ";application_name=vanta") +
+                ";options='-c statement_timeout=" + n(e.orden) + "s -c lock_timeout=" + n(e.bloqueo) +
+                "s -c idle_in_transaction_session_timeout=" + n(e.Respuesta()) +
+                "s -c client_min_messages=error'";
     return opciones;
 }
 

@@ -42,18 +42,32 @@ struct LecturaDireccion {
 // A file path, or an address that starts with postgresql:// (or postgres://).
 LecturaDireccion LeerDireccion(std::string_view texto);
 
+// The limits, in seconds, on the waits of a session on a server: for the
+// connection, for one statement, and for a lock held by another session (as
+// while another program makes the table). An address may give each
+// (connect_timeout, statement_timeout, lock_timeout); 0 is the default, never
+// an endless wait.
+struct Esperas {
+    int conexion = 10, orden = 30, bloqueo = 5;
+    // How long the program waits for the server's answer before it takes the
+    // connection for lost: the server's own limit on the statement, and the
+    // connection's for the network.
+    int Respuesta() const { return orden + conexion; }
+};
+Esperas EsperasDe(const Direccion& d);
+
 // The parameters of a PostgreSQL address as Qt's driver takes them,
-// "clave=valor;clave=valor", with a limit on the wait for the server and the
+// "clave=valor;clave=valor": the address's own, the limits on every wait,
+// keepalives that notice a connection gone dead, no server notices, and the
 // program's name for the server's list of sessions unless given.
 std::string OpcionesConexion(const Direccion& d);
 
-// The libpq parameters that an address may carry.
+// The parameters that an address may carry: libpq's, and the server's limits
+// on a statement and on a lock.
 inline constexpr std::string_view kParametrosAdmitidos[] = {
-    "host",    "port",   "user",   "dbname",          "sslmode",         "sslrootcert",
-    "sslcert", "sslkey", "sslcrl", "connect_timeout", "application_name"};
-
-// Seconds that a connection waits for the server unless the address says.
-inline constexpr std::string_view kEsperaConexion = "10";
+    "host",        "port",   "user",   "dbname",          "sslmode",          "sslrootcert",
+    "sslcert",     "sslkey", "sslcrl", "connect_timeout", "application_name", "statement_timeout",
+    "lock_timeout"};
 
 // ---- Texts ---------------------------------------------------------------------
 

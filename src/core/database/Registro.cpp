@@ -126,6 +126,20 @@ std::string SQLInsertar(Motor motor) {
            (motor == Motor::PostgreSQL ? " RETURNING rowid" : "");
 }
 
+std::string SQLCrearEntradas() {
+    return Unir({"CREATE TABLE ", kTablaEntradas, " (Registro BIGINT PRIMARY KEY, Entradas TEXT NOT NULL)"});
+}
+
+std::string SQLGuardarEntradas(Motor motor) {
+    return Unir(
+        {"INSERT INTO ", kTablaEntradas, " (Registro, Entradas) VALUES (?, ?)",
+         motor == Motor::SQLite ? " ON CONFLICT (Registro) DO UPDATE SET Entradas = excluded.Entradas" : ""});
+}
+
+std::string SQLLeerEntradas() {
+    return Unir({"SELECT Entradas FROM ", kTablaEntradas, " WHERE Registro = ?"});
+}
+
 namespace {
 
 template <class Columnas>
@@ -216,8 +230,21 @@ bool ClaveRechazada(std::string_view texto) {
            Contiene(texto, "autenticación");
 }
 
-std::string CausaPostgreSQL(std::string_view estado, std::string_view texto, std::string_view usuario) {
+std::string CausaSinRespuesta(const Esperas& esperas) {
+    return Unir({"el servidor no ha contestado en ", std::to_string(esperas.Respuesta()),
+                 " s y se ha cortado la conexión (la red o el servidor se han detenido); vuelva a "
+                 "intentarlo más tarde"});
+}
+
+std::string CausaPostgreSQL(std::string_view estado, std::string_view texto, std::string_view usuario,
+                            const Esperas& esperas) {
     if (EsConexionPerdida(estado, texto)) return std::string(kCausaConexionPerdida);
+    if (estado == "55P03")
+        return Unir({"otra sesión del servidor lo tiene bloqueado desde hace más de ",
+                     std::to_string(esperas.bloqueo), " s (lock_timeout); vuelva a intentarlo más tarde"});
+    if (estado == "57014" && Contiene(texto, "statement timeout"))
+        return Unir({"el servidor ha cancelado la orden, que pasaba de ", std::to_string(esperas.orden),
+                     " s (statement_timeout)"});
     if (estado == "42501") {
         const std::string quien = usuario.empty() ? "el usuario" : Unir({"el usuario ", usuario});
         return Unir({quien,

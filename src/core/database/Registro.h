@@ -163,6 +163,19 @@ std::string SQLInsertar(Motor motor = Motor::SQLite);
 std::string SQLLeerTextos();
 std::string SQLLeerImagenes();
 
+// The inputs of each record, in a table of their own beside the results
+// (its name unquoted, as the first stores made it): the record's id and the
+// inputs as lines "name=value". Made with the table of results, or on opening
+// a store made before it.
+inline constexpr std::string_view kTablaEntradas = "EntradasCalculo";
+std::string SQLCrearEntradas();
+// The inputs of a record, saved in the record's own transaction (two
+// parameters: the id, the inputs). A SQLite file may give a deleted record's
+// id again, whose inputs are then replaced; a server never does, and its
+// plain INSERT asks no more right than that of adding records.
+std::string SQLGuardarEntradas(Motor motor);
+std::string SQLLeerEntradas();
+
 // ---- Texts ---------------------------------------------------------------------
 
 inline constexpr std::string_view kPromptGuardar = "Guardar en un registro de la base de datos como: ";
@@ -179,8 +192,12 @@ bool EsDano(int codigo);
 
 // What went wrong on a PostgreSQL server, from the SQLSTATE of the error (empty
 // when the connection itself failed) and the server's or libpq's text.
-// usuario: the one of the address, to name it when it lacks a permission.
-std::string CausaPostgreSQL(std::string_view estado, std::string_view texto, std::string_view usuario);
+// usuario: the one of the address, to name it when it lacks a permission;
+// esperas: its limits, to say which one was passed.
+std::string CausaPostgreSQL(std::string_view estado, std::string_view texto, std::string_view usuario,
+                            const Esperas& esperas = {});
+// The server gave no answer within the program's wait, and the connection was cut.
+std::string CausaSinRespuesta(const Esperas& esperas);
 // Whether the failure cut the connection (the server stopped, restarted or
 // could not be reached): the next operation connects again.
 bool EsConexionPerdida(std::string_view estado, std::string_view texto);

@@ -2,10 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstdio>
 #include <fstream>
-#include <system_error>
 
 namespace vanta {
 
@@ -13,9 +10,6 @@ namespace {
 
 constexpr std::string_view kMarcaUtf8 = "\xEF\xBB\xBF";
 constexpr std::string_view kFinCRLF = "\r\n";
-constexpr std::string_view kSufijoTemporal = ".tmp";
-// The file a set replaces, kept aside until the whole set is in place.
-constexpr std::string_view kSufijoAnterior = ".anterior";
 
 // Code points of the bytes 0x80 to 0x9F in Windows-1252; the five it leaves
 // undefined keep their own number.
@@ -170,144 +164,6 @@ std::string TextoEnCaja(std::string_view bytes) {
 }
 
 // ---- Files ----------------------------------------------------------------------------
-
-std::filesystem::path RutaTemporal(const std::filesystem::path& ruta) {
-    std::filesystem::path temporal = ruta;
-    temporal.replace_filename("." + ruta.filename().string() + std::string(kSufijoTemporal));
-    return temporal;
-}
-
-bool EscribirArchivoEntero(const std::filesystem::path& ruta, std::string_view bytes) {
-    if (ruta.filename().empty()) return false;
-    const std::filesystem::path temporal = RutaTemporal(ruta);
-    std::error_code error;
-    {
-        std::ofstream archivo(temporal, std::ios::binary | std::ios::trunc);
-        if (archivo) {
-            archivo.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-            archivo.close();
-        }
-        if (!archivo) {
-            std::filesystem::remove(temporal, error);
-            return false;
-        }
-    }
-    std::filesystem::rename(temporal, ruta, error);
-    if (error) {
-        std::filesystem::remove(temporal, error);
-        return false;
-    }
-    return true;
-}
-
-namespace {
-
-// The disk, through the C library's files, whose failures say why in errno.
-class SistemaDisco : public SistemaArchivos {
-public:
-    std::error_code Escribir(const std::filesystem::path& ruta, std::string_view bytes) override {
-        errno = 0;
-        std::FILE* f = std::fopen(ruta.c_str(), "wb");
-        if (!f) return Error();
-        const bool escrito = std::fwrite(bytes.data(), 1, bytes.size(), f) == bytes.size();
-        const int errorEscritura = errno;
-        if (std::fclose(f) != 0 || !escrito)
-            return errorEscritura && !escrito ? std::error_code(errorEscritura, std::generic_category())
-                                              : Error();
-        return {};
-    }
-    std::error_code Renombrar(const std::filesystem::path& desde,
-                              const std::filesystem::path& hacia) override {
-        std::error_code error;
-        std::filesystem::rename(desde, hacia, error);
-        return error;
-    }
-    void Borrar(const std::filesystem::path& ruta) override {
-        std::error_code error;
-        std::filesystem::remove(ruta, error);
-    }
-    bool Existe(const std::filesystem::path& ruta) override {
-        std::error_code error;
-        return std::filesystem::exists(ruta, error);
-    }
-    std::error_code CrearCarpeta(const std::filesystem::path& carpeta) override {
-        std::error_code error;
-        if (std::filesystem::is_directory(carpeta, error)) return {};
-        if (std::filesystem::exists(carpeta, error)) return std::make_error_code(std::errc::not_a_directory);
-        std::filesystem::create_directories(carpeta, error);
-        return error;
-    }
-
-private:
-    static std::error_code Error() { return std::error_code(errno ? errno : EIO, std::generic_category()); }
-};
-
-// Why, in the user's words: the cause of the error on that path.
-std::string Causa(const std::error_code& error, const std::filesystem::path& ruta) {
-    const std::string carpeta = ruta.parent_path().empty() ? "." : ruta.parent_path().string();
-    if (error == std::errc::no_space_on_device) return "el disco está lleno";
-    if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
-        error == std::errc::read_only_file_system)
-        return "no tiene permiso de escritura en " + carpeta;
-    if (error == std::errc::not_a_directory) return ruta.string() + " es un archivo, no una carpeta";
-    if (error == std::errc::is_a_directory) return ruta.string() + " es una carpeta, no un archivo";
-    if (error == std::errc::no_such_file_or_directory) return "la carpeta " + carpeta + " no existe";
-    return "no se ha podido escribir " + ruta.string();
-}
-
-// The hidden name beside a file under which the file it replaces waits.
-std::filesystem::path RutaAnterior(const std::filesystem::path& ruta) {
-    std::filesystem::path anterior = ruta;
-    anterior.replace_filename("." + ruta.filename().string() + std::string(kSufijoAnterior));
-    return anterior;
-}
-
-}  // namespace
-
-SistemaArchivos& Disco() {
-    static SistemaDisco disco;
-    return disco;
-}
-
-std::optional<std::string> EscribirConjunto(const std::vector<ArchivoDeConjunto>& archivos,
-                                            SistemaArchivos& s) {
-    if (archivos.empty()) return std::nullopt;
-    const std::filesystem::path carpeta = archivos.front().ruta.parent_path();
-    if (!carpeta.empty())
-        if (std::error_code error = s.CrearCarpeta(carpeta)) return Causa(error, carpeta);
-    // Every file under its temporary name.
-    for (size_t i = 0; i < archivos.size(); ++i) {
-        if (std::error_code error = s.Escribir(RutaTemporal(archivos[i].ruta), archivos[i].bytes)) {
-            for (size_t j = 0; j <= i; ++j) s.Borrar(RutaTemporal(archivos[j].ruta));
-            return Causa(error, archivos[i].ruta);
-        }
-    }
-    // The files they replace set aside, then the new ones in their places;
-    // on a failure each step is undone.
-    std::vector<bool> apartado(archivos.size(), false);
-    size_t puestos = 0;
-    std::optional<std::string> fallo;
-    for (size_t i = 0; i < archivos.size() && !fallo; ++i) {
-        if (!s.Existe(archivos[i].ruta)) continue;
-        if (std::error_code error = s.Renombrar(archivos[i].ruta, RutaAnterior(archivos[i].ruta)))
-            fallo = Causa(error, archivos[i].ruta);
-        else
-            apartado[i] = true;
-    }
-    for (; puestos < archivos.size() && !fallo; ++puestos)
-        if (std::error_code error = s.Renombrar(RutaTemporal(archivos[puestos].ruta), archivos[puestos].ruta))
-            fallo = Causa(error, archivos[puestos].ruta);
-    for (size_t i = 0; i < archivos.size(); ++i) {
-        if (fallo) {
-            if (i < puestos) s.Borrar(archivos[i].ruta);
-            s.Borrar(RutaTemporal(archivos[i].ruta));
-            if (apartado[i]) s.Renombrar(RutaAnterior(archivos[i].ruta), archivos[i].ruta);
-        } else if (apartado[i]) {
-            s.Borrar(RutaAnterior(archivos[i].ruta));
-        }
-    }
-    return fallo;
-}
 
 std::optional<std::string> LeerArchivoEntero(const std::filesystem::path& ruta) {
     std::error_code error;

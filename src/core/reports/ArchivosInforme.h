@@ -1,14 +1,12 @@
 // Reports as files: the file dialogs of the report windows (their filters and
 // default names), the bytes a saved page and a saved text report are written
-// as, the reading back of a saved text, and a whole-file write that never
-// leaves a half-written file under the chosen name.
+// as, and the reading back of a saved text.
 #pragma once
 
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 namespace vanta {
@@ -97,50 +95,7 @@ std::string Windows1252AUtf8(std::string_view bytes);
 
 // ---- Files ----------------------------------------------------------------------------
 
-// Writes the whole file: first to a hidden temporary name beside it, then
-// renamed over the name, so the name never shows a half-written file. False
-// when anything fails; the temporary file is then removed.
-bool EscribirArchivoEntero(const std::filesystem::path& ruta, std::string_view bytes);
-
-// The hidden temporary name beside a file that EscribirArchivoEntero writes
-// first.
-std::filesystem::path RutaTemporal(const std::filesystem::path& ruta);
-
 // The bytes of a file; nothing when it cannot be read.
 std::optional<std::string> LeerArchivoEntero(const std::filesystem::path& ruta);
-
-// ---- Sets of files, written whole or not at all ----------------------------------------
-
-// The operations on files that a set is written with: the disk, or in the
-// tests one that fails where it is told to.
-class SistemaArchivos {
-public:
-    virtual ~SistemaArchivos() = default;
-    virtual std::error_code Escribir(const std::filesystem::path& ruta, std::string_view bytes) = 0;
-    virtual std::error_code Renombrar(const std::filesystem::path& desde,
-                                      const std::filesystem::path& hacia) = 0;
-    virtual void Borrar(const std::filesystem::path& ruta) = 0;
-    virtual bool Existe(const std::filesystem::path& ruta) = 0;
-    virtual std::error_code CrearCarpeta(const std::filesystem::path& carpeta) = 0;
-};
-
-// The files of the disk.
-SistemaArchivos& Disco();
-
-struct ArchivoDeConjunto {
-    std::filesystem::path ruta;
-    std::string bytes;
-};
-
-// Writes the files of one folder (a page and its pictures) as one: each under
-// a hidden temporary name first, then, only when all are written, each
-// renamed over its name; the files they replace are kept aside until all are
-// in place, and put back if one cannot be. On a failure the folder holds the
-// earlier set as it was and no temporary file. Makes the folder when it is
-// missing. Returns why the set could not be written, in words for the user
-// ("el disco está lleno", "no tiene permiso de escritura en …", "… es un
-// archivo, no una carpeta"), or nothing.
-std::optional<std::string> EscribirConjunto(const std::vector<ArchivoDeConjunto>& archivos,
-                                            SistemaArchivos& sistema = Disco());
 
 }  // namespace vanta

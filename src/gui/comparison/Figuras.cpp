@@ -3,7 +3,6 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QPageLayout>
@@ -13,9 +12,11 @@
 #include <QSvgGenerator>
 #include <algorithm>
 
+#include "core/files/EscribirArchivos.h"
 #include "core/fluids/Graficas.h"
 #include "core/workflow/Flujo.h"
 #include "gui/comparison/SuperficiePintor.h"
+#include "gui/reports/DialogosInforme.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/services/SuperficieImagen.h"
 #include "gui/services/SuperficieQt.h"
@@ -59,6 +60,8 @@ Lienzo LienzoDe(const Figura& f, QSize pedido) {
 }
 
 const char* kNombresDiagramas[] = {"diagrama-pv", "diagrama-tv", "diagrama-ts", "diagrama-hs"};
+
+constexpr std::string_view kFiguraSinMemoria = "no hay memoria para dibujar las figuras de ese tamaño";
 
 }  // namespace
 
@@ -126,11 +129,20 @@ QByteArray SVGFigura(const Figura& f, QSize pedido) {
     return buffer.data();
 }
 
-bool GuardarPDF(const std::vector<Figura>& figuras, QSize pedido, const QString& ruta) {
-    QPdfWriter pdf(ruta);
+std::optional<QByteArray> ArchivoFiguras(const std::vector<Figura>& figuras, FormatoFigura formato,
+                                         QSize pedido) {
+    if (figuras.empty()) return std::nullopt;
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (formato == FormatoFigura::SVG) return SVGFigura(figuras.front(), pedido);
+    if (formato == FormatoFigura::PNG) {
+        if (!ImagenFigura(figuras.front(), pedido).save(&buffer, "PNG")) return std::nullopt;
+        return buffer.data();
+    }
+    QPdfWriter pdf(&buffer);
     pdf.setResolution(kPuntosPorPulgada);
     pdf.setCreator(QStringLiteral("Vanta"));
-    if (!figuras.empty()) pdf.setTitle(figuras.front().titulo);
+    pdf.setTitle(figuras.front().titulo);
     QPainter pintor;
     for (size_t i = 0; i < figuras.size(); ++i) {
         // Each page is the figure's size, with no margins.
@@ -138,29 +150,31 @@ bool GuardarPDF(const std::vector<Figura>& figuras, QSize pedido, const QString&
         const QPageSize pagina(QSizeF(t) * 72.0 / kPuntosPorPulgada, QPageSize::Point, QString(),
                                QPageSize::ExactMatch);
         pdf.setPageLayout(QPageLayout(pagina, QPageLayout::Portrait, QMarginsF()));
-        if (i == 0) {
-            if (!pintor.begin(&pdf)) return false;
-        } else if (!pdf.newPage()) {
-            return false;
-        }
+        if (i == 0 ? !pintor.begin(&pdf) : !pdf.newPage()) return std::nullopt;
         PintarFigura(pintor, figuras[i], pedido);
     }
-    return pintor.end() || figuras.empty();
+    if (!pintor.end()) return std::nullopt;
+    return buffer.data();
 }
 
-bool GuardarFigura(const Figura& f, FormatoFigura formato, QSize pedido, const QString& ruta) {
-    switch (formato) {
-        case FormatoFigura::PDF:
-            return GuardarPDF({f}, pedido, ruta);
-        case FormatoFigura::SVG: {
-            QFile archivo(ruta);
-            const QByteArray svg = SVGFigura(f, pedido);
-            return archivo.open(QIODevice::WriteOnly) && archivo.write(svg) == svg.size();
-        }
-        case FormatoFigura::PNG:
-            break;
+std::optional<std::string> GuardarArchivoFiguras(const std::vector<Figura>& figuras, FormatoFigura formato,
+                                                 QSize pedido, const QString& ruta) {
+    const std::optional<QByteArray> bytes = ArchivoFiguras(figuras, formato, pedido);
+    if (!bytes) return std::string(kFiguraSinMemoria);
+    return EscribirArchivo(RutaArchivo(ruta), std::string_view(bytes->constData(), bytes->size()));
+}
+
+std::optional<std::string> GuardarFiguras(const std::vector<Figura>& figuras, FormatoFigura formato,
+                                          QSize pedido, const QString& carpeta) {
+    std::vector<ArchivoDeConjunto> conjunto;
+    for (const Figura& f : figuras) {
+        const std::optional<QByteArray> bytes = ArchivoFiguras({f}, formato, pedido);
+        if (!bytes) return std::string(kFiguraSinMemoria);
+        conjunto.push_back(
+            {RutaArchivo(QDir(carpeta).filePath(f.nombre + QLatin1Char('.') + ExtensionFigura(formato))),
+             bytes->toStdString()});
     }
-    return ImagenFigura(f, pedido).save(ruta, "PNG");
+    return EscribirConjunto(conjunto);
 }
 
 void CopiarFigura(const Figura& f, QSize pedido) {
@@ -238,22 +252,15 @@ std::vector<Figura> FigurasGraficas(const CalculoComparado& calculo) {
     return figuras;
 }
 
-std::string EscribirFiguras(const CalculoComparado& calculo, const QString& carpeta, FormatoFigura formato,
-                            QSize pedido, UnidadPresion presion) {
-    if (!QDir().mkpath(carpeta)) return "no se ha podido crear la carpeta " + carpeta.toStdString();
+std::optional<std::string> EscribirFiguras(const CalculoComparado& calculo, const QString& carpeta,
+                                           FormatoFigura formato, QSize pedido, UnidadPresion presion) {
     const auto calculos = std::make_shared<const std::vector<CalculoComparado>>(1, calculo);
     std::vector<Figura> figuras = FigurasDiagramas(calculos, presion, '.');
     for (Figura& g : FigurasGraficas(calculo)) figuras.push_back(std::move(g));
-    const QDir dir(carpeta);
-    if (formato == FormatoFigura::PDF) {
-        const QString ruta = dir.filePath(QStringLiteral("figuras.pdf"));
-        return GuardarPDF(figuras, pedido, ruta) ? "" : "no se ha podido escribir " + ruta.toStdString();
-    }
-    for (const Figura& f : figuras) {
-        const QString ruta = dir.filePath(f.nombre + QLatin1Char('.') + ExtensionFigura(formato));
-        if (!GuardarFigura(f, formato, pedido, ruta)) return "no se ha podido escribir " + ruta.toStdString();
-    }
-    return {};
+    if (formato == FormatoFigura::PDF)
+        return GuardarArchivoFiguras(figuras, formato, pedido,
+                                     QDir(carpeta).filePath(QStringLiteral("figuras.pdf")));
+    return GuardarFiguras(figuras, formato, pedido, carpeta);
 }
 
 }  // namespace vanta

@@ -52,10 +52,18 @@ void PintarFigura(QPainter& pintor, const Figura& f, QSize pedido);
 
 QImage ImagenFigura(const Figura& f, QSize pedido);
 QByteArray SVGFigura(const Figura& f, QSize pedido);
-// False when the file cannot be written.
-bool GuardarFigura(const Figura& f, FormatoFigura formato, QSize pedido, const QString& ruta);
-// One page per figure.
-bool GuardarPDF(const std::vector<Figura>& figuras, QSize pedido, const QString& ruta);
+// The bytes of one file: a PNG or an SVG of the first figure, or a PDF with a
+// page per figure; nothing when the picture cannot be made (too big for the
+// memory).
+std::optional<QByteArray> ArchivoFiguras(const std::vector<Figura>& figuras, FormatoFigura formato,
+                                         QSize pedido);
+// That file, written whole; why not, in words for the user, or nothing.
+std::optional<std::string> GuardarArchivoFiguras(const std::vector<Figura>& figuras, FormatoFigura formato,
+                                                 QSize pedido, const QString& ruta);
+// Each figure in a file of its own in the folder ("diagrama-pv.svg"), the
+// files written as one set; why not, or nothing.
+std::optional<std::string> GuardarFiguras(const std::vector<Figura>& figuras, FormatoFigura formato,
+                                          QSize pedido, const QString& carpeta);
 // The picture on the clipboard, as an image and as SVG.
 void CopiarFigura(const Figura& f, QSize pedido);
 
@@ -75,9 +83,9 @@ std::vector<Figura> FigurasGraficas(const CalculoComparado& calculo);
 inline constexpr QSize kTamanoFigura{1200, 900};
 
 // Writes the four diagrams and the three charts of the calculation into the
-// folder: one file each ("diagrama-pv.svg" …), or for PDF one file
-// "figuras.pdf" with a page each. The message of what failed, or empty.
-std::string EscribirFiguras(const CalculoComparado& calculo, const QString& carpeta, FormatoFigura formato,
-                            QSize pedido, UnidadPresion presion);
+// folder, as one set: one file each ("diagrama-pv.svg" …), or for PDF one file
+// "figuras.pdf" with a page each. Why not, in words for the user, or nothing.
+std::optional<std::string> EscribirFiguras(const CalculoComparado& calculo, const QString& carpeta,
+                                           FormatoFigura formato, QSize pedido, UnidadPresion presion);
 
 }  // namespace vanta

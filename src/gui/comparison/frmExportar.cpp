@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -119,21 +118,11 @@ bool frmExportar::Guardar(const QString& ruta) {
     std::vector<Figura> figuras;
     for (size_t i : elegidas) figuras.push_back(todas[i]);
     const FormatoFigura formato = Formato();
-    bool bien = true;
-    QString fallida = ruta;
-    if (formato == FormatoFigura::PDF) {
-        bien = GuardarPDF(figuras, Tamano(), ruta);
-    } else if (figuras.size() == 1) {
-        bien = GuardarFigura(figuras.front(), formato, Tamano(), ruta);
-    } else {
-        const QDir carpeta(ruta);
-        for (const Figura& f : figuras) {
-            fallida = carpeta.filePath(f.nombre + QLatin1Char('.') + ExtensionFigura(formato));
-            if (!(bien = GuardarFigura(f, formato, Tamano(), fallida))) break;
-        }
-    }
-    if (!bien) dlg_.MsgBox("No se ha podido escribir " + fallida.toStdString());
-    return bien;
+    const std::optional<std::string> fallo = formato == FormatoFigura::PDF || figuras.size() == 1
+                                                 ? GuardarArchivoFiguras(figuras, formato, Tamano(), ruta)
+                                                 : GuardarFiguras(figuras, formato, Tamano(), ruta);
+    if (fallo) dlg_.MsgBox("No se ha podido escribir " + ruta.toStdString() + ": " + *fallo);
+    return !fallo;
 }
 
 void frmExportar::cmdGuardar_Click() {

@@ -93,9 +93,12 @@ void AlmacenResultados::Cerrar() {
 }
 
 std::string AlmacenResultados::Causa(const QSqlError& error) const {
-    if (Servidor())
+    if (Servidor()) {
+        const bd::Esperas esperas = bd::EsperasDe(direccion_);
+        if (sinRespuesta_) return bd::CausaSinRespuesta(esperas);
         return bd::CausaPostgreSQL(error.nativeErrorCode().toStdString(), error.databaseText().toStdString(),
-                                   direccion_.usuario);
+                                   direccion_.usuario, esperas);
+    }
     return bd::CausaSQLite(Codigo(error), error.databaseText().toStdString());
 }
 
@@ -105,6 +108,7 @@ bool AlmacenResultados::Fallo(const QSqlError& error, std::string (*mensaje)(std
 }
 
 bool AlmacenResultados::Conectar() {
+    sinRespuesta_ = false;
     const std::string ruta = direccion_.texto;
     const QString driver = Servidor() ? QStringLiteral("QPSQL") : QStringLiteral("QSQLITE");
     if (!QSqlDatabase::isDriverAvailable(driver)) {
@@ -134,6 +138,8 @@ bool AlmacenResultados::Conectar() {
 }
 
 bool AlmacenResultados::Viva() {
+    // A cut for want of an answer belonged to the operation before.
+    sinRespuesta_ = false;
     QSqlDatabase db = QSqlDatabase::database(conexion_, false);
     if (db.isOpen()) return true;
     if (db.open()) return true;
@@ -141,17 +147,28 @@ bool AlmacenResultados::Viva() {
     return false;
 }
 
+VigiaConexion AlmacenResultados::Vigilar() {
+    sinRespuesta_ = false;
+    return VigiaConexion(conexion_, std::chrono::seconds(bd::EsperasDe(direccion_).Respuesta()),
+                         sinRespuesta_);
+}
+
 bool AlmacenResultados::ConReintento(const std::function<bool()>& f) {
+    const auto vigilado = [&] {
+        const VigiaConexion vigia = Vigilar();
+        return f();
+    };
     if (!Viva()) return false;
-    if (f()) return true;
-    // Qt closes a server connection that it finds cut.
-    if (!Servidor() || QSqlDatabase::database(conexion_, false).isOpen()) return false;
+    if (vigilado()) return true;
+    // Qt closes a server connection that it finds cut. One cut for want of
+    // an answer is not tried again: the wait has had its time.
+    if (!Servidor() || sinRespuesta_ || QSqlDatabase::database(conexion_, false).isOpen()) return false;
     const std::string primero = error_;
     if (!Viva()) {
         error_ = primero;
         return false;
     }
-    return f();
+    return vigilado();
 }
 
 // A SQLite file is ours when it carries the program's mark and the table with
@@ -214,17 +231,31 @@ bool AlmacenResultados::Crear() {
         return false;
     }
     const auto hallazgo = Comprobar();
+    const auto entradas = [&] { return HayEntradas() || q.exec(Q(bd::SQLCrearEntradas())); };
     if (hallazgo != Hallazgo::Vacia) {
-        q.exec(QString::fromLatin1(hallazgo == Hallazgo::Nuestra ? "COMMIT" : "ROLLBACK"));
+        // A store made before the inputs had their table gets it, if it may
+        // be changed.
+        const bool bien = hallazgo == Hallazgo::Nuestra && entradas();
+        q.exec(QString::fromLatin1(bien ? "COMMIT" : "ROLLBACK"));
         return hallazgo == Hallazgo::Nuestra;
     }
     const bool bien =
         (Servidor() || q.exec(QStringLiteral("PRAGMA application_id = %1").arg(bd::kIdAplicacion))) &&
-        q.exec(Q(bd::SQLCrearTabla(direccion_.motor))) && q.exec(QStringLiteral("COMMIT"));
+        q.exec(Q(bd::SQLCrearTabla(direccion_.motor))) && entradas() && q.exec(QStringLiteral("COMMIT"));
     if (bien) return true;
     error_ = bd::MsgNoSeCrea(direccion_.texto, Causa(q.lastError()));
     q.exec(QStringLiteral("ROLLBACK"));
     return false;
+}
+
+bool AlmacenResultados::HayEntradas() {
+    QSqlQuery q(QSqlDatabase::database(conexion_, false));
+    const std::string tabla(bd::kTablaEntradas);
+    const std::string sql = Servidor()
+                                ? "SELECT to_regclass('" + tabla + "') IS NOT NULL"
+                                : "SELECT count(*) > 0 FROM sqlite_master WHERE type = 'table' AND name = '" +
+                                      tabla + "' COLLATE NOCASE";
+    return q.exec(Q(sql)) && q.next() && q.value(0).toBool();
 }
 
 bool AlmacenResultados::Abrir() {
@@ -238,24 +269,29 @@ bool AlmacenResultados::Abrir() {
         Cerrar();
         return false;
     }
-    // The look at a file is one read transaction, so that another program's
-    // creation is seen whole or not at all.
-    QSqlDatabase db = QSqlDatabase::database(conexion_, false);
-    const bool lectura = !Servidor() && db.transaction();
-    const auto hallazgo = Comprobar();
-    if (lectura) db.rollback();
-    if (!hallazgo || hallazgo == Hallazgo::Ajena) {
-        Cerrar();
-        return false;
-    }
-    if (!Servidor()) {
-        // The rollback journal with a full sync at each commit. A file left in
-        // another journal mode by some other tool keeps it when it is in use.
-        QSqlQuery q(QSqlDatabase::database(conexion_, false));
-        q.exec(QStringLiteral("PRAGMA journal_mode = DELETE"));
-        q.exec(QStringLiteral("PRAGMA synchronous = FULL"));
-    }
-    if (hallazgo == Hallazgo::Vacia && !Crear()) {
+    const bool listo = [&] {
+        const VigiaConexion vigia = Vigilar();
+        // The look at a file is one read transaction, so that another
+        // program's creation is seen whole or not at all.
+        QSqlDatabase db = QSqlDatabase::database(conexion_, false);
+        const bool lectura = !Servidor() && db.transaction();
+        const auto hallazgo = Comprobar();
+        if (lectura) db.rollback();
+        if (!hallazgo || hallazgo == Hallazgo::Ajena) return false;
+        if (!Servidor()) {
+            // The rollback journal with a full sync at each commit. A file left
+            // in another journal mode by some other tool keeps it when it is in
+            // use.
+            QSqlQuery q(QSqlDatabase::database(conexion_, false));
+            q.exec(QStringLiteral("PRAGMA journal_mode = DELETE"));
+            q.exec(QStringLiteral("PRAGMA synchronous = FULL"));
+        }
+        // A store of ours without the inputs' table is read as it is when it
+        // may not be changed; its saves are then refused.
+        if (hallazgo == Hallazgo::Nuestra && !HayEntradas()) Crear();
+        return hallazgo == Hallazgo::Nuestra || Crear();
+    }();
+    if (!listo) {
         Cerrar();
         return false;
     }
@@ -323,7 +359,8 @@ std::string AlmacenResultados::FalloDeIntegridad() {
 }
 
 std::optional<qint64> AlmacenResultados::Insertar(const bd::TextosRegistro& textos,
-                                                  const ImagenesRegistro& imagenes) {
+                                                  const ImagenesRegistro& imagenes,
+                                                  const std::optional<std::string>& entradas) {
     // The pictures are encoded before the transaction, which stays short.
     std::array<QByteArray, bd::kNumColumnasImagen> png;
     for (size_t i = 0; i < png.size(); ++i) png[i] = ImagenAPNG(imagenes[i]);
@@ -337,6 +374,7 @@ std::optional<qint64> AlmacenResultados::Insertar(const bd::TextosRegistro& text
         }))
         return std::nullopt;
 
+    const VigiaConexion vigia = Vigilar();
     QSqlDatabase db = QSqlDatabase::database(conexion_, false);
     QSqlQuery control(db);
     // The statement outlives the end of the transaction: a server frees its
@@ -350,6 +388,16 @@ std::optional<qint64> AlmacenResultados::Insertar(const bd::TextosRegistro& text
     const qint64 id = !bien ? 0 : Servidor() ? q.value(0).toLongLong() : q.lastInsertId().toLongLong();
     QSqlError error = q.lastError();
     q.finish();
+    // The inputs in the same transaction: a store that refuses them keeps no
+    // record.
+    QSqlQuery e(db);
+    if (bien && entradas) {
+        e.prepare(Q(bd::SQLGuardarEntradas(direccion_.motor)));
+        e.addBindValue(id);
+        e.addBindValue(Q(*entradas));
+        if (!e.exec()) bien = false, error = e.lastError();
+        e.finish();
+    }
     if (bien && antesDeConfirmar_) antesDeConfirmar_();
     if (bien && !control.exec(QStringLiteral("COMMIT"))) {
         bien = false;
@@ -363,6 +411,20 @@ std::optional<qint64> AlmacenResultados::Insertar(const bd::TextosRegistro& text
         if (const std::string detalle = FalloDeIntegridad(); !detalle.empty())
             error_ = bd::MsgArchivoDanado(direccion_.texto, detalle);
     return std::nullopt;
+}
+
+std::optional<std::string> AlmacenResultados::LeerEntradas(qint64 id) {
+    std::optional<std::string> entradas;
+    ConReintento([&] {
+        QSqlQuery q(QSqlDatabase::database(conexion_, false));
+        q.setForwardOnly(true);
+        q.prepare(Q(bd::SQLLeerEntradas()));
+        q.addBindValue(id);
+        if (!q.exec()) return Fallo(q.lastError(), bd::MsgNoSeLee);
+        if (q.next()) entradas = q.value(0).toString().toStdString();
+        return true;
+    });
+    return entradas;
 }
 
 bool AlmacenResultados::Borrar(qint64 id) {

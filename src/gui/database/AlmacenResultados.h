@@ -12,12 +12,15 @@
 // Records are named by their rowid, which follows the order of saving. The
 // list of records holds those ids only; the texts and the pictures of one
 // record are read when it is shown. A connection to a server that was lost (the
-// server stopped or restarted) is made again by the next operation.
+// server stopped or restarted) is made again by the next operation. Every wait
+// for a server has its limit (the address's Esperas): past it, the operation
+// fails and says so, and a save leaves nothing.
 #pragma once
 
 #include <QImage>
 #include <QString>
 #include <array>
+#include <atomic>
 #include <functional>
 #include <optional>
 #include <string>
@@ -25,6 +28,7 @@
 
 #include "core/database/Direccion.h"
 #include "core/database/Registro.h"
+#include "gui/database/VigiaConexion.h"
 
 class QSqlError;
 class QSqlQuery;
@@ -67,9 +71,13 @@ public:
     std::optional<bd::TextosRegistro> LeerTextos(qint64 id);
     std::optional<ImagenesRegistro> LeerImagenes(qint64 id);
 
-    // Adds a record in one transaction; its id, or nothing on failure (and
-    // then nothing of it is in the store).
-    std::optional<qint64> Insertar(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes);
+    // Adds a record in one transaction, with the inputs of its calculation
+    // when given; its id, or nothing on failure (and then nothing of it is in
+    // the store, its inputs neither).
+    std::optional<qint64> Insertar(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes,
+                                   const std::optional<std::string>& entradas = std::nullopt);
+    // The inputs saved with a record; nothing when there are none.
+    std::optional<std::string> LeerEntradas(qint64 id);
     bool Borrar(qint64 id);
     bool EscribirInforme(qint64 id, const std::string& informe);
 
@@ -91,8 +99,11 @@ private:
     // connection that turns out lost before anything was written, connects
     // again and runs it once more.
     bool ConReintento(const std::function<bool()>& f);
+    // The watch on a server connection for one operation.
+    VigiaConexion Vigilar();
     std::optional<Hallazgo> Comprobar();
     bool Crear();
+    bool HayEntradas();
     void Cerrar();
     std::string Causa(const QSqlError& error) const;
     // Runs a SELECT of one record by its id and stands on its row.
@@ -110,6 +121,9 @@ private:
     int espera_ = 2000;
     std::string error_;
     std::function<void()> antesDeConfirmar_;
+    // Set when the server's answer did not come in time and the connection
+    // was cut: the operation's failure is that.
+    std::atomic<bool> sinRespuesta_{false};
 };
 
 // A picture as the lossless PNG stored in its column (empty for no picture),

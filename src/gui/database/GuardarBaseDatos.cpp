@@ -44,9 +44,9 @@ bool GuardarBaseDatos(const ResultadoCalculo& r, Dialogos& dlg, std::string_view
         // cost the record its picture.
         if (const QImage copia = portapapeles->image(); !copia.isNull()) imagen = copia;
     }
-    if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas))
+    if (!navegador.AgregarRegistro(bd::ValoresRegistro(e, nombre, tipoCombustible, informe), columnas,
+                                   EntradasDe(r)))
         return false;
-    GuardarEntradas(*navegador.Almacen(), navegador.IdActual(), r);
     navegador.MostrarModal();
     return true;
 }
@@ -60,7 +60,7 @@ bd::LecturaDireccion ResolverDireccion(const QString& texto) {
 }
 
 bool GuardarRegistro(const ResultadoCalculo& r, std::string_view nombre, const ImagenesPrincipal& imagenes,
-                     Dialogos& dlg, const QString& baseDatos) {
+                     Dialogos& dlg, const QString& baseDatos, const std::function<bool()>& antesDeGuardar) {
     const Estado& e = *r.estado;
     const std::string& tipoCombustible = r.tipoCombustible;
     const std::string& informe = r.informe;
@@ -71,13 +71,16 @@ bool GuardarRegistro(const ResultadoCalculo& r, std::string_view nombre, const I
     }
     AlmacenResultados almacen(*direccion.direccion);
     almacen.FijarEspera(kEsperaLineaOrdenes);
-    std::optional<qint64> id;
-    if (!almacen.Abrir() || !(id = almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe),
-                                                    ImagenesDeColumnas(imagenes)))) {
+    if (!almacen.Abrir()) {
         dlg.MsgBox(almacen.Error());
         return false;
     }
-    GuardarEntradas(almacen, *id, r);
+    if (antesDeGuardar && !antesDeGuardar()) return false;
+    if (!almacen.Insertar(bd::ValoresRegistro(e, nombre, tipoCombustible, informe),
+                          ImagenesDeColumnas(imagenes), EntradasDe(r))) {
+        dlg.MsgBox(almacen.Error());
+        return false;
+    }
     return true;
 }
 

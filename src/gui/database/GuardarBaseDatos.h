@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QString>
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -38,9 +39,12 @@ bool GuardarBaseDatos(const ResultadoCalculo& r, Dialogos& dlg, std::string_view
 // of the current folder, or in the file or on the server that baseDatos names;
 // made when missing. No clipboard, no window. It waits longer than the window
 // for another program holding a file, since scripts start several at once.
-// Returns whether the record was added; a failure goes through dlg.
+// antesDeGuardar runs once the store is open, before the record goes in; when
+// it fails, nothing is saved. Returns whether the record was added; a failure
+// of the store goes through dlg.
 bool GuardarRegistro(const ResultadoCalculo& r, std::string_view nombre, const ImagenesPrincipal& imagenes,
-                     Dialogos& dlg, const QString& baseDatos = {});
+                     Dialogos& dlg, const QString& baseDatos = {},
+                     const std::function<bool()>& antesDeGuardar = {});
 
 // A file or an address as the user wrote it, made ready for the store: empty
 // is BD.sqlite, and a relative file is taken from the current folder.

@@ -416,9 +416,10 @@ bool frmBaseDatos::Cargar() {
     return true;
 }
 
-bool frmBaseDatos::AgregarRegistro(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes) {
+bool frmBaseDatos::AgregarRegistro(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes,
+                                   const std::optional<std::string>& entradas) {
     if (!Cargar()) return false;
-    const auto id = almacen_->Insertar(textos, imagenes);
+    const auto id = almacen_->Insertar(textos, imagenes, entradas);
     if (!id) {
         dlg_.MsgBox(almacen_->Error());
         return false;

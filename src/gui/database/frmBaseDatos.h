@@ -67,9 +67,11 @@ public:
     // scrolls inside, so that the navigator and the buttons stay in view.
     void AjustarAPantalla(const QRect& libre);
 
-    // Adds a record in one transaction and moves to it, as the last one.
-    // False, with the message shown, when nothing was saved.
-    bool AgregarRegistro(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes);
+    // Adds a record (with the inputs of its calculation, when given) in one
+    // transaction and moves to it, as the last one. False, with the message
+    // shown, when nothing was saved.
+    bool AgregarRegistro(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes,
+                         const std::optional<std::string>& entradas = std::nullopt);
 
     // Shown after a save, modally; from the menu, not modally (nothing is
     // shown when the file cannot be used).

@@ -6,6 +6,7 @@
 #include <QImageWriter>
 #include <QPainter>
 
+#include "core/files/EscribirArchivos.h"
 #include "core/reports/ArchivosInforme.h"
 #include "gui/reports/DialogosInforme.h"
 #include "gui/services/PuertosQt.h"

@@ -3,6 +3,7 @@
 #include <QPrinter>
 #include <QWidget>
 
+#include "core/files/EscribirArchivos.h"
 #include "gui/reports/PaginaWeb.h"
 #include "gui/reports/frmInforme.h"
 #include "gui/reports/frmMostrar.h"

@@ -1,11 +1,11 @@
 #include "gui/studies/frmEstudio.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QCursor>
-#include <QFile>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -30,8 +30,8 @@
 #include <QtCharts/QLineSeries>
 #include <QtCharts/QValueAxis>
 #include <cmath>
-#include <fstream>
 
+#include "core/files/EscribirArchivos.h"
 #include "core/services/Numeros.h"
 #include "core/studies/TablaEstudio.h"
 #include "gui/reports/DialogosInforme.h"
@@ -449,11 +449,14 @@ void frmEstudio::cmdExportarCSV_Click() {
     const QString archivo = archivos_->Guardar(this, DialogoArchivo{kFiltroCSV, "estudio", 0});
     if (archivo.isEmpty()) return;
     const DialectoCSV dialecto = chkCsvEspanol_->isChecked() ? DialectoCSV::Espanol : DialectoCSV::Rfc4180;
-    std::ofstream f(RutaArchivo(archivo), std::ios::binary);
-    f << CabeceraCSV(estudio_, dialecto);
-    for (size_t p = 0; p < resultados_.size(); ++p) f << FilaCSV(estudio_, p, resultados_[p], dialecto);
-    f.close();
-    if (!f) dlg_.MsgBox(kMensajeNoEscrito + archivo.toStdString());
+    std::string csv = CabeceraCSV(estudio_, dialecto);
+    for (size_t p = 0; p < resultados_.size(); ++p) csv += FilaCSV(estudio_, p, resultados_[p], dialecto);
+    Escribir(archivo, csv);
+}
+
+void frmEstudio::Escribir(const QString& archivo, std::string_view bytes) {
+    if (const auto fallo = EscribirArchivo(RutaArchivo(archivo), bytes))
+        dlg_.MsgBox(kMensajeNoEscrito + archivo.toStdString() + ": " + *fallo);
 }
 
 // ---- The plots -----------------------------------------------------------------------
@@ -596,27 +599,28 @@ void frmEstudio::cmdExportarPNG_Click() {
         pintor.setRenderHint(QPainter::Antialiasing);
         PintarGraficas(pintor, imagen.size());
     }
-    if (!imagen.save(archivo, "PNG")) dlg_.MsgBox(kMensajeNoEscrito + archivo.toStdString());
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    imagen.save(&png, "PNG");
+    Escribir(archivo, png.data().toStdString());
 }
 
 void frmEstudio::cmdExportarSVG_Click() {
     if (graficas_.empty()) return;
     const QString archivo = archivos_->Guardar(this, DialogoArchivo{kFiltroSVG, "estudio", 0});
     if (archivo.isEmpty()) return;
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
     QSvgGenerator svg;
-    svg.setFileName(archivo);
+    svg.setOutputDevice(&bytes);
     svg.setSize(TamanoExportacion());
     svg.setViewBox(QRect(QPoint(), TamanoExportacion()));
     svg.setTitle(QString::fromUtf8(kTitulo));
     {
-        QPainter pintor;
-        if (!pintor.begin(&svg)) {
-            dlg_.MsgBox(kMensajeNoEscrito + archivo.toStdString());
-            return;
-        }
+        QPainter pintor(&svg);
         PintarGraficas(pintor, TamanoExportacion());
     }
-    if (!QFile::exists(archivo)) dlg_.MsgBox(kMensajeNoEscrito + archivo.toStdString());
+    Escribir(archivo, bytes.data().toStdString());
 }
 
 }  // namespace vanta

@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <string_view>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -83,6 +84,8 @@ private:
     // The plots laid out in a grid, as one picture of the size given.
     void PintarGraficas(class QPainter& pintor, const QSize& tamano) const;
     QSize TamanoExportacion() const;
+    // An export's file written whole; a failure is told.
+    void Escribir(const QString& archivo, std::string_view bytes);
     void HabilitarResultados();
 
     std::function<Entradas()> base_;

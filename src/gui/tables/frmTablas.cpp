@@ -5,6 +5,7 @@
 #include <QPrinter>
 #include <QTextCursor>
 
+#include "core/files/EscribirArchivos.h"
 #include "core/reports/ArchivosInforme.h"
 #include "gui/services/PuertosQt.h"
 

@@ -67,6 +67,9 @@ TEST(Almacen, LoQueNoEsUnaDireccionSeDiceEnCastellano) {
         {"postgresql://an%zza@aula/m", "código % mal formado"},
         {"postgresql://aula/m?sslmode=siempre", "sslmode no válido en la dirección: siempre"},
         {"postgresql://aula/m?connect_timeout=5s", "connect_timeout no válido"},
+        {"postgresql://aula/m?statement_timeout=-1",
+         "statement_timeout no válido en la dirección: -1 (segundos)"},
+        {"postgresql://aula/m?lock_timeout=1234567", "lock_timeout no válido"},
         {"postgresql://aula/m?options=-c%20x", "parámetro desconocido en la dirección: options"},
         {"postgresql://aula/m?sslmode", "parámetro mal escrito"},
         {"postgresql://aula/m?sslrootcert=/a%20b", "valor no admitido en la dirección: sslrootcert=/a b"},
@@ -79,16 +82,35 @@ TEST(Almacen, LoQueNoEsUnaDireccionSeDiceEnCastellano) {
     }
 }
 
-TEST(Almacen, LasOpcionesDeConexionLlevanEsperaYNombreSalvoQueSeDen) {
-    EXPECT_EQ(bd::OpcionesConexion(*bd::LeerDireccion("postgresql://aula/m").direccion),
-              "connect_timeout=10;application_name=vanta");
-    EXPECT_EQ(
-        bd::OpcionesConexion(
-            *bd::LeerDireccion("postgresql://aula/m?sslmode=require&connect_timeout=2&application_name=x")
-                 .direccion),
-        "sslmode=require;connect_timeout=2;application_name=x");
-    EXPECT_EQ(bd::OpcionesConexion(*bd::LeerDireccion("postgresql://aula/m?sslmode=require").direccion),
-              "sslmode=require;connect_timeout=10;application_name=vanta");
+TEST(Almacen, LasOpcionesDeConexionPonenLimiteATodaEsperaYNombreSalvoQueSeDen) {
+    const auto opciones = [](const char* texto) {
+        return bd::OpcionesConexion(*bd::LeerDireccion(texto).direccion);
+    };
+    EXPECT_EQ(opciones("postgresql://aula/m"),
+              "connect_timeout=10;keepalives=1;keepalives_idle=5;keepalives_interval=2;keepalives_count=3;"
+              "tcp_user_timeout=10000;application_name=vanta;options='-c statement_timeout=30s -c "
+              "lock_timeout=5s -c idle_in_transaction_session_timeout=40s -c client_min_messages=error'");
+    // Each limit as the address gives it; 0 is the default, never "forever".
+    const std::string dadas = opciones(
+        "postgresql://aula/m?sslmode=require&lock_timeout=2&connect_timeout=3&application_name=x&"
+        "statement_timeout=60");
+    EXPECT_EQ(dadas.substr(0, 34), "sslmode=require;application_name=x");
+    for (const char* pieza :
+         {";connect_timeout=3;", "tcp_user_timeout=3000;options", "statement_timeout=60s ",
+          "lock_timeout=2s ", "idle_in_transaction_session_timeout=63s "})
+        EXPECT_NE(dadas.find(pieza), std::string::npos) << pieza << " en " << dadas;
+    EXPECT_EQ(opciones("postgresql://aula/m?connect_timeout=0&statement_timeout=0&lock_timeout=0"),
+              opciones("postgresql://aula/m"));
+    const bd::Esperas e = bd::EsperasDe(*bd::LeerDireccion("postgresql://a/m?statement_timeout=7").direccion);
+    EXPECT_EQ(e.Respuesta(), 17);
+    EXPECT_EQ(bd::CausaPostgreSQL("55P03", "ERROR:  canceling statement due to lock timeout", "", e),
+              "otra sesión del servidor lo tiene bloqueado desde hace más de 5 s (lock_timeout); vuelva a "
+              "intentarlo más tarde");
+    EXPECT_EQ(bd::CausaPostgreSQL("57014", "ERROR:  canceling statement due to statement timeout", "", e),
+              "el servidor ha cancelado la orden, que pasaba de 7 s (statement_timeout)");
+    EXPECT_EQ(bd::CausaPostgreSQL("57014", "ERROR:  canceling statement due to user request", "", e),
+              "error del servidor de la base de datos (canceling statement due to user request)");
+    EXPECT_EQ(bd::CausaSinRespuesta(e).substr(0, 38), "el servidor no ha contestado en 17 s y");
 }
 
 TEST(Almacen, LasCausasDelServidorEnPalabrasDelUsuario) {
@@ -134,6 +156,12 @@ TEST(Almacen, LaTablaDelServidorNumeraSusRegistrosComoSQLite) {
     EXPECT_EQ(tabla.find("BLOB"), std::string::npos);
     EXPECT_EQ(bd::SQLCrearTabla(Motor::SQLite).find("rowid"), std::string::npos);
     EXPECT_EQ(bd::SQLInsertar(Motor::PostgreSQL), bd::SQLInsertar(Motor::SQLite) + " RETURNING rowid");
+    // A server's inputs ask no right to update; a file may give an id again.
+    EXPECT_EQ(bd::SQLGuardarEntradas(Motor::PostgreSQL),
+              "INSERT INTO EntradasCalculo (Registro, Entradas) VALUES (?, ?)");
+    EXPECT_EQ(bd::SQLGuardarEntradas(Motor::SQLite)
+                  .find(bd::SQLGuardarEntradas(Motor::PostgreSQL) + " ON CONFLICT"),
+              0u);
 }
 
 TEST(Almacen, LoQueLePasaAlArchivoSeDiceComoEs) {

@@ -1,16 +1,12 @@
 // Reports as files: the dialogs' filters in the form a file dialog reads, the
-// bytes of a saved page and text, reading a saved text back, and the whole-file
-// write.
+// bytes of a saved page and text, and reading a saved text back.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "core/reports/ArchivosInforme.h"
 
 using namespace vanta;
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -19,22 +15,6 @@ std::vector<std::string> Etiquetas(const std::vector<FiltroArchivo>& filtros) {
     for (const FiltroArchivo& f : filtros) e.push_back(f.etiqueta);
     return e;
 }
-
-// A fresh folder of its own for one test, removed afterwards.
-struct CarpetaTest : ::testing::Test {
-    fs::path carpeta;
-    void SetUp() override {
-        carpeta = fs::temp_directory_path() /
-                  ("vanta-archivos-" +
-                   std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-        fs::remove_all(carpeta);
-        fs::create_directories(carpeta);
-    }
-    void TearDown() override { fs::remove_all(carpeta); }
-    size_t Archivos() const {
-        return static_cast<size_t>(std::distance(fs::directory_iterator(carpeta), fs::directory_iterator()));
-    }
-};
 
 }  // namespace
 
@@ -104,97 +84,4 @@ TEST(BytesArchivos, UnTextoGuardadoSeLeeEnUtf8OEnWindows1252) {
          {"", "abc", "ñ", "€", "\xF0\x9F\x98\x80", "\xEF\xBF\xBF", "\xF4\x8F\xBF\xBF"})
         EXPECT_TRUE(EsUtf8Valido(bueno)) << ::testing::PrintToString(bueno);
     EXPECT_EQ(TextoEnCaja("\xC3("), "Ã(");
-}
-
-TEST_F(CarpetaTest, EscribirArchivoEnteroEscribeReemplazaYNoDejaTemporal) {
-    const fs::path ruta = carpeta / "Index.htm";
-    ASSERT_TRUE(EscribirArchivoEntero(ruta, "primera"));
-    ASSERT_TRUE(EscribirArchivoEntero(ruta, std::string("segunda\0con nulo", 16)));
-    EXPECT_EQ(LeerArchivoEntero(ruta), std::string("segunda\0con nulo", 16));
-    EXPECT_EQ(Archivos(), 1u);
-    EXPECT_EQ(RutaTemporal(ruta), carpeta / ".Index.htm.tmp");
-
-    ASSERT_TRUE(EscribirArchivoEntero(carpeta / "vacio.txt", ""));
-    EXPECT_EQ(LeerArchivoEntero(carpeta / "vacio.txt"), "");
-}
-
-TEST_F(CarpetaTest, UnaEscrituraQueFallaNoDejaNadaYUnaLecturaImposibleNoDaNada) {
-    // Into a folder that is not there, onto a folder, with no file name.
-    EXPECT_FALSE(EscribirArchivoEntero(carpeta / "no" / "Index.htm", "x"));
-    fs::create_directory(carpeta / "sub");
-    fs::create_directory(carpeta / "sub" / "Index.htm");
-    EXPECT_FALSE(EscribirArchivoEntero(carpeta / "sub" / "Index.htm", "x"));
-    EXPECT_FALSE(fs::exists(RutaTemporal(carpeta / "sub" / "Index.htm")));
-    EXPECT_FALSE(EscribirArchivoEntero(carpeta / "", "x"));
-    EXPECT_EQ(Archivos(), 1u);
-
-    EXPECT_FALSE(LeerArchivoEntero(carpeta / "falta.txt"));
-    EXPECT_FALSE(LeerArchivoEntero(carpeta / "sub"));
-}
-
-namespace {
-
-// The disk, but for one write or one rename that fails with the error given.
-struct DiscoQueFalla : SistemaArchivos {
-    int escribir = -1, renombrar = -1;  // which call fails, from 0; -1 none
-    std::errc error = std::errc::no_space_on_device;
-    int escritos = 0, renombrados = 0;
-    std::error_code Escribir(const fs::path& r, std::string_view b) override {
-        return escritos++ == escribir ? std::make_error_code(error) : Disco().Escribir(r, b);
-    }
-    std::error_code Renombrar(const fs::path& a, const fs::path& b) override {
-        return renombrados++ == renombrar ? std::make_error_code(error) : Disco().Renombrar(a, b);
-    }
-    void Borrar(const fs::path& r) override { Disco().Borrar(r); }
-    bool Existe(const fs::path& r) override { return Disco().Existe(r); }
-    std::error_code CrearCarpeta(const fs::path& c) override { return Disco().CrearCarpeta(c); }
-};
-
-std::vector<ArchivoDeConjunto> Conjunto(const fs::path& carpeta, const std::string& version) {
-    std::vector<ArchivoDeConjunto> c;
-    for (const char* nombre : {"Index.htm", "BMPAIRE.BMP", "BMPPV.BMP", "BMPHS.BMP"})
-        c.push_back({carpeta / nombre, std::string(nombre) + " " + version});
-    return c;
-}
-
-}  // namespace
-
-TEST_F(CarpetaTest, UnConjuntoSeEscribeEnteroONadaYDiceElPorQue) {
-    const fs::path destino = carpeta / "pagina";
-    ASSERT_EQ(EscribirConjunto(Conjunto(destino, "primera")), std::nullopt);
-    auto Contenido = [&] {
-        std::string s;
-        for (const auto& a : Conjunto(destino, "")) s += LeerArchivoEntero(a.ruta).value_or("FALTA") + "|";
-        return s + std::to_string(std::distance(fs::directory_iterator(destino), fs::directory_iterator()));
-    };
-    const std::string primera = Contenido();
-    EXPECT_EQ(primera, "Index.htm primera|BMPAIRE.BMP primera|BMPPV.BMP primera|BMPHS.BMP primera|4");
-
-    // A write or a rename that fails anywhere leaves the first set whole.
-    const struct {
-        int escribir, renombrar;
-        std::errc error;
-        std::string causa;
-    } fallos[] = {
-        {0, -1, std::errc::no_space_on_device, "el disco está lleno"},
-        {3, -1, std::errc::no_space_on_device, "el disco está lleno"},
-        {2, -1, std::errc::permission_denied, "no tiene permiso de escritura en " + destino.string()},
-        {-1, 0, std::errc::permission_denied, "no tiene permiso de escritura en " + destino.string()},
-        {-1, 3, std::errc::is_a_directory,
-         (destino / "BMPHS.BMP").string() + " es una carpeta, no un archivo"},
-        {-1, 6, std::errc::io_error, "no se ha podido escribir " + (destino / "BMPPV.BMP").string()},
-    };
-    for (const auto& f : fallos) {
-        DiscoQueFalla disco;
-        disco.escribir = f.escribir, disco.renombrar = f.renombrar, disco.error = f.error;
-        EXPECT_EQ(EscribirConjunto(Conjunto(destino, "segunda"), disco), f.causa);
-        EXPECT_EQ(Contenido(), primera) << f.causa;
-    }
-    ASSERT_EQ(EscribirConjunto(Conjunto(destino, "segunda")), std::nullopt);
-    EXPECT_EQ(Contenido(), "Index.htm segunda|BMPAIRE.BMP segunda|BMPPV.BMP segunda|BMPHS.BMP segunda|4");
-
-    // A folder that is a file.
-    std::ofstream(carpeta / "archivo") << "x";
-    EXPECT_EQ(EscribirConjunto(Conjunto(carpeta / "archivo", "x")),
-              (carpeta / "archivo").string() + " es un archivo, no una carpeta");
 }

@@ -163,7 +163,7 @@ private slots:
         QCOMPARE(QImage(carpeta.filePath(QStringLiteral("diagrama-tv.png"))).size(), QSize(640, 480));
         QCOMPARE(QImage(carpeta.filePath(QStringLiteral("diagrama-hs.png"))).size(), QSize(640, 480));
         QVERIFY(!QFile::exists(carpeta.filePath(QStringLiteral("diagrama-pv.png"))));
-        QVERIFY(!v.Guardar(carpeta.filePath(QStringLiteral("no/existe"))));
+        QVERIFY(!v.Guardar(carpeta.filePath(QStringLiteral("dos.pdf"))));
         QCOMPARE(dlg.mensajes.size(), size_t(1));
     }
 

@@ -1,15 +1,24 @@
 // The results database on a PostgreSQL server shared by a class: thirty
 // clients saving at once, the server stopped in the middle of a save,
+// another session holding the locks, a network that stops carrying data,
 // users who may not write, and the password, which the window asks and the
 // command line takes from PGPASSWORD or the password file, never from its
 // words.
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+
 #include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <atomic>
 #include <map>
 #include <set>
+#include <thread>
 
 #include "tests/gui/database/Banco.h"
 #include "tests/gui/database/RegistrosPrueba.h"
@@ -38,10 +47,80 @@ QString BaseConPermisos(const QString& usuario, const QString& permisos) {
     AlmacenResultados duena(*bd::LeerDireccion(Servidor().Direccion(base).toStdString()).direccion);
     if (!duena.Abrir() || !duena.Insertar(TextosDe("de la profesora"), {}))
         qFatal("%s", duena.Error().c_str());
-    if (!Servidor().Ejecutar(
-            base, {QStringLiteral("GRANT %1 ON \"ResultadosGuardados\" TO %2").arg(permisos, usuario)}))
+    if (!Servidor().Ejecutar(base, {QStringLiteral("GRANT %1 ON \"ResultadosGuardados\", %2 TO %3")
+                                        .arg(permisos, QLatin1String(bd::kTablaEntradas.data()), usuario)}))
         qFatal("%s", Servidor().UltimoError().c_str());
     return base;
+}
+
+// A TCP proxy on 127.0.0.1 to the test server's socket that can stop carrying
+// data and keep the connections open: a network gone silent.
+class Proxy {
+public:
+    Proxy() {
+        escucha_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_in a{};
+        a.sin_family = AF_INET;
+        a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t largo = sizeof a;
+        if (bind(escucha_, reinterpret_cast<sockaddr*>(&a), largo) != 0 || listen(escucha_, 8) != 0 ||
+            getsockname(escucha_, reinterpret_cast<sockaddr*>(&a), &largo) != 0)
+            qFatal("no escucha el proxy");
+        puerto_ = ntohs(a.sin_port);
+        hilo_ = std::thread([this] { Servir(); });
+    }
+    ~Proxy() {
+        fin_ = true;
+        hilo_.join();
+    }
+    int Puerto() const { return puerto_; }
+    void Parar() { parado_ = true; }
+
+private:
+    // The listener, then each connection as a pair: the client's, the server's.
+    void Servir() {
+        std::vector<pollfd> fds{{escucha_, POLLIN, 0}};
+        sockaddr_un servidor{};
+        servidor.sun_family = AF_UNIX;
+        const std::string ruta = Servidor().Carpeta().toStdString() + "/.s.PGSQL.5432";
+        ruta.copy(servidor.sun_path, sizeof servidor.sun_path - 1);
+        char trozo[65536];
+        while (!fin_) {
+            // Stopped, what arrives stays where it is.
+            if (poll(fds.data(), fds.size(), 20) <= 0 || parado_) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(parado_ ? 20 : 0));
+                continue;
+            }
+            for (size_t i = 1; i < fds.size(); ++i) {
+                if (!(fds[i].revents & (POLLIN | POLLHUP))) continue;
+                const ssize_t n = read(fds[i].fd, trozo, sizeof trozo);
+                const int otro = fds[i % 2 ? i + 1 : i - 1].fd;
+                if (n <= 0) fds[i].events = 0, shutdown(otro, SHUT_WR);
+                for (ssize_t hecho = 0, w; hecho < n && (w = write(otro, trozo + hecho, n - hecho)) > 0;)
+                    hecho += w;
+            }
+            if (fds[0].revents & POLLIN) {
+                const int cliente = accept4(escucha_, nullptr, nullptr, SOCK_CLOEXEC);
+                const int s = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+                if (connect(s, reinterpret_cast<sockaddr*>(&servidor), sizeof servidor) != 0) qFatal("proxy");
+                fds.push_back({cliente, POLLIN, 0});
+                fds.push_back({s, POLLIN, 0});
+            }
+        }
+        for (const pollfd& p : fds) close(p.fd);
+    }
+
+    int escucha_ = -1, puerto_ = 0;
+    std::atomic<bool> parado_{false}, fin_{false};
+    std::thread hilo_;
+};
+
+AlmacenResultados AlmacenEn(const QString& direccion) {
+    return AlmacenResultados(*bd::LeerDireccion(direccion.toStdString()).direccion);
+}
+
+bd::Esperas EsperasEn(const QString& direccion) {
+    return bd::EsperasDe(*bd::LeerDireccion(direccion.toStdString()).direccion);
 }
 
 }  // namespace
@@ -132,6 +211,59 @@ private slots:
         QCOMPARE(b.dlg.mensajes.size(), size_t(2));
     }
 
+    void otraSesionQueRetieneLosBloqueosNoHaceEsperarMasDeSuLimite() {
+        const QString base = Servidor().NuevaBase();
+        const QString direccion = Servidor().Direccion(base) + QStringLiteral("&lock_timeout=1");
+        const std::string bloqueado = bd::CausaPostgreSQL("55P03", "", "", EsperasEn(direccion));
+        QElapsedTimer reloj;
+        reloj.start();
+        {
+            // Holding the lock under which the table is made.
+            Mirada otra(Servidor().Direccion(base));
+            otra.Valor(QStringLiteral("BEGIN"));
+            otra.Valor(QStringLiteral("SELECT pg_advisory_xact_lock(%1)").arg(bd::kIdAplicacion));
+            AlmacenResultados almacen = AlmacenEn(direccion);
+            QVERIFY(!almacen.Abrir());
+            QCOMPARE(almacen.Error(), bd::MsgNoSeCrea(direccion.toStdString(), bloqueado));
+        }
+        // Holding the table: the save gives up, and neither the record nor
+        // its inputs are there.
+        AlmacenResultados almacen = AlmacenEn(direccion);
+        QVERIFY2(almacen.Abrir(), almacen.Error().c_str());
+        Mirada otra(Servidor().Direccion(base));
+        otra.Valor(QStringLiteral("BEGIN"));
+        otra.Valor(QStringLiteral("LOCK TABLE \"ResultadosGuardados\""));
+        QVERIFY(!almacen.Insertar(TextosDe("bloqueado"), {}, "rc=9"));
+        QCOMPARE(almacen.Error(), bd::MsgNoSeGuarda(bloqueado));
+        QVERIFY(reloj.elapsed() < 20000);
+        otra.Valor(QStringLiteral("ROLLBACK"));
+        QVERIFY(almacen.Insertar(TextosDe("luego"), {}, "rc=9"));
+        QCOMPARE(Mirada(Servidor().Direccion(base)).Nombres(), QStringList{"luego"});
+        QCOMPARE(otra.Valor(QStringLiteral("SELECT count(*) FROM EntradasCalculo")).toInt(), 1);
+    }
+
+    void unaRedQueDejaDePasarDatosAMitadDeGuardarTerminaConSuMensaje() {
+        const QString base = Servidor().NuevaBase();
+        Proxy proxy;
+        const QString direccion =
+            QStringLiteral("postgresql://vanta@127.0.0.1:%1/%2?statement_timeout=1&connect_timeout=1")
+                .arg(proxy.Puerto())
+                .arg(base);
+        AlmacenResultados almacen = AlmacenEn(direccion);
+        QVERIFY2(almacen.Abrir(), almacen.Error().c_str());
+        almacen.FijarAntesDeConfirmar([&] { proxy.Parar(); });
+        QElapsedTimer reloj;
+        reloj.start();
+        QVERIFY(!almacen.Insertar(TextosDe("a medias"), {}, "rc=9"));
+        QCOMPARE(almacen.Error(), bd::MsgNoSeGuarda(bd::CausaSinRespuesta(EsperasEn(direccion))));
+        // A new connection, through the silent network, within its own limit.
+        AlmacenResultados otro = AlmacenEn(direccion);
+        QVERIFY(!otro.Abrir());
+        QVERIFY2(otro.Error().find(bd::kCausaSinServidor) != std::string::npos, otro.Error().c_str());
+        QVERIFY(reloj.elapsed() < 20000);
+        QCOMPARE(Mirada(Servidor().Direccion(base)).Nombres(), QStringList{});
+    }
+
     void quienNoPuedeEscribirLoSabe() {
         // Reads, but neither saves nor deletes.
         const QString base = BaseConPermisos(QStringLiteral("lector"), QStringLiteral("SELECT"));
@@ -153,6 +285,32 @@ private slots:
                                          QStringLiteral("lector")));
         QVERIFY(!ajeno.f->Cargar());
         QCOMPARE(ajeno.Mensaje(), bd::MsgNoSeLee(sinPermiso));
+    }
+
+    void unRegistroSeGuardaConSusEntradasOSeRechazaEnteroYSinAvisosDelServidor() {
+        // May add records but not their inputs: refused before anything is stored.
+        const QString base = BaseConPermisos(QStringLiteral("lector"), QStringLiteral("SELECT"));
+        QVERIFY(
+            Servidor().Ejecutar(base, {QStringLiteral("GRANT INSERT ON \"ResultadosGuardados\" TO lector")}));
+        QTemporaryDir carpeta;
+        const auto guardar = [&](const char* nombre, const char* usuario) {
+            return Vanta(
+                {QStringLiteral("calcular"), QStringLiteral("--guardar"), QString::fromLatin1(nombre),
+                 QStringLiteral("--base-datos"), Servidor().Direccion(base, QString::fromLatin1(usuario))},
+                carpeta.path());
+        };
+        Salida s = guardar("sin entradas", "lector");
+        QCOMPARE(s.estado, 1);
+        const std::string rechazo = bd::MsgNoSeGuarda(bd::CausaPostgreSQL("42501", "", "lector"));
+        QVERIFY2(s.err.contains(QString::fromStdString(rechazo)), qPrintable(s.err));
+        for (const char* nombre : {"uno", "dos"}) {
+            s = guardar(nombre, "vanta");
+            QCOMPARE(s.estado, 0);
+            QVERIFY2(!s.err.contains(QStringLiteral("NOTICE")), qPrintable(s.err));
+        }
+        Mirada m(Servidor().Direccion(base));
+        QCOMPARE(m.Nombres(), (QStringList{"de la profesora", "uno", "dos"}));
+        QCOMPARE(m.Valor(QStringLiteral("SELECT count(*) FROM EntradasCalculo")).toInt(), 2);
     }
 
     void laContrasenaLaPideLaVentanaYLaLineaDeOrdenesLaTomaDelEntorno() {
