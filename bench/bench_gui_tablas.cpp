@@ -14,8 +14,8 @@
 #include "app/LineaComandos.h"
 #include "core/services/Numeros.h"
 #include "core/tables/TablasPropiedades.h"
-#include "gui/tables/frmHerramientas.h"
-#include "gui/tables/frmTablas.h"
+#include "gui/tables/VentanaHerramientas.h"
+#include "gui/tables/VentanaTablas.h"
 
 namespace {
 
@@ -49,7 +49,7 @@ void BM_TablaAireEnElVisor(benchmark::State& estado) {
     Estado e;
     DialogosGrabados dlg;
     FluidoDeLasPantallas(e, dlg);
-    frmHerramientas f(e, dlg, {});
+    VentanaHerramientas f(e, dlg, {});
     f.MostrarCicloActual();
     f.findChild<QLineEdit*>(QStringLiteral("txtAT"))->setText(QStringLiteral("0.1"));
     auto* tablas = f.findChild<QPushButton*>(QStringLiteral("cmdTablas"));

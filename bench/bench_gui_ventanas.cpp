@@ -14,11 +14,11 @@
 #include <memory>
 
 #include "core/services/Numeros.h"
-#include "gui/cycle/frmOtto_Diesel.h"
-#include "gui/fluids/frmAireHumedad.h"
-#include "gui/fluids/frmCombustible.h"
-#include "gui/fluids/frmGasesCombustion.h"
-#include "gui/mainwindow/frmFase1.h"
+#include "gui/cycle/VentanaCiclo.h"
+#include "gui/fluids/VentanaAire.h"
+#include "gui/fluids/VentanaCombustible.h"
+#include "gui/fluids/VentanaCombustion.h"
+#include "gui/mainwindow/VentanaPrincipal.h"
 #include "gui/services/Dialogos.h"
 
 namespace {
@@ -63,7 +63,7 @@ public:
 struct ProgramaListo {
     Estado e;
     DialogosGrabados dlg;
-    frmFase1 f{e, &dlg, kDiseno};
+    VentanaPrincipal f{e, &dlg, kDiseno};
     QPushButton* calcular = nullptr;
 
     ProgramaListo() {
@@ -71,16 +71,16 @@ struct ProgramaListo {
         f.show();
         QApplication::processEvents();
         f.cmdElegirComburente_Click();
-        Hijo<QPushButton>(f.AireHumedad(), "cmdCal")->click();
+        Hijo<QPushButton>(f.Aire(), "cmdCal")->click();
         f.cmdCombustible_Click();
         auto* lista = Hijo<QComboBox>(f.Combustible(), "cboTipCom");
         lista->setCurrentIndex(lista->findText(QStringLiteral("Gasolina")));
         f.Combustible()->cboTipCom_Click();
         f.cmdCarCombustion_Click();
-        Hijo<QPushButton>(f.GasesCombustion(), "cmdCalcular")->click();
+        Hijo<QPushButton>(f.Combustion(), "cmdCalcular")->click();
         f.cmdCarCiclo_Click();
-        f.Otto_Diesel()->imgOtto_Click();
-        calcular = Hijo<QPushButton>(f.Otto_Diesel(), "cmdCal");
+        f.Ciclo()->imgOtto_Click();
+        calcular = Hijo<QPushButton>(f.Ciclo(), "cmdCal");
         QApplication::processEvents();
     }
 };
@@ -106,7 +106,7 @@ void BM_ArranqueHastaPrimerPintado(benchmark::State& estado) {
     for (auto _ : estado) {
         Estado e;
         DialogosGrabados dlg;
-        auto f = std::make_unique<frmFase1>(e, &dlg, kDiseno);
+        auto f = std::make_unique<VentanaPrincipal>(e, &dlg, kDiseno);
         EsperaPintado espera;
         Hijo<QLabel>(f.get(), "imgPresentacion")->installEventFilter(&espera);
         f->show();

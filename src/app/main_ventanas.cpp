@@ -21,8 +21,8 @@
 #include "gui/comparison/Figuras.h"
 #include "gui/database/CarpetaDatos.h"
 #include "gui/database/GuardarBaseDatos.h"
-#include "gui/database/frmElegirBaseDatos.h"
-#include "gui/mainwindow/frmFase1.h"
+#include "gui/database/VentanaElegirBaseDatos.h"
+#include "gui/mainwindow/VentanaPrincipal.h"
 #include "gui/reports/PaginaWeb.h"
 #include "gui/resources/Programa.h"
 #include "gui/services/SuperficiesSinVentana.h"
@@ -130,7 +130,7 @@ int Ventanas(int argc, char** argv) {
 
     vanta::Estado e;
     e.SeparadorDecimal = SeparadorDelSistema();
-    vanta::frmFase1 principal(e);
+    vanta::VentanaPrincipal principal(e);
     principal.FijarDireccionBaseDatos(vanta::DireccionRecordada());
     principal.show();
     return QApplication::exec();

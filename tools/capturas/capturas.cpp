@@ -41,19 +41,19 @@ void LasVentanasDelCiclo() {
     Programa p{QSize()};  // the size the program starts with on this screen
     Guardar(&p.f, "ventana-principal-inicio.png");
     Comprobar(p.Pulsar("cmdElegirComburente"));
-    Guardar(p.f.AireHumedad(), "aire.png");
-    Comprobar(p.Pulsar(Hijo<QPushButton>(p.f.AireHumedad(), "cmdCal")));
+    Guardar(p.f.Aire(), "aire.png");
+    Comprobar(p.Pulsar(Hijo<QPushButton>(p.f.Aire(), "cmdCal")));
     Comprobar(p.Pulsar("cmdCombustible"));
     Programa::ElegirCombustible(p.f.Combustible(), QStringLiteral("Gasolina"));
     Comprobar(p.Pulsar("cmdCarCombustion"));
-    Guardar(p.f.GasesCombustion(), "gases.png");
-    Comprobar(p.Pulsar(Hijo<QPushButton>(p.f.GasesCombustion(), "cmdCalcular")));
+    Guardar(p.f.Combustion(), "gases.png");
+    Comprobar(p.Pulsar(Hijo<QPushButton>(p.f.Combustion(), "cmdCalcular")));
     Guardar(&p.f, "ventana-principal-combustion.png");
     Comprobar(p.Pulsar("cmdCarCiclo"));
-    Guardar(p.f.Otto_Diesel(), "ciclo-elegir.png");
-    QTest::mouseClick(Hijo<QLabel>(p.f.Otto_Diesel(), "imgMixto"), Qt::LeftButton);
-    Programa::Elegir(Hijo<QRadioButton>(p.f.Otto_Diesel(), "optProporcion"));
-    Guardar(p.f.Otto_Diesel(), "ciclo.png");
+    Guardar(p.f.Ciclo(), "ciclo-elegir.png");
+    QTest::mouseClick(Hijo<QLabel>(p.f.Ciclo(), "imgMixto"), Qt::LeftButton);
+    Programa::Elegir(Hijo<QRadioButton>(p.f.Ciclo(), "optProporcion"));
+    Guardar(p.f.Ciclo(), "ciclo.png");
     Comprobar(p.Calcular());
     Hijo<QLineEdit>(&p.f, "txtRpm")->setText(QStringLiteral("3000"));
     Guardar(&p.f, "ventana-principal.png");
@@ -69,8 +69,8 @@ void LasVentanasDelCiclo() {
 void LasCifrasGrandes() {
     Programa p{QSize()};
     Comprobar(p.Etapa1() && p.Etapa2(QStringLiteral("Gasoil")) && p.Etapa3() && p.AbrirCiclo("imgDiesel"));
-    Hijo<QLineEdit>(p.f.Otto_Diesel(), "txtCilindrada")->setText(QStringLiteral("900000000"));
-    Hijo<QLineEdit>(p.f.Otto_Diesel(), "txtRc")->setText(QStringLiteral("18"));
+    Hijo<QLineEdit>(p.f.Ciclo(), "txtCilindrada")->setText(QStringLiteral("900000000"));
+    Hijo<QLineEdit>(p.f.Ciclo(), "txtRc")->setText(QStringLiteral("18"));
     Comprobar(p.Calcular());
     Hijo<QLineEdit>(&p.f, "txtRpm")->setText(QStringLiteral("3000"));
     Guardar(&p.f, "ventana-principal-cifras-grandes.png");

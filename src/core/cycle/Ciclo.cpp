@@ -66,7 +66,7 @@ constexpr std::string_view kMascaraPotencia = "### ### ### ##0.0";
 
 void Fallo(Estado& e, Mensajes& msj, std::string_view mensaje, CampoEntrada entrada = {}) {
     msj.MsgBox(mensaje, std::move(entrada));
-    e.ErrorCalculo = Verdadero;
+    e.ErrorCalculo = true;
 }
 
 // The boxes, each through the validator with its name.
@@ -330,7 +330,7 @@ void FormCiclo_Load(Estado& e, Entradas& x) {
 }
 
 void FormCiclo_Activate(Estado& e) {
-    e.ErrorCalculo = Falso;
+    e.ErrorCalculo = false;
 }
 
 VistaCiclo ElegirCiclo(Estado& e, TipoCiclo ciclo) {
@@ -338,10 +338,10 @@ VistaCiclo ElegirCiclo(Estado& e, TipoCiclo ciclo) {
     switch (ciclo) {
         case TipoCiclo::Otto:
             e.Pmax = kPmaxOtto;
-            e.OpcionProporcion = Falso;
+            e.OpcionProporcion = false;
             return {kMarcosOttoDiesel, {.otto = true, .diesel = false, .mixto = false}};
         case TipoCiclo::Diesel:
-            e.OpcionProporcion = Falso;
+            e.OpcionProporcion = false;
             return {kMarcosOttoDiesel, {.otto = false, .diesel = true, .mixto = false}};
         case TipoCiclo::Mixto:
             break;
@@ -362,10 +362,10 @@ void ElegirModeloExpansion(Estado& e, Modelo modelo) {
     e.ModeloExpansion = modelo;
 }
 void optProporcion_Click(Estado& e) {
-    e.OpcionProporcion = Verdadero;
+    e.OpcionProporcion = true;
 }
 void optPmax_Click(Estado& e) {
-    e.OpcionProporcion = Falso;
+    e.OpcionProporcion = false;
 }
 
 std::string txtPropVcte_Change(Estado& e, Mensajes& msj, Entradas& x) {
@@ -387,7 +387,7 @@ ResultadoCiclo CalcularCiclo(Estado& e, Mensajes& msj, const Entradas& x, Diagra
     ResultadoCiclo r;
     // Preparation.
     r.botones.push_back(kAlCalcular);
-    e.ErrorCalculo = Falso;
+    e.ErrorCalculo = false;
     e.PresionMaxima = 0;
     e.TemperaturaMaxima = 0;
     e.FraccionQuemada = 0;

@@ -216,7 +216,7 @@ void BuscarGradoCombustionPmax(Estado& e, Mensajes& msj) {
         if (e.ErrorCalculo) return;
         if (pasos > kPasosMaximosPmax) {
             msj.MsgBox(kMensajePmaxNoConverge);
-            e.ErrorCalculo = Verdadero;
+            e.ErrorCalculo = true;
             return;
         }
         e.MolesQuemados = (e.MolesInferior + e.MolesSuperior) / 2;
@@ -261,7 +261,7 @@ void CalorVolumenConstante(Estado& e, Mensajes& msj, Diagramas& g, TipoCalorIsoc
         }
         if (pasos > kPasosMaximosIsocora || !std::isfinite(e.TemperaturaIsocoraA)) {
             if (!e.ErrorCalculo) msj.MsgBox(kMensajeIsocoraNoConverge);
-            e.ErrorCalculo = Verdadero;
+            e.ErrorCalculo = true;
             return;
         }
         e.TemperaturaIsocoraA = e.CalorPorMol / e.CvHumos + e.TemperaturaInicial;
@@ -336,7 +336,7 @@ void ColaIsobara(Estado& e, Mensajes& msj, Diagramas& g, double volumenLimite, d
         // Told once, not once a level.
         if (!volumenAvisado) msj.MsgBox(kMensajeVolumenExcesivo);
         volumenAvisado = true;
-        e.ErrorCalculo = Verdadero;
+        e.ErrorCalculo = true;
     }
     PonerEstadoFinal(e, msj, calor, e.W34acumulado, e.PresionInicial, e.VolumenIsobaro, e.Temperatura);
     if (dibujar == Dibujo::Dibujar) LineaVolumen(g, e.VolumenFinal, e.TemperaturaFinal, e.PresionFinal);
@@ -360,7 +360,7 @@ void CalorPresionConstante(Estado& e, Mensajes& msj, Diagramas& g, double volume
             // or the gases' enthalpy has no temperature for it.
             const bool techo = e.TemperaturaSuperior == kTemperaturaSuperiorIsobara;
             if (!e.ErrorCalculo) msj.MsgBox(techo ? kMensajeTemperaturaIsobara : kMensajeIsobaraNoConverge);
-            e.ErrorCalculo = Verdadero;
+            e.ErrorCalculo = true;
             return;
         }
         const bool sube = calor > e.CalorIsobaro;
@@ -377,7 +377,7 @@ void CalorPresionConstante(Estado& e, Mensajes& msj, Diagramas& g, double volume
         if (sube) {
             if (e.TemperaturaInferior > kTemperaturaSuperiorIsobara) {
                 msj.MsgBox(kMensajeTemperaturaIsobara);
-                e.ErrorCalculo = Verdadero;
+                e.ErrorCalculo = true;
             }
             // The second call finds the bounds unchanged: one trial and the tail.
             ProbarTemperaturaIsobara(e, msj, calor);

@@ -58,7 +58,7 @@ void CalCien(Estado& e, Mensajes& msj, Entradas& x, SalidasCombustible& s) {
 
     if (e.AtomosC + e.AtomosH + e.AtomosN + e.AtomosO + e.AtomosS == 0) {
         msj.MsgBox(kMensajeSinComponentes);
-        e.ErrorCalculo = Verdadero;
+        e.ErrorCalculo = true;
     }
     if (!e.ErrorCalculo) {
         const double mC = e.AtomosC * kMasaAtomicaC, mH = e.AtomosH * kMasaAtomicaH,
@@ -170,7 +170,7 @@ bool ElegirEntradaLista(Estado& e, Mensajes& msj, std::string_view lista, Entrad
     const bool otros = lista == kOtrosCombustibles;
     if (!combustible && !otros) return false;  // nothing chosen
 
-    e.ErrorCalculo = Falso;
+    e.ErrorCalculo = false;
     v.entradaPropia = otros;
     v.tituloOtros = lista;
     if (otros) {
@@ -185,7 +185,7 @@ bool ElegirEntradaLista(Estado& e, Mensajes& msj, std::string_view lista, Entrad
 
 bool CalcularCombustiblePropio(Estado& e, Mensajes& msj, std::string_view lista, Entradas& x,
                                VistaCombustible& v, SalidasCombustible& s, Superficie& pct2) {
-    e.ErrorCalculo = Falso;
+    e.ErrorCalculo = false;
     if (lista != kOtrosCombustibles) {
         msj.MsgBox(kMensajeElijaOtros, Campo(Entrada("combustible")));
         msj.Foco(Campo(Entrada("combustible")));
@@ -206,13 +206,13 @@ bool CalcularCombustiblePropio(Estado& e, Mensajes& msj, std::string_view lista,
     if (e.CienN + e.CienC + e.CienO + e.CienS > 100.0) {
         msj.MsgBox(kMensajeSuperaCien, carbono);
         msj.Foco(carbono);
-        e.ErrorCalculo = Verdadero;
+        e.ErrorCalculo = true;
         return false;
     }
     if (e.CienH + e.CienC == 0) {
         msj.MsgBox(kMensajeSinCarbonoNiHidrogeno, carbono);
         msj.Foco(carbono);
-        e.ErrorCalculo = Verdadero;
+        e.ErrorCalculo = true;
         return false;
     }
     GraficaCombustible(e, pct2, lista);

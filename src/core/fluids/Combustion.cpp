@@ -64,7 +64,7 @@ void txtFr_Change(Estado& e, Mensajes& msj, Entradas& x, VariablesCombustion& v)
     ValidarNumero(e, msj, x.fr, e.Fr, kNombreCambioFr, fr);
     if (e.Fr < 0) {
         msj.MsgBox(kMensajeFrNegativo, fr);
-        e.ErrorCalculo = Verdadero;
+        e.ErrorCalculo = true;
     } else if (e.Fr > 0) {
         MostrarInverso(e, msj, e.Fr, v.Lambda, x.lambda);
     }
@@ -76,7 +76,7 @@ void txtLambda_Change(Estado& e, Mensajes& msj, Entradas& x, VariablesCombustion
     LeerEntrada(e, msj, lambda, x.lambda, v.Lambda);
     if (v.Lambda < 0) {
         msj.MsgBox(kMensajeLambdaNegativo, Campo(lambda));
-        e.ErrorCalculo = Verdadero;
+        e.ErrorCalculo = true;
     } else if (v.Lambda > 0) {
         // The calculation then works with this rounded Fr.
         MostrarInverso(e, msj, v.Lambda, e.Fr, x.fr);
@@ -104,7 +104,7 @@ bool CalcularHumos(Estado& e, Mensajes& msj, const Entradas& x, VariablesCombust
         }
     }
 
-    e.ErrorCalculo = Falso;
+    e.ErrorCalculo = false;
     const DefinicionEntrada& fr = Entrada("fr");
     LeerEntrada(e, msj, fr, x.fr, e.Fr);
     // Told once the flag is clear, so that the message is seen.
@@ -114,7 +114,7 @@ bool CalcularHumos(Estado& e, Mensajes& msj, const Entradas& x, VariablesCombust
     }
     if (e.Fr < 0) {
         msj.MsgBox(kMensajeFrNegativo, Campo(fr));
-        e.ErrorCalculo = Verdadero;
+        e.ErrorCalculo = true;
         return false;
     }
     if (e.Fr == 0) {
@@ -136,7 +136,7 @@ bool CalcularHumos(Estado& e, Mensajes& msj, const Entradas& x, VariablesCombust
     VariablesCombustion d = v;
     if (R < 0) {
         msj.MsgBox(kMensajeExceso, Campo(fr));
-        e.ErrorCalculo = Verdadero;
+        e.ErrorCalculo = true;
     } else if (R == cC) {
         d.nCO = 0, d.nCO2 = cC, d.nS = sS, d.nSO2 = 0, d.OxigenoSobrante = 0;
     } else if (R < cC) {

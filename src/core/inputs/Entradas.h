@@ -78,48 +78,48 @@ enum class TipoEntrada {
 struct LimitesEntrada {
     double minimo = 0;
     bool minimoIncluido = true;
-    std::string_view mensajeMinimo;
+    std::string_view mensajeMinimo = {};
     double maximo = 0;
     bool maximoIncluido = true;
-    std::string_view mensajeMaximo;
+    std::string_view mensajeMaximo = {};
 };
 
 struct DefinicionEntrada {
-    std::string_view nombre;
-    std::string_view titulo;
-    std::string_view unidad;        // empty for a choice
-    std::string_view metavariable;  // the value in the help: "PA", "C,H,N,O,S"
-    EtapaEntrada etapa;
-    TipoEntrada tipo;
+    std::string_view nombre = {};
+    std::string_view titulo = {};
+    std::string_view unidad = {};        // empty for a choice
+    std::string_view metavariable = {};  // the value in the help: "PA", "C,H,N,O,S"
+    EtapaEntrada etapa = {};
+    TipoEntrada tipo = {};
     // The text as the screens start; empty: none (the ambient for p1 and t1,
     // no power for rpm, the user's own fuel).
-    std::string_view porDefecto;
+    std::string_view porDefecto = {};
     // The boxes of its window, one a number; for a choice, the control of
     // each value in the order of the values, or the one list that holds them.
-    std::vector<std::string_view> controles;
+    std::vector<std::string_view> controles = {};
     // The name each number is given in the messages of ValidarNumero.
-    std::vector<std::string_view> nombresMensaje;
+    std::vector<std::string_view> nombresMensaje = {};
     // The values of a choice, as written on the command line.
-    std::vector<std::string_view> valores;
+    std::vector<std::string_view> valores = {};
     // What the command line says of a value it cannot take: of a choice,
     // "ciclo desconocido" (and the value); of several numbers, how many.
-    std::string_view rechazo;
+    std::string_view rechazo = {};
     // Inputs of one group exclude each other; the first of the group in the
     // table is what the screens start with. Empty: none.
-    std::string_view grupo;
+    std::string_view grupo = {};
     // The inputs it is given with (one of them) and those it needs.
-    std::vector<std::string_view> acompana, necesita;
-    LimitesEntrada limites;
+    std::vector<std::string_view> acompana = {}, necesita = {};
+    LimitesEntrada limites = {};
 
     // The texts of the input: one a number, or the choice's name; none when
     // it is not given (its form not chosen, p1 and t1 left to the ambient,
     // no speed).
-    std::vector<std::string> (*leer)(const Entradas&);
+    std::vector<std::string> (*leer)(const Entradas&) = nullptr;
     // The text of number i, for writing (a number's input only).
-    std::string* (*texto)(Entradas&, int i);
+    std::string* (*texto)(Entradas&, int i) = nullptr;
     // Chooses a value of a choice, or the input's form in its group; false
     // for a value not in the list.
-    bool (*elegir)(Entradas&, std::string_view valor);
+    bool (*elegir)(Entradas&, std::string_view valor) = nullptr;
 
     int Campos() const { return static_cast<int>(nombresMensaje.size()); }
     bool Numerica() const { return tipo == TipoEntrada::Numero; }

@@ -173,7 +173,7 @@ void BuscarGammaMedio(Estado& e, Mensajes& msj, double p1, double V1, double V2,
     while (std::fabs(e.TemperaturaAnterior - e.TemperaturaPolitropica) > kToleranciaGammaMedio) {
         if (++pasos > kPasosMaximosGammaMedio || !std::isfinite(e.TemperaturaPolitropica)) {
             if (!e.ErrorCalculo) msj.MsgBox(kMensajeNoConverge);
-            e.ErrorCalculo = Verdadero;
+            e.ErrorCalculo = true;
             return;
         }
         e.TemperaturaAnterior = e.TemperaturaPolitropica;

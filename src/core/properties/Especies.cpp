@@ -120,7 +120,7 @@ double PolinomioEntropia(const Estado& e, double a1, double a2, double a3, doubl
 
 void CalcularEspecies(Estado& e, Mensajes& msj) {
     if (e.Temperatura > kTemperaturaLimite) {
-        e.ErrorCalculo = Verdadero;
+        e.ErrorCalculo = true;
         msj.MsgBox(std::string(kMensajeLimite) +
                    Format(e.Temperatura, "### ### ### ### ### ###", e.SeparadorDecimal) + " K");
     }

@@ -132,7 +132,8 @@ struct EscritorJSON {
     }
     void operator()(const char* nombre, double v) { Clave(nombre), s += TextoNumeroJSON(v); }
     void operator()(const char* nombre, float v) { Clave(nombre), s += TextoNumeroJSON(v); }
-    void operator()(const char* nombre, int16_t v) { Clave(nombre), s += std::to_string(v); }
+    // The program's flags are written as it keeps them: True -1, False 0.
+    void operator()(const char* nombre, bool v) { Clave(nombre), s += v ? "-1" : "0"; }
     void operator()(const char* nombre, int32_t v) { Clave(nombre), s += std::to_string(v); }
     void operator()(const char* nombre, Fluido v) { Clave(nombre), s += std::to_string(static_cast<int>(v)); }
     void operator()(const char* nombre, Modelo v) { Clave(nombre), s += std::to_string(static_cast<int>(v)); }

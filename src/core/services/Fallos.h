@@ -17,7 +17,7 @@ inline void FalloAritmetico(Estado& e, Mensajes& msj, std::string_view causa) {
     if (!e.ErrorCalculo)
         msj.MsgBox("Error de cálculo: " + std::string(causa) +
                    ". Revise los datos y pulse el botón \"CALCULAR\" otra vez.");
-    e.ErrorCalculo = Verdadero;
+    e.ErrorCalculo = true;
 }
 
 }  // namespace vanta

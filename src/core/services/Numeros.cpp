@@ -274,7 +274,7 @@ void ValidarNumero(Estado& e, Mensajes& msj, std::string_view texto, double& des
     }
     msj.MsgBox(std::string(nombre) + std::string(kNoEsNumero), entrada);
     msj.Foco(entrada);
-    e.ErrorCalculo = Verdadero;
+    e.ErrorCalculo = true;
 }
 
 void ValidarNumero(Estado& e, Mensajes& msj, std::string_view texto, float& destino, std::string_view nombre,

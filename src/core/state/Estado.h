@@ -13,11 +13,6 @@
 
 namespace vanta {
 
-// 16-bit booleans of the program: True is -1, False is 0.
-using Booleano16 = int16_t;
-inline constexpr Booleano16 Verdadero = -1;
-inline constexpr Booleano16 Falso = 0;
-
 // Models of compression and expansion.
 enum class Modelo : int {
     GammaMedio = 1,     // "Exponente adiabático medio"
@@ -155,14 +150,14 @@ enum class Fluido : int16_t {
     X(double, xO2Aire)
 
 // The one flag of failure.
-#define VANTA_CAMPOS_VARIOS(X) X(Booleano16, ErrorCalculo)
+#define VANTA_CAMPOS_VARIOS(X) X(bool, ErrorCalculo)
 
 // What the user chose for the cycle, and the pens of the diagrams.
 #define VANTA_CAMPOS_OPCIONES_USUARIO(X) \
     X(double, PasoVolumen)               \
     X(double, PropPcte)                  \
     X(double, PropVcte)                  \
-    X(Booleano16, OpcionProporcion)      \
+    X(bool, OpcionProporcion)            \
     X(int32_t, ColorEscape)              \
     X(int32_t, ColorCompresion)          \
     X(int32_t, ColorCombustionV)         \
@@ -264,8 +259,8 @@ enum class Fluido : int16_t {
     VANTA_CAMPOS_ESPECIES_RANGO(X, Alta)
 
 #define VANTA_CAMPOS_FUNCIONES_AUXILIARES(X) \
-    X(Booleano16, TablaHumosDisponible)      \
-    X(Booleano16, TablaAireDisponible)
+    X(bool, TablaHumosDisponible)            \
+    X(bool, TablaAireDisponible)
 
 #define VANTA_CAMPOS_DIAGRAMA_TVPV(X) \
     X(Modelo, ModeloExpansion)        \

@@ -61,7 +61,7 @@ std::string FueraDeRango(const Estado& e, double temperatura) {
 // A refusal of the tool: its message, the flag, and no table.
 bool Rechazar(Estado& e, Mensajes& msj, VisorTablas& v, std::string_view mensaje) {
     msj.MsgBox(mensaje);
-    e.ErrorCalculo = Verdadero;
+    e.ErrorCalculo = true;
     v.Ocultar();
     return false;
 }
@@ -160,7 +160,7 @@ bool cmdTablas_Click(Estado& e, Mensajes& msj, const EntradasHerramientas& c, Mi
                      VisorTablas& v, std::string_view tipoCombustible) {
     // Each press starts clear, as CALCULAR does: a refused text of the last
     // table must not silence the evaluations of this one.
-    e.ErrorCalculo = Falso;
+    e.ErrorCalculo = false;
     v.Mostrar();
     v.PonerTexto(" ");
     const bool aire = c.aire, humos = c.humos;
@@ -223,7 +223,7 @@ bool cmdTablas_Click(Estado& e, Mensajes& msj, const EntradasHerramientas& c, Mi
 
 bool cmdTab_Click(Estado& e, Mensajes& msj, const EntradasHerramientas& c, MiembrosHerramientas& m,
                   VisorTablas& v) {
-    e.ErrorCalculo = Falso;
+    e.ErrorCalculo = false;
     v.Mostrar();
     if (!LeerLimites(e, msj, c, m)) {
         v.Ocultar();

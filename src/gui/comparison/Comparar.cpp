@@ -7,18 +7,18 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "gui/comparison/frmComparacion.h"
+#include "gui/comparison/VentanaComparacion.h"
 #include "gui/database/EntradasCalculo.h"
 #include "gui/services/Controles.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
 
-frmElegirRegistros::frmElegirRegistros(const std::vector<std::string>& nombres,
-                                       const std::vector<qint64>& ids, int maximo, int minimo, qint64 marcado,
-                                       QWidget* padre)
+VentanaElegirRegistros::VentanaElegirRegistros(const std::vector<std::string>& nombres,
+                                               const std::vector<qint64>& ids, int maximo, int minimo,
+                                               qint64 marcado, QWidget* padre)
     : QDialog(padre), ids_(ids), maximo_(maximo), minimo_(minimo) {
-    setObjectName(QStringLiteral("frmElegirRegistros"));
+    setObjectName(QStringLiteral("VentanaElegirRegistros"));
     setWindowTitle(QStringLiteral("Comparar cálculos"));
     auto* lblElija = new QLabel(
         minimo_ == 0
@@ -39,7 +39,7 @@ frmElegirRegistros::frmElegirRegistros(const std::vector<std::string>& nombres,
     auto* cmdCancelar = NuevoBoton(this, "cmdCancelar", "Cancelar");
     connect(cmdComparar_, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
-    connect(lstRegistros_, &QListWidget::itemChanged, this, &frmElegirRegistros::AlMarcar);
+    connect(lstRegistros_, &QListWidget::itemChanged, this, &VentanaElegirRegistros::AlMarcar);
     auto* botones = new QHBoxLayout;
     botones->addWidget(lblAviso_, 1);
     botones->addWidget(cmdComparar_);
@@ -52,7 +52,7 @@ frmElegirRegistros::frmElegirRegistros(const std::vector<std::string>& nombres,
     AlMarcar(nullptr);
 }
 
-std::vector<qint64> frmElegirRegistros::Elegidos() const {
+std::vector<qint64> VentanaElegirRegistros::Elegidos() const {
     std::vector<qint64> e;
     for (int i = 0; i < lstRegistros_->count(); ++i)
         if (lstRegistros_->item(i)->checkState() == Qt::Checked) e.push_back(ids_[static_cast<size_t>(i)]);
@@ -60,7 +60,7 @@ std::vector<qint64> frmElegirRegistros::Elegidos() const {
 }
 
 // A record checked beyond the most is unchecked again, with a word why.
-void frmElegirRegistros::AlMarcar(QListWidgetItem* item) {
+void VentanaElegirRegistros::AlMarcar(QListWidgetItem* item) {
     lblAviso_->clear();
     if (item && item->checkState() == Qt::Checked && static_cast<int>(Elegidos().size()) > maximo_) {
         const QSignalBlocker callado(lstRegistros_);
@@ -104,7 +104,7 @@ void Comparar(QWidget* padre, AlmacenResultados* almacen, std::optional<CalculoC
             nombres.push_back(textos ? (*textos)[bd::kColumnaNombre] : std::string());
         }
         const int maximo = kMaximoComparados - static_cast<int>(calculos.size());
-        frmElegirRegistros eleccion(nombres, *ids, maximo, calculos.empty() ? 1 : 0, marcado, padre);
+        VentanaElegirRegistros eleccion(nombres, *ids, maximo, calculos.empty() ? 1 : 0, marcado, padre);
         if (eleccion.exec() != QDialog::Accepted) return;
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
         for (CalculoComparado& c : CalculosDeRegistros(*almacen, eleccion.Elegidos()))
@@ -112,7 +112,7 @@ void Comparar(QWidget* padre, AlmacenResultados* almacen, std::optional<CalculoC
         QGuiApplication::restoreOverrideCursor();
     }
     if (calculos.empty()) return;
-    auto* ventana = new frmComparacion(std::move(calculos), separador, dlg, padre);
+    auto* ventana = new VentanaComparacion(std::move(calculos), separador, dlg, padre);
     ventana->setAttribute(Qt::WA_DeleteOnClose);
     ventana->show();
 }

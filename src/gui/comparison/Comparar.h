@@ -18,21 +18,21 @@ class QPushButton;
 
 namespace vanta {
 
-class frmComparacion;
+class VentanaComparacion;
 
 // The most calculations a comparison lays side by side.
 inline constexpr int kMaximoComparados = 6;
 
 // "Comparar cálculos": the saved records, by their names, to check.
-class frmElegirRegistros : public QDialog {
+class VentanaElegirRegistros : public QDialog {
     Q_OBJECT
 
 public:
     // nombres and ids of the records in the order of saving; maximo: how many
     // may be checked; minimo: how many must (0 when the main window's
     // calculation comes too); marcado: the id checked at the start, or -1.
-    frmElegirRegistros(const std::vector<std::string>& nombres, const std::vector<qint64>& ids, int maximo,
-                       int minimo, qint64 marcado, QWidget* padre = nullptr);
+    VentanaElegirRegistros(const std::vector<std::string>& nombres, const std::vector<qint64>& ids,
+                           int maximo, int minimo, qint64 marcado, QWidget* padre = nullptr);
 
     std::vector<qint64> Elegidos() const;
     QListWidget* Lista() const { return lstRegistros_; }

@@ -6,7 +6,7 @@
 
 #include "core/database/Registro.h"
 #include "gui/database/EntradasCalculo.h"
-#include "gui/database/frmBaseDatos.h"
+#include "gui/database/VentanaBaseDatos.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
@@ -26,7 +26,7 @@ ImagenesRegistro ImagenesDeColumnas(const ImagenesPrincipal& imagenes) {
 }
 
 bool GuardarBaseDatos(const ResultadoCalculo& r, Dialogos& dlg, std::string_view informe,
-                      const ImagenesPrincipal& imagenes, frmBaseDatos& navegador) {
+                      const ImagenesPrincipal& imagenes, VentanaBaseDatos& navegador) {
     const Estado& e = *r.estado;
     const std::string& tipoCombustible = r.tipoCombustible;
     const std::string nombre = dlg.InputBox(bd::kPromptGuardar, bd::NombrePorDefecto(e, tipoCombustible));

@@ -16,7 +16,7 @@
 
 namespace vanta {
 
-class frmBaseDatos;
+class VentanaBaseDatos;
 
 // The seven pictures of the main window, indexed by CuadroImagen: pct1, pct2,
 // pct3, pctPV, pctTV, pctTS, pctHS (each surface's Imagen()).
@@ -33,7 +33,7 @@ ImagenesRegistro ImagenesDeColumnas(const ImagenesPrincipal& imagenes);
 // record. informe: the report as its viewer holds it. Returns whether a
 // record was added; a failure has shown its message.
 bool GuardarBaseDatos(const ResultadoCalculo& r, Dialogos& dlg, std::string_view informe,
-                      const ImagenesPrincipal& imagenes, frmBaseDatos& navegador);
+                      const ImagenesPrincipal& imagenes, VentanaBaseDatos& navegador);
 
 // The command line's save: one record with the name given, in the file BD.sqlite
 // of the current folder, or in the file or on the server that baseDatos names;

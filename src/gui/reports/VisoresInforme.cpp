@@ -5,8 +5,8 @@
 
 #include "core/files/EscribirArchivos.h"
 #include "gui/reports/PaginaWeb.h"
-#include "gui/reports/frmInforme.h"
-#include "gui/reports/frmMostrar.h"
+#include "gui/reports/VentanaInforme.h"
+#include "gui/reports/VentanaMostrarInforme.h"
 
 namespace vanta {
 
@@ -20,22 +20,22 @@ VisoresInforme::VisoresInforme(Dialogos& dlg, FuentePagina fuente, QWidget* padr
 }
 
 VisoresInforme::~VisoresInforme() {
-    delete frmInforme_.data();
-    delete frmMostrar_.data();
+    delete ventanaInforme_.data();
+    delete ventanaMostrarInforme_.data();
 }
 
-frmInforme* VisoresInforme::Informe() {
-    if (!frmInforme_) frmInforme_ = new frmInforme(*this, padre_);
-    return frmInforme_;
+VentanaInforme* VisoresInforme::Informe() {
+    if (!ventanaInforme_) ventanaInforme_ = new VentanaInforme(*this, padre_);
+    return ventanaInforme_;
 }
 
-frmMostrar* VisoresInforme::Mostrar() {
-    if (!frmMostrar_) frmMostrar_ = new frmMostrar(*this, padre_);
-    return frmMostrar_;
+VentanaMostrarInforme* VisoresInforme::Mostrar() {
+    if (!ventanaMostrarInforme_) ventanaMostrarInforme_ = new VentanaMostrarInforme(*this, padre_);
+    return ventanaMostrarInforme_;
 }
 
 void VisoresInforme::VerInforme(const std::string& txtInformeF1) {
-    frmInforme* ventana = Informe();
+    VentanaInforme* ventana = Informe();
     ventana->PonerTexto(txtInformeF1);
     rthInforme_ = txtInformeF1;
     ventana->show();
@@ -43,7 +43,7 @@ void VisoresInforme::VerInforme(const std::string& txtInformeF1) {
 }
 
 void VisoresInforme::AbrirInforme() {
-    frmMostrar* ventana = Mostrar();
+    VentanaMostrarInforme* ventana = Mostrar();
     ventana->show();
     ventana->raise();
 }

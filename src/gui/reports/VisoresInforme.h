@@ -1,11 +1,11 @@
 // The reports of the current calculation and the two windows that put
-// reports before the user: frmInforme (the report of the last calculation,
-// saved as text or as a page, printed) and frmMostrar (reports saved earlier).
+// reports before the user: VentanaInforme (the report of the last calculation,
+// saved as text or as a page, printed) and VentanaMostrarInforme (reports saved earlier).
 //
 // This object is the one holder of the report's buffer rthInforme: the text
 // that saving as text, printing and the results database take. It exists with
 // the main window, so the buffer has the report of the last calculation even
-// when frmInforme was never opened; the windows are made on first use and
+// when VentanaInforme was never opened; the windows are made on first use and
 // stay until this object goes.
 #pragma once
 
@@ -27,8 +27,8 @@ class QWidget;
 
 namespace vanta {
 
-class frmInforme;
-class frmMostrar;
+class VentanaInforme;
+class VentanaMostrarInforme;
 
 // What a page is made of: the last calculation that ended well (its state
 // and the text of its fuel list) and the pictures of the main window's
@@ -51,7 +51,7 @@ public:
 
     // ---- The buffers ----
     // The report of a calculation as it ends: rthInforme takes it; what
-    // frmInforme shows stays until the report is shown again.
+    // VentanaInforme shows stays until the report is shown again.
     void PonerInformeTexto(const std::string& texto) { rthInforme_ = texto; }
     const std::string& rthInforme() const { return rthInforme_; }
     // The last page built; nothing reads it but the saving that built it.
@@ -61,7 +61,7 @@ public:
 
     // ---- What the main window reaches ----
     // cmdInforme_Click and mnuInforme_Click: the main window's report into
-    // txtInforme and into rthInforme, and frmInforme shown, not modal.
+    // txtInforme and into rthInforme, and VentanaInforme shown, not modal.
     void VerInforme(const std::string& txtInformeF1);
     // Saving rthInforme as text: the save dialog of the text filters, then the
     // report with CR LF line ends, whatever extension was chosen. A cancel or
@@ -69,15 +69,15 @@ public:
     void GuardarTexto(QWidget* ventana);
     // Saving the page of the current state: the advice, the save dialog with
     // its default name ("Index" from the main window, "Ciclo" from
-    // frmInforme), the page and its seven bitmaps beside it. A cancel writes
+    // VentanaInforme), the page and its seven bitmaps beside it. A cancel writes
     // nothing; a failure ends it silently, keeping what was written.
     void GuardarPaginaWeb(QWidget* ventana, const DialogoArchivo& dialogo);
-    // mnuAbrirInforme_Click: frmMostrar shown, not modal.
+    // mnuAbrirInforme_Click: VentanaMostrarInforme shown, not modal.
     void AbrirInforme();
 
     // ---- The parts the windows share ----
-    frmInforme* Informe();  // made on first use
-    frmMostrar* Mostrar();  // made on first use
+    VentanaInforme* Informe();         // made on first use
+    VentanaMostrarInforme* Mostrar();  // made on first use
     // Prints a text through the printer dialog: the selection, when there is
     // one and the dialog keeps it, or else the whole text. A cancel prints
     // nothing.
@@ -98,8 +98,8 @@ private:
     std::string rthHTML_;
     QString archivoPagina_;
 
-    QPointer<frmInforme> frmInforme_;
-    QPointer<frmMostrar> frmMostrar_;
+    QPointer<VentanaInforme> ventanaInforme_;
+    QPointer<VentanaMostrarInforme> ventanaMostrarInforme_;
 };
 
 }  // namespace vanta

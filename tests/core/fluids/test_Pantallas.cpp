@@ -33,6 +33,11 @@ std::string Si(bool b) {
     return b ? "1" : "0";
 }
 
+// A flag of the state as the program writes it: True -1.
+std::string Bandera(bool b) {
+    return b ? "-1" : "0";
+}
+
 }  // namespace
 
 TEST(Pantallas, CadaEventoContraSuArchivo) {
@@ -76,7 +81,7 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
                    {"form", Si(vf.entradaPropia) + " " + vf.tituloOtros + " " + Si(vf.marcoOtros) + " " +
                                 std::to_string(bloqueo)},
                    {"oculta", "0"},
-                   {"Error", std::to_string(e.ErrorCalculo)}});
+                   {"Error", Bandera(e.ErrorCalculo)}});
     };
     CalcularCombustiblePropio(e, r.msj, kElijaCombustible, f, vf, sf, pct);
     combustible("cmdCal sin Otros");
@@ -110,7 +115,7 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
                    {"opt", Si(lider == FormaDosado::Fr) + Si(lider == FormaDosado::Lambda)},
                    {"Fr", TextoGeneral(e.Fr, '.')},
                    {"Lambda", TextoGeneral(vg.Lambda, '.')},
-                   {"Error", std::to_string(e.ErrorCalculo)}});
+                   {"Error", Bandera(e.ErrorCalculo)}});
     };
     auto cambia = [&](FormaDosado caja) {
         if (lider != caja) return;
@@ -136,7 +141,7 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
         cambia(FormaDosado::Lambda);
         gases(std::string("txtLambda_Change ") + t);
     }
-    e.ErrorCalculo = Falso;
+    e.ErrorCalculo = false;
     const bool humosBien = CalcularHumos(e, r.msj, g, vg, pct);
     gases(std::string("CalcularHumos ") + Si(humosBien));
 
@@ -157,7 +162,7 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
                    {"marcos", Si(m.compresion) + Si(m.expansion) + Si(m.aire) + Si(m.opcion) + Si(m.datos) +
                                   Si(m.seleccionar)},
                    {"resaltado", Si(h.otto) + Si(h.diesel) + Si(h.mixto)},
-                   {"OpcionProporcion", std::to_string(e.OpcionProporcion)},
+                   {"OpcionProporcion", Bandera(e.OpcionProporcion)},
                    {"PropVcte", c.proporcionVcte},
                    {"PropPcte", propPcte}});
     };
@@ -202,7 +207,7 @@ TEST(Pantallas, CadaEventoContraSuArchivo) {
     // The power block, on a calculated cycle's work.
     e.Wciclo = 149.4567;
     for (const char* t : {"3000", "", "rpm", "-1200", "1e306"}) {
-        e.ErrorCalculo = Falso;
+        e.ErrorCalculo = false;
         const auto p = txtRpm_Change(e, r.msj, e.Wciclo, t);
         r(std::string("txtRpm_Change ") + t,
           {{"W", p ? p->potencia : "antes"}, {"CV", p ? p->potenciaCV : "antes"}});

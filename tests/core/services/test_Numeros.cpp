@@ -109,6 +109,6 @@ TEST(Numeros, ValidarNumeroDiceElNombreGuardaElValorYNuncaBorraElFallo) {
     ValidarNumero(e, m, "1,23", destino, " n ", {"n-expansion"});
     EXPECT_EQ(destino, 1.23);
     EXPECT_EQ(m.foco.nombre, "pmax");
-    EXPECT_EQ(e.ErrorCalculo, Verdadero);
+    EXPECT_EQ(e.ErrorCalculo, true);
     EXPECT_EQ(m.lista.size(), 2u);
 }

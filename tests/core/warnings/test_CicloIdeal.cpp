@@ -48,7 +48,7 @@ TEST(CicloIdeal, MixtoReparteElCalorPorSuPropiaEntrada) {
     const double otto = CalcularCicloIdeal(Ciclo("Otto", 14, 300), g, g).rendimiento;
     const double diesel = CalcularCicloIdeal(Ciclo("Diesel", 14, 300), g, g).rendimiento;
     Estado mixto = Ciclo("Mixto", 14, 300);
-    mixto.OpcionProporcion = Verdadero;
+    mixto.OpcionProporcion = true;
     auto conProporcion = [&](double vcte) {
         mixto.PropVcte = vcte;
         return CalcularCicloIdeal(mixto, g, g).rendimiento;
@@ -60,7 +60,7 @@ TEST(CicloIdeal, MixtoReparteElCalorPorSuPropiaEntrada) {
     // Up to a maximum pressure: all of the heat at constant volume when the
     // limit is never reached; none at all with the limit at p2; no cycle
     // below it.
-    mixto.OpcionProporcion = Falso;
+    mixto.OpcionProporcion = false;
     const double p2 = mixto.p1 * std::pow(14.0, g);
     mixto.Pmax = 1e12;
     EXPECT_DOUBLE_EQ(CalcularCicloIdeal(mixto, g, g).rendimiento, otto);

@@ -10,8 +10,8 @@
 
 #include "gui/comparison/Comparar.h"
 #include "gui/comparison/SuperficiePintor.h"
-#include "gui/comparison/frmComparacion.h"
-#include "gui/comparison/frmExportar.h"
+#include "gui/comparison/VentanaComparacion.h"
+#include "gui/comparison/VentanaExportar.h"
 #include "gui/database/EntradasCalculo.h"
 #include "tests/gui/database/Banco.h"
 #include "tests/gui/mainwindow/Programa.h"
@@ -63,7 +63,7 @@ private slots:
         // A save keeps the inputs beside the record.
         QVERIFY(EntradasGuardadas(*r.almacen, r.ids[0]));
         const auto pixeles = [&](std::vector<qint64> ids) {
-            frmComparacion f(CalculosDeRegistros(*r.almacen, ids), '.', r.dlg);
+            VentanaComparacion f(CalculosDeRegistros(*r.almacen, ids), '.', r.dlg);
             f.resize(1200, 800);
             f.show();
             for (const CalculoComparado& c : f.Calculos()) [&] { QVERIFY2(c.Hay(), c.mensaje.c_str()); }();
@@ -83,7 +83,7 @@ private slots:
         Registros r;
         std::vector<CalculoComparado> c = CalculosDeRegistros(*r.almacen, {r.ids[0], r.ids[1], 999});
         QCOMPARE(c[2].mensaje, r.almacen->Error());
-        frmComparacion f(std::move(c), ',', r.dlg);
+        VentanaComparacion f(std::move(c), ',', r.dlg);
         QTableWidget* t = f.Tabla();
         QCOMPARE(t->item(0, 0)->text(), QStringLiteral("Aviso"));
         QCOMPARE(t->item(1, 0)->text(), QStringLiteral("Ciclo"));
@@ -145,8 +145,8 @@ private slots:
         const auto calculos = std::make_shared<const std::vector<CalculoComparado>>(
             1, CalculoDeEstado("Otto", otto.e, otto.combustible));
         DialogosGrabados dlg;
-        frmExportar v([calculos](UnidadPresion u) { return FigurasDiagramas(calculos, u, '.'); },
-                      UnidadPresion::Pa, {0, 1, 2, 3}, dlg);
+        VentanaExportar v([calculos](UnidadPresion u) { return FigurasDiagramas(calculos, u, '.'); },
+                          UnidadPresion::Pa, {0, 1, 2, 3}, dlg);
         QTemporaryDir carpeta;
         v.FijarFormato(FormatoFigura::PDF);
         QVERIFY(v.Guardar(carpeta.filePath(QStringLiteral("cuatro.pdf"))));
@@ -172,7 +172,7 @@ private slots:
         std::vector<size_t> elegidas;
         int figuras = 0;
         p.f.FijarMostrarModal([&](QDialog& d) {
-            if (auto* x = qobject_cast<frmExportar*>(&d)) {
+            if (auto* x = qobject_cast<VentanaExportar*>(&d)) {
                 elegidas = x->Elegidas();
                 figuras = x->Lista()->count();
             }
@@ -193,7 +193,7 @@ private slots:
     void NoSeEligenMasDeSeisRegistros() {
         std::vector<std::string> nombres(8, "r");
         std::vector<qint64> ids = {1, 2, 3, 4, 5, 6, 7, 8};
-        frmElegirRegistros f(nombres, ids, kMaximoComparados, 1, 3, nullptr);
+        VentanaElegirRegistros f(nombres, ids, kMaximoComparados, 1, 3, nullptr);
         QCOMPARE(f.Elegidos(), std::vector<qint64>{3});
         for (int i = 0; i < 8; ++i) f.Lista()->item(i)->setCheckState(Qt::Checked);
         QCOMPARE(f.Elegidos(), (std::vector<qint64>{1, 2, 3, 4, 5, 6}));

@@ -22,7 +22,7 @@
 #include "core/database/Registro.h"
 #include "gui/database/AlmacenResultados.h"
 #include "gui/database/GuardarBaseDatos.h"
-#include "gui/database/frmBaseDatos.h"
+#include "gui/database/VentanaBaseDatos.h"
 #include "gui/services/SuperficieQt.h"
 #include "tests/gui/database/ServidorPrueba.h"
 
@@ -119,7 +119,7 @@ struct Banco {
     DialogosGrabados dlg;
     std::string buffer;  // the main window's report buffer
     QString direccion;   // empty for BD.sqlite in the folder
-    std::unique_ptr<frmBaseDatos> f;
+    std::unique_ptr<VentanaBaseDatos> f;
 
     explicit Banco(bool servidor = false) {
         QDir::setCurrent(carpeta.path());
@@ -136,8 +136,8 @@ struct Banco {
         QDir::setCurrent(anterior);
     }
 
-    std::unique_ptr<frmBaseDatos> Nuevo() {
-        auto n = std::make_unique<frmBaseDatos>(dlg, [this] { return buffer; });
+    std::unique_ptr<VentanaBaseDatos> Nuevo() {
+        auto n = std::make_unique<VentanaBaseDatos>(dlg, [this] { return buffer; });
         n->FijarMostrarModal([](QDialog& d) { d.show(); });
         n->FijarEspera(200);
         n->FijarDireccion(direccion);
@@ -155,7 +155,7 @@ struct Banco {
     }
 
     QString Texto(const char* control) const { return Texto(*f, control); }
-    static QString Texto(const frmBaseDatos& f, const char* control) {
+    static QString Texto(const VentanaBaseDatos& f, const char* control) {
         QWidget* w = f.findChild<QWidget*>(QString::fromLatin1(control));
         if (!w) qFatal("no hay control %s", control);
         if (auto* caja = qobject_cast<QLineEdit*>(w)) return caja->text();

@@ -16,11 +16,11 @@
 #include <string>
 
 #include "core/state/Estado.h"
-#include "gui/cycle/frmOtto_Diesel.h"
-#include "gui/fluids/frmAireHumedad.h"
-#include "gui/fluids/frmCombustible.h"
-#include "gui/fluids/frmGasesCombustion.h"
-#include "gui/mainwindow/frmFase1.h"
+#include "gui/cycle/VentanaCiclo.h"
+#include "gui/fluids/VentanaAire.h"
+#include "gui/fluids/VentanaCombustible.h"
+#include "gui/fluids/VentanaCombustion.h"
+#include "gui/mainwindow/VentanaPrincipal.h"
 #include "gui/services/Dialogos.h"
 
 namespace vanta::pruebas {
@@ -35,7 +35,7 @@ T* Hijo(const QObject* raiz, const char* nombre) {
 struct Programa {
     Estado e;
     DialogosGrabados dlg;
-    frmFase1 f;
+    VentanaPrincipal f;
 
     explicit Programa(QSize tamano = QSize(1024, 768)) : f(e, &dlg, tamano) {
         f.FijarMostrarModal([](QDialog& d) { d.show(); });
@@ -75,12 +75,12 @@ struct Programa {
     // ---- The four stages with the values the windows start with ----
 
     bool Etapa1() {
-        if (!Pulsar("cmdElegirComburente") || !Abierta(f.AireHumedad())) return false;
-        return Pulsar(Hijo<QPushButton>(f.AireHumedad(), "cmdCal")) && !f.AireHumedad()->isVisible();
+        if (!Pulsar("cmdElegirComburente") || !Abierta(f.Aire())) return false;
+        return Pulsar(Hijo<QPushButton>(f.Aire(), "cmdCal")) && !f.Aire()->isVisible();
     }
 
     // Chooses an entry of the fuel list from the keyboard, as the user does.
-    static void ElegirCombustible(frmCombustible* v, const QString& nombre) {
+    static void ElegirCombustible(VentanaCombustible* v, const QString& nombre) {
         auto* lista = Hijo<QComboBox>(v, "cboTipCom");
         const int i = lista->findText(nombre);
         lista->setCurrentIndex(i - 1);
@@ -95,23 +95,22 @@ struct Programa {
     }
 
     bool Etapa3() {
-        if (!Pulsar("cmdCarCombustion") || !Abierta(f.GasesCombustion())) return false;
-        return Pulsar(Hijo<QPushButton>(f.GasesCombustion(), "cmdCalcular")) &&
-               !f.GasesCombustion()->isVisible();
+        if (!Pulsar("cmdCarCombustion") || !Abierta(f.Combustion())) return false;
+        return Pulsar(Hijo<QPushButton>(f.Combustion(), "cmdCalcular")) && !f.Combustion()->isVisible();
     }
 
     // Opens the cycle window, picks the cycle by its picture and leaves the
     // window open for the test to set its boxes.
     bool AbrirCiclo(const char* imagen = "imgOtto") {
-        if (!Pulsar("cmdCarCiclo") || !Abierta(f.Otto_Diesel())) return false;
-        QTest::mouseClick(Hijo<QLabel>(f.Otto_Diesel(), imagen), Qt::LeftButton);
+        if (!Pulsar("cmdCarCiclo") || !Abierta(f.Ciclo())) return false;
+        QTest::mouseClick(Hijo<QLabel>(f.Ciclo(), imagen), Qt::LeftButton);
         return true;
     }
 
-    bool Calcular() { return Pulsar(Hijo<QPushButton>(f.Otto_Diesel(), "cmdCal")); }
+    bool Calcular() { return Pulsar(Hijo<QPushButton>(f.Ciclo(), "cmdCal")); }
 
     bool Etapa4(const char* imagen = "imgOtto") {
-        return AbrirCiclo(imagen) && Calcular() && !f.Otto_Diesel()->isVisible();
+        return AbrirCiclo(imagen) && Calcular() && !f.Ciclo()->isVisible();
     }
 
     bool CuatroEtapas() { return Etapa1() && Etapa2() && Etapa3() && Etapa4(); }

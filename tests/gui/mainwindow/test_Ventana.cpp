@@ -129,7 +129,7 @@ private slots:
     void lasEtapasDanLoMismoQueElCalculoSinVentanas() {
         Programa p;
         QVERIFY(p.Etapa1() && p.Etapa2(QStringLiteral("Gasoil")) && p.Etapa3() && p.AbrirCiclo("imgDiesel"));
-        frmOtto_Diesel* ciclo = p.f.Otto_Diesel();
+        VentanaCiclo* ciclo = p.f.Ciclo();
         Hijo<QLineEdit>(ciclo, "txtRc")->setText(QStringLiteral("18"));
         Programa::Elegir(Hijo<QRadioButton>(ciclo, "optGvariable"));
         QVERIFY(p.Calcular());
@@ -184,10 +184,10 @@ private slots:
         // screen, and the power follows them, not the work the failure left.
         const double wciclo = p.e.Wciclo;
         QVERIFY(p.AbrirCiclo("imgDiesel"));
-        Hijo<QLineEdit>(p.f.Otto_Diesel(), "txtRc")->setText(QStringLiteral("2"));
+        Hijo<QLineEdit>(p.f.Ciclo(), "txtRc")->setText(QStringLiteral("2"));
         QVERIFY(p.Calcular());
         QVERIFY(p.e.ErrorCalculo && p.e.Wciclo != wciclo);
-        p.f.Otto_Diesel()->hide();
+        p.f.Ciclo()->hide();
         auto* rpm = Hijo<QLineEdit>(&p.f, "txtRpm");
         QTest::mouseClick(rpm, Qt::LeftButton);  // the prompt "rpm" goes
         QTest::keyClicks(rpm, QStringLiteral("3000"));
@@ -211,10 +211,10 @@ private slots:
                 }
             return false;
         };
-        QVERIFY(p.Pulsar("cmdElegirComburente") && intro(p.f.AireHumedad()));
+        QVERIFY(p.Pulsar("cmdElegirComburente") && intro(p.f.Aire()));
         QVERIFY(p.Etapa2());
-        QVERIFY(p.Pulsar("cmdCarCombustion") && intro(p.f.GasesCombustion()));
-        QVERIFY(p.AbrirCiclo() && intro(p.f.Otto_Diesel()));
+        QVERIFY(p.Pulsar("cmdCarCombustion") && intro(p.f.Combustion()));
+        QVERIFY(p.AbrirCiclo() && intro(p.f.Ciclo()));
         QVERIFY(p.f.flujo().visible.cmdInforme);
 
         auto* celda = Hijo<CeldaCifra>(&p.f, "lblP1");

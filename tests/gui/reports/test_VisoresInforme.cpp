@@ -15,9 +15,9 @@
 
 #include "app/LineaComandos.h"
 #include "gui/reports/PaginaWeb.h"
+#include "gui/reports/VentanaInforme.h"
+#include "gui/reports/VentanaMostrarInforme.h"
 #include "gui/reports/VisoresInforme.h"
-#include "gui/reports/frmInforme.h"
-#include "gui/reports/frmMostrar.h"
 #include "gui/services/SuperficieQt.h"
 #include "tests/gui/mainwindow/Programa.h"
 #include "tests/gui/mainwindow/Pruebas.h"
@@ -200,7 +200,7 @@ private slots:
         QCOMPARE(bytes.count("\r\n"), bytes.count('\n'));
         QVERIFY(bytes.count("\r\n") > 50);
 
-        frmMostrar* m = v->Mostrar();
+        VentanaMostrarInforme* m = v->Mostrar();
         v->AbrirInforme();
         QVERIFY(m->isVisible());
         QCOMPARE(m->windowTitle(), QStringLiteral("Abre informes"));
@@ -250,7 +250,7 @@ private slots:
 
     void laVentanaAbiertaMuestraLoAnteriorYGuardaLoUltimoCalculado() {
         v->VerInforme("uno\r\ndos");
-        frmInforme* f = v->Informe();
+        VentanaInforme* f = v->Informe();
         QVERIFY(f->isVisible());
         QVERIFY(!f->isModal());
         QCOMPARE(f->windowTitle(), QStringLiteral("Informe"));
@@ -274,7 +274,7 @@ private slots:
 
     void imprimirDaElInformeEnteroOLaSeleccionYCancelarNada() {
         v->VerInforme(c.informe);
-        frmInforme* f = v->Informe();
+        VentanaInforme* f = v->Informe();
         QAction* imprimir = pruebas::Hijo<QAction>(f, "mnuImprimir");
 
         archivos.pdf = Ruta(QStringLiteral("todo.pdf"));
@@ -303,13 +303,13 @@ private slots:
             QVERIFY(!texto.contains(QStringLiteral("CICLO")));
         }
 
-        // frmMostrar prints what it opened.
+        // VentanaMostrarInforme prints what it opened.
         QFile guardado(Ruta(QStringLiteral("guardado.txt")));
         QVERIFY(guardado.open(QIODevice::WriteOnly));
         guardado.write("Un informe guardado\r\ncon dos líneas");
         guardado.close();
         archivos.respuestas << guardado.fileName();
-        frmMostrar* m = v->Mostrar();
+        VentanaMostrarInforme* m = v->Mostrar();
         m->cmdAbriTexto_Click();
         archivos.pdf = Ruta(QStringLiteral("mostrar.pdf"));
         pruebas::Hijo<QAction>(m, "mnuImprimir")->trigger();
@@ -327,7 +327,7 @@ private slots:
     void elPunteroAjustaLaCajaALaVentana() {
         v->VerInforme(c.informe);
         v->AbrirInforme();
-        frmMostrar* m = v->Mostrar();
+        VentanaMostrarInforme* m = v->Mostrar();
         m->cmdAbriTexto_Click();  // cancelled: the box shows all the same
 
         struct Caso {

@@ -15,8 +15,8 @@
 #include <cmath>
 #include <limits>
 
-#include "gui/mainwindow/frmAcercaDe.h"
-#include "gui/mainwindow/frmBibliografia.h"
+#include "gui/mainwindow/VentanaAcercaDe.h"
+#include "gui/mainwindow/VentanaBibliografia.h"
 #include "gui/resources/Dibujos.h"
 #include "gui/resources/Programa.h"
 #include "tests/gui/mainwindow/Pruebas.h"
@@ -112,7 +112,7 @@ private slots:
     // project's version; pressing it again brings back the same window.
     void unaVentanaNoModal() {
         QWidget principal;
-        frmAcercaDe* a = MostrarAcercaDe(&principal);
+        VentanaAcercaDe* a = MostrarAcercaDe(&principal);
         QVERIFY(a->isVisible());
         QVERIFY(!a->isModal());
         QVERIFY(QRegularExpression(QStringLiteral(R"(^\d+\.\d+\.\d+$)")).match(VersionPrograma()).hasMatch());
@@ -124,21 +124,21 @@ private slots:
         QVERIFY(!a->isVisible());
         QCOMPARE(MostrarAcercaDe(&principal), a);
         QVERIFY(a->isVisible());
-        QCOMPARE(principal.findChildren<frmAcercaDe*>().size(), 1);
+        QCOMPARE(principal.findChildren<VentanaAcercaDe*>().size(), 1);
     }
 
     // The button opens the bibliography, not modal, once: a second press
     // raises the same window. It lists every book in its own order.
     void bibliografia() {
         QWidget principal;
-        frmAcercaDe* a = MostrarAcercaDe(&principal);
-        QVERIFY(!a->VentanaBibliografia());
+        VentanaAcercaDe* a = MostrarAcercaDe(&principal);
+        QVERIFY(!a->Bibliografia());
         QTest::mouseClick(a->cmdBibliografia(), Qt::LeftButton);
-        frmBibliografia* b = a->VentanaBibliografia();
+        VentanaBibliografia* b = a->Bibliografia();
         QVERIFY(b && b->isVisible() && !b->isModal());
         b->close();
         QTest::mouseClick(a->cmdBibliografia(), Qt::LeftButton);
-        QCOMPARE(a->VentanaBibliografia(), b);
+        QCOMPARE(a->Bibliografia(), b);
         QVERIFY(b->isVisible());
 
         const auto& libros = Bibliografia();

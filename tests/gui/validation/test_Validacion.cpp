@@ -7,7 +7,7 @@
 
 #include "core/warnings/CicloIdeal.h"
 #include "gui/validation/PanelConfianza.h"
-#include "gui/validation/frmValidacion.h"
+#include "gui/validation/VentanaValidacion.h"
 #include "tests/gui/mainwindow/Programa.h"
 #include "tests/gui/mainwindow/Pruebas.h"
 
@@ -33,7 +33,7 @@ private slots:
     void elMenuDeAyudaAbreLaTablaConSusColores() {
         Programa p;
         p.Menu("mnuValidacion")->trigger();
-        auto* v = p.f.findChild<frmValidacion*>(QStringLiteral("frmValidacion"));
+        auto* v = p.f.findChild<VentanaValidacion*>(QStringLiteral("VentanaValidacion"));
         QVERIFY(v && v->isVisible());
         QCOMPARE(v->pestanas()->count(), 4);
         int filas = 0;
@@ -54,7 +54,7 @@ private slots:
         QCOMPARE(filas, static_cast<int>(v->tabla().filas.size()));
         // A second click raises the same window.
         p.Menu("mnuValidacion")->trigger();
-        QCOMPARE(p.f.findChildren<frmValidacion*>().size(), 1);
+        QCOMPARE(p.f.findChildren<VentanaValidacion*>().size(), 1);
         v->pestanas()->setCurrentIndex(static_cast<int>(GrupoValidacion::Balance));
         Capturar(v, "validacion.png");
     }
@@ -87,14 +87,14 @@ private slots:
 
         // A lean methanol cycle stays on the model's ground: no warning.
         p.Menu("mnuNuevo")->trigger();
-        QVERIFY(Programa::Abierta(p.f.AireHumedad()));
-        QVERIFY(p.Pulsar(Hijo<QPushButton>(p.f.AireHumedad(), "cmdCal")));
+        QVERIFY(Programa::Abierta(p.f.Aire()));
+        QVERIFY(p.Pulsar(Hijo<QPushButton>(p.f.Aire(), "cmdCal")));
         QVERIFY(p.Etapa2(QStringLiteral("Metanol")));
         QVERIFY(p.Pulsar("cmdCarCombustion"));
-        auto* fr = Hijo<QLineEdit>(p.f.GasesCombustion(), "txtFr");
+        auto* fr = Hijo<QLineEdit>(p.f.Combustion(), "txtFr");
         QTest::mouseClick(fr, Qt::LeftButton);
         QVERIFY(Rellenar(fr, "0.6"));
-        QVERIFY(p.Pulsar(Hijo<QPushButton>(p.f.GasesCombustion(), "cmdCalcular")));
+        QVERIFY(p.Pulsar(Hijo<QPushButton>(p.f.Combustion(), "cmdCalcular")));
         QVERIFY(p.Etapa4());
         QVERIFY(panel->isVisible());
         QVERIFY2(panel->texto()->text().startsWith(QStringLiteral("Sin avisos")),
