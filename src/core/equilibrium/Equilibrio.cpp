@@ -105,13 +105,13 @@ bool CumpleEnergia(const Mezcla& m, const Problema& c) {
     if (EnergiaDe(c.dato) == Energia::Ninguna) return true;
     const double escala =
         std::max(std::fabs(Objetivo(c)), m.Total() * kR * (EnergiaDe(c.dato) == Energia::Entropia ? 1 : m.T));
-    return std::fabs(Valor(m, c.dato) - Objetivo(c)) <= kToleranciaBalance * escala;
+    return std::fabs(Valor(m, c.dato) - Objetivo(c)) <= kToleranciaEquilibrio * escala;
 }
 
 bool CumpleElementos(const Moles& n, const Elementos& b) {
     const Elementos r = ElementosDe(n);
     for (int i = 0; i < kElementos; ++i)
-        if (!(std::fabs(r[i] - b[i]) <= kToleranciaBalance * b[i])) return false;
+        if (!(std::fabs(r[i] - b[i]) <= kToleranciaEquilibrio * b[i])) return false;
     return true;
 }
 
@@ -348,7 +348,8 @@ Resultado Equilibrar(const Elementos& b, const Problema& c, const Moles* inicio)
     g.T = -1;
     int enElLimite = 0;
     for (r.iteraciones = 1; r.iteraciones <= kIteracionesMaximas; ++r.iteraciones) {
-        T = std::exp(lnT);
+        // A temperature given stays exactly as given.
+        if (energia != Energia::Ninguna) T = std::exp(lnT);
         if (T != g.T) EvaluarGases(T, g);
         double n[kGases] = {}, suma = 0;
         for (int k = 0; k < ng; ++k) suma += n[gases[k]] = std::exp(lnn[gases[k]]);
@@ -425,18 +426,28 @@ Resultado Equilibrar(const Elementos& b, const Problema& c, const Moles* inicio)
         const double lnTsin = lnT + lambda * dT;
         lnT = std::clamp(lnTsin, lnTmin, lnTmax);
 
-        // Against a limit of the data, with the composition settled and the
-        // energy still pushing out: the solution is beyond the limit.
-        enElLimite = std::fabs(lnT - lnTsin) > kCorreccionFinal && correccion < 1e-6 ? enElLimite + 1 : 0;
+        // Held at a limit of the data for some steps: the solution lies beyond
+        // it when the equilibrium at the limit falls short of (or passes) the
+        // energy given, as the energy and the entropy grow with T.
+        enElLimite = lnT != lnTsin ? enElLimite + 1 : 0;
         if (enElLimite >= kPasosEnElLimite) {
-            r.mensaje = lnTsin > lnTmax ? kDemasiadoCaliente : kDemasiadoFria;
-            return r;
+            const bool arriba = lnTsin > lnTmax;
+            Problema fijo = c;
+            fijo.dato = conPresion ? Dato::TemperaturaPresion : Dato::TemperaturaVolumen;
+            fijo.T = arriba ? kTemperaturaMaxima : kTemperaturaMinima;
+            const Resultado limite = Equilibrar(b, fijo);
+            const double falta = objetivo - Valor(limite.mezcla, c.dato);
+            if (limite.bien && (arriba ? falta > 0 : falta < 0)) {
+                r.mensaje = arriba ? kDemasiadoCaliente : kDemasiadoFria;
+                return r;
+            }
+            enElLimite = 0;
         }
         if (lambda == 1 && correccion <= kCorreccionFinal && std::fabs(dN) <= kCorreccionFinal &&
             std::fabs(dT) <= kCorreccionFinal) {
             Moles final{};
             for (int k = 0; k < ng; ++k) final[gases[k]] = std::exp(lnn[gases[k]]);
-            EvaluarGases(std::exp(lnT), g);
+            if (energia != Energia::Ninguna) EvaluarGases(std::exp(lnT), g);
             r.mezcla = EvaluarCon(g, final, conPresion ? c.p : c.V, conPresion);
             r.bien = CumpleElementos(final, b) && CumpleEnergia(r.mezcla, c);
             if (r.bien) return r;

@@ -24,7 +24,7 @@ inline constexpr double kTemperaturaMaxima = 6000.0;
 inline constexpr int kIteracionesMaximas = 200;
 // What the balances of a solution keep: the atoms of each element, and the
 // energy or entropy given, relative.
-inline constexpr double kToleranciaBalance = 1e-9;
+inline constexpr double kToleranciaEquilibrio = 1e-9;
 
 // A mixture in a state, its extensive properties for the moles it holds.
 struct Mezcla {

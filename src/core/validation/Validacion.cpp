@@ -9,6 +9,7 @@
 #include "core/validation/CicloIdeal.h"
 #include "core/validation/Cifras.h"
 #include "core/validation/Referencias.h"
+#include "core/validation/ValidacionEquilibrio.h"
 
 namespace vanta {
 
@@ -321,7 +322,7 @@ std::vector<Comprobacion> ComprobarCiclos(char sep) {
 TablaValidacion Validar(char sep) {
     TablaValidacion t;
     t.filas = ComprobarEspecies(EspeciesDelPrograma, sep);
-    for (auto* grupo : {ComprobarCombustibles, ComprobarCiclos})
+    for (auto* grupo : {ComprobarCombustibles, ComprobarCiclos, ComprobarEquilibrio})
         for (auto& f : grupo(sep)) t.filas.push_back(std::move(f));
     return t;
 }
@@ -338,7 +339,7 @@ std::string TextoResultado(Resultado r) {
     return {};
 }
 
-std::array<DescripcionGrupo, 4> GruposValidacion(char sep) {
+std::array<DescripcionGrupo, 5> GruposValidacion(char sep) {
     const std::string cp = Porcentaje(kToleranciaCp, sep), s = Porcentaje(kToleranciaS, sep),
                       h = Porcentaje(kToleranciaH, sep),
                       hAbs = Cifra(kToleranciaHAbsoluta / kKilo, "0.0##", sep);
@@ -413,6 +414,7 @@ std::array<DescripcionGrupo, 4> GruposValidacion(char sep) {
          "relación de compresión, 1 − rc^(1 − γ) con γ = " +
              gamma +
              ": a igual relación de compresión ningún ciclo rinde más, y el del programa ha de ser menor."},
+        DescripcionEquilibrio(sep),
     }};
 }
 
