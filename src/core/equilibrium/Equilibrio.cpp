@@ -25,6 +25,9 @@ constexpr std::string_view kDemasiadoFria =
     "La temperatura de los gases bajaría de 250 K, el límite de los datos de las especies";
 constexpr std::string_view kNoConverge =
     "El cálculo del equilibrio químico no converge en 200 iteraciones de Newton";
+constexpr std::string_view kSinPrecision =
+    "El equilibrio químico hallado no guarda los átomos o la energía con la precisión debida (una parte en mil "
+    "millones): algún elemento está en cantidad ínfima frente a los demás";
 constexpr std::string_view kComposicionNoValida =
     "La composición dada de los gases ha de tener moles positivos o cero, y alguno positivo";
 
@@ -415,7 +418,7 @@ Resultado Equilibrar(const Elementos& b, const Problema& c, const Moles* inicio)
             const double lnx = lnn[j] - lnNref;
             if (lnx > kLnTraza) {
                 if (dj > 0) mayor = std::max(mayor, dj);
-            } else if (dj >= 0 && dj - dN > 0) {
+            } else if (dj - dN > 0) {
                 lambda2 = std::min(lambda2, std::fabs((-lnx + kLnTechoTraza) / (dj - dN)));
             }
             correccion = std::max(correccion, n[j] / suma * std::fabs(dj));
@@ -450,11 +453,10 @@ Resultado Equilibrar(const Elementos& b, const Problema& c, const Moles* inicio)
             if (energia != Energia::Ninguna) EvaluarGases(std::exp(lnT), g);
             r.mezcla = EvaluarCon(g, final, conPresion ? c.p : c.V, conPresion);
             r.bien = CumpleElementos(final, b) && CumpleEnergia(r.mezcla, c);
-            if (r.bien) return r;
-            break;
+            if (!r.bien) r.mensaje = kSinPrecision;
+            return r;
         }
     }
-    r.bien = false;
     r.mensaje = kNoConverge;
     return r;
 }

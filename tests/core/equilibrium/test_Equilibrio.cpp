@@ -171,6 +171,10 @@ TEST(Equilibrio, LoQueNoTieneSolucionDiceSuRazon) {
     const Mezcla m = Equilibrar(aireMetano, tp).mezcla;
     EXPECT_EQ(mensaje(aireMetano, {.dato = Dato::EntalpiaPresion, .p = 1e5, .H = m.H + 1e8}), caliente);
     EXPECT_EQ(mensaje(aireMetano, {.dato = Dato::EnergiaVolumen, .V = m.V, .U = m.U - 1e7}), fria);
+    EXPECT_EQ(mensaje(aireMetano, {.dato = Dato::EntropiaVolumen, .V = m.V, .S = m.S - 1e4}), fria);
+    EXPECT_EQ(mensaje({0, 0, 1e-300, 1, 0, 0}, tp),
+              "El equilibrio químico hallado no guarda los átomos o la energía con la precisión debida (una parte "
+              "en mil millones): algún elemento está en cantidad ínfima frente a los demás");
     EXPECT_EQ(Congelar(m.n, {.dato = Dato::EntalpiaPresion, .p = 1e5, .H = m.H + 1e8}).mensaje, caliente);
     EXPECT_EQ(Congelar(m.n, {.dato = Dato::EntropiaVolumen, .V = m.V, .S = m.S - 1e4}).mensaje, fria);
     EXPECT_EQ(Congelar(Moles{}, tp).mensaje,
@@ -189,6 +193,10 @@ TEST(Equilibrio, LaComposicionCongeladaSoloBuscaLaTemperatura) {
                                       {.dato = Dato::EntropiaPresion, .p = m.p, .S = m.S},
                                       {.dato = Dato::EnergiaVolumen, .V = m.V, .U = m.U},
                                       {.dato = Dato::EntropiaVolumen, .T = 3000, .V = m.V, .S = m.S}};
+        const Resultado dada = Congelar(n, {.dato = Dato::TemperaturaVolumen, .T = T, .V = m.V});
+        EXPECT_TRUE(dada.bien);
+        EXPECT_EQ(dada.mezcla.T, T);
+        EXPECT_NEAR(dada.mezcla.p, m.p, 1e-9 * m.p);
         for (const Problema& p : problemas) {
             const Resultado r = Congelar(n, p);
             ASSERT_TRUE(r.bien) << r.mensaje;
