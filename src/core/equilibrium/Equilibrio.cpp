@@ -26,7 +26,8 @@ constexpr std::string_view kDemasiadoFria =
 constexpr std::string_view kNoConverge =
     "El cálculo del equilibrio químico no converge en 200 iteraciones de Newton";
 constexpr std::string_view kSinPrecision =
-    "El equilibrio químico hallado no guarda los átomos o la energía con la precisión debida (una parte en mil "
+    "El equilibrio químico hallado no guarda los átomos o la energía con la precisión debida (una parte en "
+    "mil "
     "millones): algún elemento está en cantidad ínfima frente a los demás";
 constexpr std::string_view kComposicionNoValida =
     "La composición dada de los gases ha de tener moles positivos o cero, y alguno positivo";
@@ -385,10 +386,9 @@ Resultado Equilibrar(const Elementos& b, const Problema& c, const Moles* inicio)
                 if (aij == 0) continue;
                 const double w = aij * nj;
                 for (int k2 = 0; k2 < ne; ++k2) A[a][k2] += w * kAtomos[j][elementos[k2]];
-                A[a][columnaN] += conPresion ? w : 0;
+                if (conPresion) A[a][columnaN] += w, A[columnaN][a] += w;
                 if (energia != Energia::Ninguna) A[a][columnaT] += w * E[j];
                 A[a][m] += w * (mu[j] - 1);  // − b_i is added below, with b°
-                if (conPresion) A[columnaN][a] += w;
                 if (energia != Energia::Ninguna) A[columnaT][a] += w * q[j];
             }
         }

@@ -139,7 +139,8 @@ double ResiduoAtomos(const eq::Mezcla& m, const eq::Elementos& b) {
 // such; above, with two significant figures.
 std::string TextoResiduo(double r, char sep) {
     constexpr double kResiduoMinimo = 1e-12;
-    if (!(r >= kResiduoMinimo)) return r < kResiduoMinimo ? "< " + TextoGeneral(kResiduoMinimo, sep) : "NaN";
+    if (!(r >= kResiduoMinimo))
+        return r < kResiduoMinimo ? "< " + TextoGeneral(kResiduoMinimo, sep) : "no es un número";
     const double escala = std::pow(10.0, std::floor(std::log10(r)));
     return TextoGeneral(Round(r / escala, 1) * escala, sep);
 }

@@ -172,9 +172,10 @@ TEST(Equilibrio, LoQueNoTieneSolucionDiceSuRazon) {
     EXPECT_EQ(mensaje(aireMetano, {.dato = Dato::EntalpiaPresion, .p = 1e5, .H = m.H + 1e8}), caliente);
     EXPECT_EQ(mensaje(aireMetano, {.dato = Dato::EnergiaVolumen, .V = m.V, .U = m.U - 1e7}), fria);
     EXPECT_EQ(mensaje(aireMetano, {.dato = Dato::EntropiaVolumen, .V = m.V, .S = m.S - 1e4}), fria);
-    EXPECT_EQ(mensaje({0, 0, 1e-300, 1, 0, 0}, tp),
-              "El equilibrio químico hallado no guarda los átomos o la energía con la precisión debida (una parte "
-              "en mil millones): algún elemento está en cantidad ínfima frente a los demás");
+    EXPECT_EQ(
+        mensaje({0, 0, 1e-300, 1, 0, 0}, tp),
+        "El equilibrio químico hallado no guarda los átomos o la energía con la precisión debida (una parte "
+        "en mil millones): algún elemento está en cantidad ínfima frente a los demás");
     EXPECT_EQ(Congelar(m.n, {.dato = Dato::EntalpiaPresion, .p = 1e5, .H = m.H + 1e8}).mensaje, caliente);
     EXPECT_EQ(Congelar(m.n, {.dato = Dato::EntropiaVolumen, .V = m.V, .S = m.S - 1e4}).mensaje, fria);
     EXPECT_EQ(Congelar(Moles{}, tp).mensaje,

@@ -86,13 +86,18 @@ TEST(Llama, ElDosadoYElAireCambianLaLlama) {
     EXPECT_NEAR(humeda.aire[H2O], 0.3, 1e-12);
     EXPECT_NEAR(humeda.aire[Ar], 0.1, 1e-12);
     EXPECT_LT(humeda.productos.T, LlamaAdiabatica(Estequiometrica(kMetano)).productos.T - 20);
-    // Hot reactants, a hotter flame; sulphur leaves as SO2.
-    DatosLlama caliente = Estequiometrica({.C = 1, .H = 4, .S = 0.1, .entalpiaFormacion = -74850});
+    // Hot reactants, a hotter flame; every atom of the fuel in the products,
+    // its sulphur as SO2.
+    const Combustible f{.C = 1, .H = 4, .N = 0.2, .O = 0.5, .S = 0.1, .entalpiaFormacion = -150000};
+    DatosLlama caliente = Estequiometrica(f);
     caliente.T = 800;
     const ResultadoLlama rc = LlamaAdiabatica(caliente);
     EXPECT_GT(rc.productos.T, 2300);
     EXPECT_NEAR(rc.productos.n[SO2], 0.1, 1e-12);
-    EXPECT_NEAR(rc.aire[O2], 2.1, 1e-12);
+    EXPECT_NEAR(rc.aire[O2], 1.85, 1e-12);
+    const Elementos productos = ElementosDe(rc.productos.n), aire = ElementosDe(rc.aire);
+    const double atomos[kElementos] = {f.C, f.H, f.O, f.N, 0, f.S};
+    for (int i = 0; i < kElementos; ++i) EXPECT_NEAR(productos[i], aire[i] + atomos[i], 1e-12) << i;
 }
 
 TEST(Llama, LoQueNoEsUnaLlamaDiceSuRazon) {
@@ -111,7 +116,7 @@ TEST(Llama, LoQueNoEsUnaLlamaDiceSuRazon) {
         "número";
     EXPECT_EQ(mensaje(Estequiometrica({.C = 1, .H = -4})), combustible);
     EXPECT_EQ(mensaje(Estequiometrica({.C = 1, .H = 4, .entalpiaFormacion = INFINITY})), combustible);
-    EXPECT_EQ(mensaje(Estequiometrica({.O = 2})),
+    EXPECT_EQ(mensaje(Estequiometrica({.C = 1, .O = 2})),
               "El combustible no necesita oxígeno para quemarse: no hay aire que mezclarle");
     const std::string aire =
         "Las fracciones molares del aire han de ser números positivos o cero, con algo de O2";
@@ -125,6 +130,10 @@ TEST(Llama, LoQueNoEsUnaLlamaDiceSuRazon) {
     d = Estequiometrica(kMetano);
     d.T = 249;
     EXPECT_EQ(mensaje(d), reactivos);
+    d.T = 250;
+    EXPECT_TRUE(LlamaAdiabatica(d).bien);
+    d.T = 6000;
+    EXPECT_NE(LlamaAdiabatica(d).mensaje, reactivos);
     d.T = 300, d.p = 0;
     EXPECT_EQ(mensaje(d), reactivos);
     // Richer than the carbon to CO allows, with or without dissociation.
