@@ -32,12 +32,6 @@ const char* const kOpcionesFluido[] = {
     "presion-ambiente", "temperatura-ambiente", "humedad", "combustible", "formula", "masa",
     "masa-molecular",   "entalpia-formacion",   "fr",      "lambda"};
 
-bool EsOpcionFluido(const std::string& nombre) {
-    for (const char* o : kOpcionesFluido)
-        if (nombre == o) return true;
-    return false;
-}
-
 bool EsEspecie(const std::string& fluido) {
     for (const char* s : kNombresEspecies)
         if (fluido == s) return true;
@@ -131,6 +125,12 @@ private:
 };
 
 }  // namespace
+
+bool EsOpcionFluido(const std::string& nombre) {
+    for (const char* o : kOpcionesFluido)
+        if (nombre == o) return true;
+    return false;
+}
 
 std::string TextoUsoTablas() {
     return "Uso: vanta tablas [opciones]   las tablas de propiedades como texto\n"

@@ -17,6 +17,7 @@
 
 #include "app/LineaComandos.h"
 #include "app/LineaEstudio.h"
+#include "app/LineaLlama.h"
 #include "app/LineaTablas.h"
 #include "app/LineaValidacion.h"
 #include "core/services/Numeros.h"
@@ -176,6 +177,7 @@ int main(int argc, char** argv) {
     if (orden == "estudio") return Estudio(resto);
     if (orden == "tablas") return vanta::cli::EjecutarTablas(resto, std::cout, std::cerr);
     if (orden == "validar") return vanta::cli::EjecutarValidar(resto, std::cout, std::cerr);
+    if (orden == "llama") return vanta::cli::EjecutarLlama(resto, std::cout, std::cerr);
     if (orden == "--help" || orden == "-h") {
         std::cout << vanta::cli::TextoUso();
         return vanta::cli::kSalidaBien;
