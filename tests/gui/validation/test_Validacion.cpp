@@ -57,6 +57,8 @@ private slots:
         QCOMPARE(p.f.findChildren<frmValidacion*>().size(), 1);
         v->pestanas()->setCurrentIndex(static_cast<int>(GrupoValidacion::Balance));
         Capturar(v, "validacion.png");
+        v->pestanas()->setCurrentIndex(static_cast<int>(GrupoValidacion::Equilibrio));
+        Capturar(v, "validacion-equilibrio.png");
     }
 
     void laFranjaMuestraLosAvisosYLosRendimientos() {
