@@ -135,16 +135,6 @@ double ResiduoAtomos(const eq::Mezcla& m, const eq::Elementos& b) {
     return peor;
 }
 
-// A residual as the table shows it: below 1E-12, as it nearly always is, as
-// such; above, with two significant figures.
-std::string TextoResiduo(double r, char sep) {
-    constexpr double kResiduoMinimo = 1e-12;
-    if (!(r >= kResiduoMinimo))
-        return r < kResiduoMinimo ? "< " + TextoGeneral(kResiduoMinimo, sep) : "no es un número";
-    const double escala = std::pow(10.0, std::floor(std::log10(r)));
-    return TextoGeneral(Round(r / escala, 1) * escala, sep);
-}
-
 Comprobacion FilaBalance(std::string nombre, double residuo, char sep) {
     return {GrupoValidacion::Equilibrio,
             std::move(nombre),
@@ -158,6 +148,14 @@ Comprobacion FilaBalance(std::string nombre, double residuo, char sep) {
 
 }  // namespace
 
+std::string TextoResiduo(double r, char sep) {
+    constexpr double kResiduoMinimo = 1e-12;
+    if (!(r >= kResiduoMinimo))
+        return r < kResiduoMinimo ? "< " + TextoGeneral(kResiduoMinimo, sep) : "no es un número";
+    const double escala = std::pow(10.0, std::floor(std::log10(r)));
+    return TextoGeneral(Round(r / escala, 1) * escala, sep);
+}
+
 ResiduosCiclo Residuos(const eq::CicloEquilibrio& c) {
     ResiduosCiclo r;
     const double f = c.fraccionVolumenConstante;
@@ -166,8 +164,8 @@ ResiduosCiclo Residuos(const eq::CicloEquilibrio& c) {
         parcial[i] += f * c.atomosCombustible[i];
         todo[i] += c.atomosCombustible[i];
     }
-    r.atomos = std::max({ResiduoAtomos(c.estado3, f > 0 ? parcial : c.atomosAire),
-                         ResiduoAtomos(c.estado4, todo), ResiduoAtomos(c.estado5, todo)});
+    r.atomos = std::max(
+        {ResiduoAtomos(c.estado3, parcial), ResiduoAtomos(c.estado4, todo), ResiduoAtomos(c.estado5, todo)});
     // Each state evaluated again from its moles, temperature and volume.
     const eq::Mezcla m2 = eq::Evaluar(c.estado2.n, c.estado2.T, c.estado2.V, false);
     const eq::Mezcla m3 = eq::Evaluar(c.estado3.n, c.estado3.T, c.estado3.V, false);
@@ -178,6 +176,12 @@ ResiduosCiclo Residuos(const eq::CicloEquilibrio& c) {
     const double q = c.entalpiaCombustible;
     r.energia = std::max({Relativo(m3.U - m2.U - f * q, c.calor),
                           Relativo(m4.H - m3.H - (1 - f) * q, c.calor), Relativo(m5.S - m4.S, m4.S)});
+    // The pressure of each state from its moles, T and V; 3-4 at the
+    // pressure of 3.
+    for (const auto& [m, estado] :
+         {std::pair{&m2, &c.estado2}, {&m3, &c.estado3}, {&m4, &c.estado4}, {&m5, &c.estado5}})
+        r.energia = std::max(r.energia, Relativo(m->p - estado->p, estado->p));
+    r.energia = std::max(r.energia, Relativo(m4.p - c.estado3.p, c.estado3.p));
     return r;
 }
 
@@ -202,7 +206,8 @@ DescripcionGrupo DescripcionEquilibrio(char sep) {
             " K. Y los balances de los estados de los ciclos con disociación, en equilibrio y sin "
             "disociación: los átomos de cada elemento en los estados 3, 4 y 5 frente a los de la carga, y la "
             "energía de la combustión (la energía interna a volumen constante, la entalpía a presión "
-            "constante, con la entalpía del combustible) y la entropía de la expansión frente a las que el "
+            "constante, con la entalpía del combustible), la entropía de la expansión y la presión de cada "
+            "estado (evaluado de nuevo desde sus moles, su temperatura y su volumen) frente a las que el "
             "ciclo les da; tolerancia " +
             balance + " relativa."};
 }
@@ -243,15 +248,15 @@ std::vector<Comprobacion> ComprobarLlamas(char sep) {
         d.p = kAtmosfera;
         const eq::ResultadoLlama llama = eq::LlamaAdiabatica(d);
         const double T = llama.bien ? llama.productos.T : 0;
-        filas.push_back({GrupoValidacion::Equilibrio,
-                         std::string("Temperatura de llama adiabática del ") + l.nombre + " (K)",
-                         llama.bien ? Cifra(T, "### ##0.0", sep) : llama.mensaje,
-                         Cifra(l.temperatura, "### ##0", sep),
-                         CifraConSigno(T - l.temperatura, "##0.0", sep),
-                         TextoGeneral(kToleranciaLlama, sep),
-                         llama.bien && std::fabs(T - l.temperatura) <= kToleranciaLlama ? Resultado::Cumple
-                                                                                        : Resultado::NoCumple,
-                         {}});
+        filas.push_back(
+            {GrupoValidacion::Equilibrio,
+             std::string("Temperatura de llama adiabática del ") + l.nombre + " (K)",
+             llama.bien ? Cifra(T, "### ##0.0", sep) : llama.mensaje,
+             Cifra(l.temperatura, "### ##0", sep),
+             CifraConSigno(T - l.temperatura, "##0.0", sep),
+             TextoGeneral(kToleranciaLlama, sep),
+             std::fabs(T - l.temperatura) <= kToleranciaLlama ? Resultado::Cumple : Resultado::NoCumple,
+             {}});
     }
     return filas;
 }

@@ -142,3 +142,19 @@ TEST(CicloEquilibrio, SinUnCalculoTerminadoNoHayCiclo) {
     e.HCI = 0;
     EXPECT_FALSE(CicloConDisociacion(e).equilibrio.bien);
 }
+
+TEST(CicloEquilibrio, LosResiduosVenUnEstadoQueNoCierra) {
+    const CicloEquilibrio c =
+        CicloConDisociacion(Calculado({{"ciclo", "Mixto"}, {"proporcion-vcte", "40"}})).equilibrio;
+    CicloEquilibrio t = c, n = c, p = c;
+    t.estado3.T *= 1 + 1e-6;
+    n.estado4.n[equilibrio::N2] *= 1 + 1e-6;
+    p.estado5.p *= 1.001;
+    EXPECT_GT(Residuos(t).energia, 1e-8);
+    EXPECT_GT(Residuos(n).atomos, 1e-7);
+    EXPECT_NEAR(Residuos(p).energia, 1e-3, 1e-6);
+    EXPECT_EQ(TextoResiduo(Residuos(c).energia, '.'), "< 1E-12");
+    EXPECT_EQ(TextoResiduo(3.46e-7, ','), "3,5E-07");
+    EXPECT_EQ(TextoResiduo(0.0123, '.'), "0.012");
+    EXPECT_EQ(TextoResiduo(NAN, '.'), "no es un número");
+}
