@@ -113,6 +113,7 @@ std::string TextoUso() {
            "     vanta estudio [opciones]           un estudio paramétrico (vanta estudio --help)\n"
            "     vanta validar                      la tabla de validación del modelo (sale con 1 si algo no "
            "cumple)\n"
+           "     vanta llama [opciones]             la temperatura de llama adiabática (vanta llama --help)\n"
            "     vanta --version                    la versión del programa\n"
            "\n"
            "Opciones de calcular:\n"

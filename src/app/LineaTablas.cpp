@@ -33,11 +33,6 @@ bool DelFluido(const DefinicionEntrada& d) {
            d.etapa == EtapaEntrada::Combustion;
 }
 
-bool EsOpcionFluido(const std::string& nombre) {
-    const DefinicionEntrada* d = BuscarEntrada(nombre);
-    return d && DelFluido(*d);
-}
-
 bool EsEspecie(const std::string& fluido) {
     for (const char* s : kNombresEspecies)
         if (fluido == s) return true;
@@ -115,6 +110,15 @@ private:
 
 }  // namespace
 
+bool EsOpcionFluido(const std::string& nombre) {
+    const DefinicionEntrada* d = BuscarEntrada(nombre);
+    return d && DelFluido(*d);
+}
+
+std::string AyudaEntradasFluido() {
+    return AyudaEntradas(DelFluido);
+}
+
 std::string TextoUsoTablas() {
     return "Uso: vanta tablas [opciones]   las tablas de propiedades como texto\n"
            "  --fluido aire|humos|Ar|CO|CO2|H2O|N2|O2 (aire)   el comburente, los gases de combustión o una "
@@ -122,7 +126,7 @@ std::string TextoUsoTablas() {
            "  --por mol|kg (mol)               resultados por mol o por kilogramo\n"
            "  --desde K (300)  --hasta K (5000)  --paso K (100)\n"
            "El fluido se define con las opciones de calcular:\n" +
-           AyudaEntradas(DelFluido) +
+           AyudaEntradasFluido() +
            "Los números se escriben como en las casillas: \"0,5\" y \"0.5\" valen lo mismo.\n"
            "Una opción se escribe \"--opción valor\" o \"--opción=valor\", una vez.\n";
 }

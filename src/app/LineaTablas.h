@@ -11,6 +11,13 @@ namespace vanta::cli {
 
 std::string TextoUsoTablas();
 
+// Whether the name is one of the options of `calcular` that define the fluid
+// (the air, the fuel, Fr or Lambda).
+bool EsOpcionFluido(const std::string& nombre);
+
+// The help lines of those options, as `calcular --help` writes them.
+std::string AyudaEntradasFluido();
+
 // Writes the table on out and the messages on err; returns the exit status:
 // 0 for a whole table, 1 when the fluid, a number or the range was refused or
 // the calculation stopped, 2 for a usage error (with the usage text on err).

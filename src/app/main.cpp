@@ -15,6 +15,7 @@
 
 #include "app/LineaComandos.h"
 #include "app/LineaEstudio.h"
+#include "app/LineaLlama.h"
 #include "app/LineaTablas.h"
 #include "app/LineaValidacion.h"
 #include "app/SalidaSegura.h"
@@ -96,6 +97,7 @@ int Orden(const std::string& orden, const std::vector<std::string>& resto, char*
     if (orden == "estudio") return Estudio(resto);
     if (orden == "tablas") return vanta::cli::EjecutarTablas(resto, std::cout, std::cerr);
     if (orden == "validar") return vanta::cli::EjecutarValidar(resto, std::cout, std::cerr);
+    if (orden == "llama") return vanta::cli::EjecutarLlama(resto, std::cout, std::cerr);
     if (orden == "--help" || orden == "-h") {
         std::cout << vanta::cli::TextoUso();
         return vanta::cli::kSalidaBien;

@@ -75,6 +75,8 @@ const char* const kOrdenes[] = {
     "tablas --paso 0",
     "tablas --desde 300 --desde 400",
     "tablas --humedad x",
+    "llama --lambda 1,25 --aire-o2-n2 --json",
+    "llama --temperatura-ambiente",
 };
 
 }  // namespace

@@ -357,7 +357,7 @@ comprobar('la validación es la de vanta validar', async () => {
   await pagina.waitForFunction(() => Validacion.hecha);
   const v = await descargado('validacion.txt', () => pagina.click('#descargar-validacion'));
   igual(v.toString('utf8'), spawnSync(vanta, ['validar'], { encoding: 'utf8' }).stdout, 'la validación');
-  cierto((await pagina.$$('#tablas-validacion table')).length === 4, 'las cuatro tablas');
+  cierto((await pagina.$$('#tablas-validacion table')).length === 5, 'una tabla por grupo, las cinco');
 });
 
 comprobar('abierta desde una carpeta (file://) calcula, y su estudio corre', async () => {

@@ -58,9 +58,13 @@ TEST(Conversiones, ElTextoMasCortoEsElDeLaBibliotecaEstandar) {
         const double x =
             std::ldexp(static_cast<double>(azar() % 1000000), static_cast<int>(azar() % 90) - 45);
         for (double v : {d, x, static_cast<double>(azar() % 100000) / 1000.0})
-            if (std::isfinite(v)) ASSERT_EQ(Nuestro(v), Estandar(v)) << v;
+            if (std::isfinite(v)) {
+                ASSERT_EQ(Nuestro(v), Estandar(v)) << v;
+            }
         for (float v : {f, static_cast<float>(x)})
-            if (std::isfinite(v)) ASSERT_EQ(Nuestro(v), Estandar(v)) << v;
+            if (std::isfinite(v)) {
+                ASSERT_EQ(Nuestro(v), Estandar(v)) << v;
+            }
         ASSERT_EQ(NuestroFijo(x), EstandarFijo(x));
         ASSERT_EQ(NuestroFijo(x, i % 45), EstandarFijo(x, i % 45));
     }
@@ -98,10 +102,14 @@ TEST(Conversiones, LeeLoQueLeeLaBibliotecaEstandar) {
         const auto rb = LeerNumeroCompleto(t, fin, b);
         EXPECT_EQ(rb.ec, ra.ec) << t;
         EXPECT_EQ(rb.ptr - t, ra.ptr - t) << t;
-        if (!std::isnan(a)) EXPECT_EQ(b, a) << t;
+        if (!std::isnan(a)) {
+            EXPECT_EQ(b, a) << t;
+        }
         long double la = 7, lb = 7;
         std::from_chars(t, fin, la, std::chars_format::general);
         LeerNumeroCompleto(t, fin, lb);
-        if (!std::isnan(la)) EXPECT_EQ(lb, la) << t;
+        if (!std::isnan(la)) {
+            EXPECT_EQ(lb, la) << t;
+        }
     }
 }

@@ -6,6 +6,7 @@
 
 #include "core/inputs/BibliotecaCombustibles.h"
 #include "core/sequence/Calculo.h"
+#include "core/validation/ValidacionEquilibrio.h"
 #include "core/warnings/CicloIdeal.h"
 #include "core/warnings/Cifras.h"
 #include "core/warnings/Referencias.h"
@@ -318,7 +319,7 @@ std::vector<Comprobacion> ComprobarCiclos(char sep) {
 TablaValidacion Validar(char sep) {
     TablaValidacion t;
     t.filas = ComprobarEspecies(EspeciesDelPrograma, sep);
-    for (auto* grupo : {ComprobarCombustibles, ComprobarCiclos})
+    for (auto* grupo : {ComprobarCombustibles, ComprobarCiclos, ComprobarEquilibrio})
         for (auto& f : grupo(sep)) t.filas.push_back(std::move(f));
     return t;
 }
@@ -335,7 +336,7 @@ std::string TextoResultado(Resultado r) {
     return {};
 }
 
-std::array<DescripcionGrupo, 4> GruposValidacion(char sep) {
+std::array<DescripcionGrupo, 5> GruposValidacion(char sep) {
     const std::string cp = Porcentaje(kToleranciaCp, sep), s = Porcentaje(kToleranciaS, sep),
                       h = Porcentaje(kToleranciaH, sep),
                       hAbs = Cifra(kToleranciaHAbsoluta / kKilo, "0.0##", sep);
@@ -410,6 +411,7 @@ std::array<DescripcionGrupo, 4> GruposValidacion(char sep) {
          "relación de compresión, 1 − rc^(1 − γ) con γ = " +
              gamma +
              ": a igual relación de compresión ningún ciclo rinde más, y el del programa ha de ser menor."},
+        DescripcionEquilibrio(sep),
     }};
 }
 

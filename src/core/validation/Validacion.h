@@ -1,7 +1,9 @@
 // The validation of the program against published tables and against itself:
 // the six species against NIST-JANAF, the fuels of the library against
 // published heating values, the energy balance of each process of a set of
-// calculated cycles, and their efficiency against the ideal cycle. Each check
+// calculated cycles, and their efficiency against the ideal cycle; and the
+// chemical equilibrium of the combustion with dissociation
+// (ValidacionEquilibrio.h). Each check
 // has the program's value, the reference, the difference and its result
 // against a stated tolerance.
 #pragma once
@@ -22,7 +24,7 @@ namespace vanta {
 // model, but within the wider bound that reason allows; beyond everything.
 enum class Resultado { Cumple, Explicada, NoCumple };
 
-enum class GrupoValidacion { Especies, Combustibles, Balance, Rendimiento };
+enum class GrupoValidacion { Especies, Combustibles, Balance, Rendimiento, Equilibrio };
 
 struct Comprobacion {
     GrupoValidacion grupo;
@@ -46,7 +48,7 @@ struct DescripcionGrupo {
     std::string titulo;
     std::string explicacion;
 };
-std::array<DescripcionGrupo, 4> GruposValidacion(char separador);
+std::array<DescripcionGrupo, 5> GruposValidacion(char separador);
 
 // Tolerances.
 inline constexpr double kToleranciaCp = 0.01;

@@ -35,10 +35,10 @@ private slots:
         p.Menu("mnuValidacion")->trigger();
         auto* v = p.f.findChild<VentanaValidacion*>(QStringLiteral("VentanaValidacion"));
         QVERIFY(v && v->isVisible());
-        QCOMPARE(v->pestanas()->count(), 4);
+        QCOMPARE(v->pestanas()->count(), 5);
         int filas = 0;
         for (auto g : {GrupoValidacion::Especies, GrupoValidacion::Combustibles, GrupoValidacion::Balance,
-                       GrupoValidacion::Rendimiento}) {
+                       GrupoValidacion::Rendimiento, GrupoValidacion::Equilibrio}) {
             QTableWidget* t = v->Tabla(g);
             for (int i = 0; i < t->rowCount(); ++i) {
                 const QString resultado = t->item(i, 5)->text();
@@ -57,6 +57,8 @@ private slots:
         QCOMPARE(p.f.findChildren<VentanaValidacion*>().size(), 1);
         v->pestanas()->setCurrentIndex(static_cast<int>(GrupoValidacion::Balance));
         Capturar(v, "validacion.png");
+        v->pestanas()->setCurrentIndex(static_cast<int>(GrupoValidacion::Equilibrio));
+        Capturar(v, "validacion-equilibrio.png");
     }
 
     void laFranjaMuestraLosAvisosYLosRendimientos() {
