@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "core/database/Direccion.h"
+#include "core/equilibrium/InformeDisociacion.h"
 #include "core/services/Numeros.h"
 
 namespace vanta::cli {
@@ -74,9 +75,9 @@ Parseo ParsearCalcular(const std::vector<std::string>& argumentos) {
     const std::vector<std::string> palabras = SepararIgual(argumentos);
     for (size_t i = 0; i < palabras.size(); ++i) {
         const std::string& a = palabras[i];
-        if (a == "--json") {
-            if (o.json) return {std::nullopt, a + kDadaDosVeces};
-            o.json = true;
+        if (bool* interruptor = a == "--json" ? &o.json : a == "--disociacion" ? &o.disociacion : nullptr) {
+            if (*interruptor) return {std::nullopt, a + kDadaDosVeces};
+            *interruptor = true;
             continue;
         }
         if (a.rfind("--", 0) != 0) return {std::nullopt, "argumento inesperado: " + a};
@@ -118,6 +119,9 @@ std::string TextoUso() {
            "\n"
            "Opciones de calcular:\n"
            "  --json                          en lugar del informe, todas las variables del cálculo en JSON\n"
+           "  --disociacion                   también el ciclo con disociación (equilibrio químico) y con\n"
+           "                                  productos de combustión completa, tras el informe o en el "
+           "JSON\n"
            "  --html CARPETA                  escribe también la página HTML y sus siete imágenes\n"
            "  --guardar NOMBRE                guarda también el resultado en la base de datos\n"
            "  --base-datos RUTA|DIRECCIÓN     dónde la guarda: un archivo SQLite (por defecto BD.sqlite\n"
@@ -142,8 +146,15 @@ bool NecesitaVentanas(const OpcionesCalcular& o) {
 int EscribirCalculo(const ResultadoCalculo& r, const OpcionesCalcular& o, std::ostream& out,
                     std::ostream& err) {
     for (const MensajeCalculo& m : r.mensajes) err << "vanta calcular: " << m.texto << '\n';
+    const auto disociacion = o.disociacion && r.CicloCalculado()
+                                 ? std::optional(equilibrio::CicloConDisociacion(*r.estado))
+                                 : std::nullopt;
     if (o.json) {
-        out << ResultadoJSON(r) << '\n';
+        std::string json = ResultadoJSON(r);
+        // The two cycles join the object as its last members.
+        if (disociacion)
+            json.insert(json.size() - 1, "," + equilibrio::CicloConDisociacionJSON(*disociacion));
+        out << json << '\n';
     } else if (r.CicloCalculado()) {
         // The report as the program keeps it, CR LF, closed by one more line end.
         out << r.informe << "\r\n";
@@ -152,6 +163,7 @@ int EscribirCalculo(const ResultadoCalculo& r, const OpcionesCalcular& o, std::o
                 << "Potencia = " << r.potencia->potencia << " W = " << r.potencia->potenciaCV << " CV\r\n"
                 << "Consumo = " << r.textos.txtConsumoMJ << " g / MJ = " << r.textos.txtConsumoKwh
                 << " g / (kW·h)\r\n";
+        if (disociacion) out << "\r\n" << equilibrio::TextoDisociacion(*r.estado, *disociacion, "\r\n");
         for (const Aviso& a : r.avisos) err << "aviso: " << a.texto << '\n';
     }
     return r.bien ? kSalidaBien : kSalidaFallo;

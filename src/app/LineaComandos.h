@@ -27,6 +27,8 @@ inline constexpr const char* kDadaDosVeces = " se ha dado dos veces";
 // The inputs of the calculation, and what to write besides the report.
 struct OpcionesCalcular : OpcionesCalculo {
     bool json = false;
+    // Also the cycle with dissociation: after the report, or in the JSON.
+    bool disociacion = false;
     std::string html;     // folder for the page and its bitmaps, empty for none
     std::string guardar;  // record name for the results database, empty for none
     // The results database: a file, or a postgresql:// address; empty for

@@ -69,6 +69,8 @@ const char* const kOrdenes[] = {
     "calcular --temperatura-ambiente 200",
     "calcular --fr 2 --json",
     "calcular --lambda 1,2 --masa 85,0,0,0 --masa-molecular 0.1 --ciclo Diesel --rc 17",
+    "calcular --disociacion --ciclo Mixto --combustible Gasoil --fr 0.8 --rc 18 --pmax 9000000",
+    "calcular --disociacion --disociacion",
     "tablas --fluido humos --combustible Gasoil --fr=0.8 --desde 300 --hasta 1300 --paso 500",
     "tablas --fluido CO2 --por kg --desde 900 --hasta 1100 --paso 100",
     "tablas --fluido agua",

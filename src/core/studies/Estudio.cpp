@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "core/cycle/Ciclo.h"
+#include "core/equilibrium/InformeDisociacion.h"
 #include "core/fluids/Combustible.h"
 #include "core/services/Numeros.h"
 
@@ -25,6 +26,17 @@ namespace {
         VANTA_CAMPO("t" #n, "K", "Temperatura en " #n, T##n),                                             \
         VANTA_CAMPO("h" #n, "J/mol", "Entalpía en " #n, h##n),                                            \
         VANTA_CAMPO("s" #n, "J/(mol·K)", "Entropía en " #n, S##n)
+
+// A figure of a cycle with dissociation; none where that cycle failed.
+double Figura(const equilibrio::CicloEquilibrio& ciclo, double valor) {
+    return ciclo.bien ? valor : std::nan("");
+}
+
+#define VANTA_EQUILIBRIO(nombre, unidad, titulo, modelo, figura)                                        \
+    {                                                                                                   \
+        nombre, unidad, titulo, "", nullptr, false, false,                                              \
+            [](const equilibrio::CiclosConDisociacion& c) { return Figura(c.modelo, c.modelo.figura); } \
+    }
 
 const SalidaEstudio kSalidas[] = {
     VANTA_CAMPO("rendimiento", "-", "Rendimiento", Rendimiento),
@@ -60,7 +72,26 @@ const SalidaEstudio kSalidas[] = {
     VANTA_CAMPO("gamma5", "-", "Gamma en 5", Gamma5),
     VANTA_CAMPO("masa-aire", "kg", "Masa de aire", MasaAire),
     VANTA_CAMPO("masa-combustible", "kg", "Masa de combustible", MasaCombustible),
+    VANTA_EQUILIBRIO("t3-equilibrio", "K", "Temperatura en 3, en equilibrio químico", equilibrio, estado3.T),
+    VANTA_EQUILIBRIO("p3-equilibrio", "Pa", "Presión en 3, en equilibrio químico", equilibrio, estado3.p),
+    VANTA_EQUILIBRIO("t4-equilibrio", "K", "Temperatura en 4, en equilibrio químico", equilibrio, estado4.T),
+    VANTA_EQUILIBRIO("p4-equilibrio", "Pa", "Presión en 4, en equilibrio químico", equilibrio, estado4.p),
+    VANTA_EQUILIBRIO("t5-equilibrio", "K", "Temperatura en 5, en equilibrio químico", equilibrio, estado5.T),
+    VANTA_EQUILIBRIO("wciclo-equilibrio", "J", "Trabajo del ciclo en equilibrio químico", equilibrio,
+                     trabajo),
+    VANTA_EQUILIBRIO("rendimiento-equilibrio", "-", "Rendimiento del ciclo en equilibrio químico", equilibrio,
+                     rendimiento),
+    {"no-ppm", "ppm", "NO al final de la combustión, en equilibrio químico", "", nullptr, false, false,
+     [](const equilibrio::CiclosConDisociacion& c) {
+         return Figura(c.equilibrio,
+                       c.equilibrio.estado4.Fraccion(equilibrio::NO) * equilibrio::kPartesPorMillon);
+     }},
+    VANTA_EQUILIBRIO("t4-sin-disociacion", "K", "Temperatura en 4, sin disociación", sinDisociacion,
+                     estado4.T),
+    VANTA_EQUILIBRIO("rendimiento-sin-disociacion", "-", "Rendimiento del ciclo sin disociación",
+                     sinDisociacion, rendimiento),
 };
+#undef VANTA_EQUILIBRIO
 #undef VANTA_ESTADOS
 #undef VANTA_CAMPO
 
@@ -220,9 +251,18 @@ ResultadoPunto CalcularPunto(const Estudio& estudio, size_t punto) {
     const ResultadoCalculo c = Calcular(x, estudio.separador);
     ResultadoPunto r;
     r.bien = c.bien;
-    for (const SalidaEstudio* salida : estudio.salidas)
-        r.valores.push_back(r.bien ? salida->valor(*c.estado, c.vatios) : std::nan(""));
     r.mensajes = c.TextosMensajes();
+    // The cycles with dissociation once a point, where an output asks for them.
+    std::optional<equilibrio::CiclosConDisociacion> disociacion;
+    if (r.bien && std::any_of(estudio.salidas.begin(), estudio.salidas.end(),
+                              [](auto* s) { return s->deDisociacion != nullptr; })) {
+        disociacion = equilibrio::CicloConDisociacion(*c.estado);
+        for (const std::string& m : equilibrio::MensajesDisociacion(*disociacion)) r.mensajes.push_back(m);
+    }
+    for (const SalidaEstudio* salida : estudio.salidas)
+        r.valores.push_back(!r.bien                  ? std::nan("")
+                            : !salida->deDisociacion ? salida->valor(*c.estado, c.vatios)
+                                                     : salida->deDisociacion(*disociacion));
     return r;
 }
 

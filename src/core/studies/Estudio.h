@@ -14,6 +14,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/equilibrium/CicloEquilibrio.h"
 #include "core/sequence/Calculo.h"
 #include "core/state/Estado.h"
 
@@ -26,8 +27,10 @@ std::span<const EntradaEstudio> EntradasEstudio();
 const EntradaEstudio* BuscarEntradaEstudio(std::string_view nombre);
 
 // An output: a figure of the state (campo, its name in the state and in the
-// JSON of the state) or one worked out from it and from the power at the
-// point's speed (campo empty), by its name, unit and caption.
+// JSON of the state), one worked out from it and from the power at the
+// point's speed (campo empty), or one of the cycles with dissociation
+// calculated from the point's state (valor empty), by its name, unit and
+// caption.
 struct SalidaEstudio {
     const char* nombre;
     const char* unidad;
@@ -36,6 +39,7 @@ struct SalidaEstudio {
     double (*valor)(const Estado& e, double potencia);
     bool sencilla;    // single precision in the state
     bool conRegimen;  // needs the speed (rpm)
+    double (*deDisociacion)(const equilibrio::CiclosConDisociacion& c) = nullptr;
 };
 std::span<const SalidaEstudio> SalidasEstudio();
 const SalidaEstudio* BuscarSalidaEstudio(std::string_view nombre);

@@ -185,6 +185,30 @@ TEST(Estudio, UnaVelocidadQueNoEsNumeroHaceFallarElPunto) {
     EXPECT_TRUE(CalcularPunto(e, 0).bien);
 }
 
+TEST(Estudio, LasSalidasConDisociacionSonLasDeSusCiclos) {
+    Estudio e = Pequeno();
+    e.salidas.clear();
+    for (const char* nombre : {"t3-equilibrio", "p3-equilibrio", "t4-equilibrio", "p4-equilibrio",
+                               "t5-equilibrio", "wciclo-equilibrio", "rendimiento-equilibrio", "no-ppm",
+                               "t4-sin-disociacion", "rendimiento-sin-disociacion"})
+        e.salidas.push_back(BuscarSalidaEstudio(nombre));
+    const ResultadoPunto r = CalcularPunto(e, 0);
+    ASSERT_TRUE(r.bien);
+    const auto c = equilibrio::CicloConDisociacion(*Calcular(EntradasPunto(e, 0)).estado);
+    const auto& q = c.equilibrio;
+    const std::vector<double> esperados = {q.estado3.T,
+                                           q.estado3.p,
+                                           q.estado4.T,
+                                           q.estado4.p,
+                                           q.estado5.T,
+                                           q.trabajo,
+                                           q.rendimiento,
+                                           q.estado4.Fraccion(equilibrio::NO) * 1e6,
+                                           c.sinDisociacion.estado4.T,
+                                           c.sinDisociacion.rendimiento};
+    EXPECT_EQ(r.valores, esperados);
+}
+
 TEST(Estudio, CancelarParaEntrePuntos) {
     Estudio e = Pequeno();
     ASSERT_EQ(LeerValores("8:12:0.1", true, e.variaciones[0]), "");
