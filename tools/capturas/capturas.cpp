@@ -90,6 +90,21 @@ void ElNombreAlGuardar() {
     DialogosQt(&p.f).InputBox(bd::kPromptGuardar, bd::NombrePorDefecto(p.e, "Gasoil"));
 }
 
+// The Mixto of the README with its cycle in chemical equilibrium laid over
+// it, as the cycle window's check box shows it after CALCULAR.
+void LaDisociacion() {
+    Programa p{QSize()};
+    Comprobar(p.Etapa1() && p.Etapa2(QStringLiteral("Gasoil")) && p.Etapa3() && p.AbrirCiclo("imgMixto"));
+    Hijo<QCheckBox>(p.f.Ciclo(), "chkDisociacion")->setChecked(true);
+    Hijo<QLineEdit>(p.f.Ciclo(), "txtRc")->setText(QStringLiteral("18"));
+    Comprobar(p.Calcular());
+    QWidget* v = Hijo<QWidget>(&p.f, "VentanaDisociacion");
+    Comprobar(QTest::qWaitForWindowExposed(v));
+    v->resize(1280, 760);
+    QTest::qWait(50);
+    Guardar(v, "disociacion.png");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -105,5 +120,6 @@ int main(int argc, char** argv) {
     LasVentanasDelCiclo();
     LasCifrasGrandes();
     ElNombreAlGuardar();
+    LaDisociacion();
     return bien ? 0 : 1;
 }

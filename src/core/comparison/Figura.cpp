@@ -188,6 +188,34 @@ Disposicion Disponer(const Superficie& s, float ancho, float alto, Diagrama d,
     return p;
 }
 
+namespace {
+
+// Dashes and gaps, in pixels.
+constexpr float kTrazoGuion = 9, kHuecoGuion = 5;
+
+// A line from the current point in dashes; fase: how far along its pattern
+// the line starts, carried from one line to the next so that a curve of
+// short lines keeps its dashes.
+void LineaDiscontinua(Superficie& s, float x, float y, float& fase) {
+    const float x0 = s.CurrentX(), y0 = s.CurrentY();
+    const float largo = std::hypot(x - x0, y - y0);
+    const float periodo = kTrazoGuion + kHuecoGuion;
+    for (float a = 0; a < largo;) {
+        const float enPeriodo = std::fmod(fase + a, periodo);
+        const bool trazo = enPeriodo < kTrazoGuion;
+        const float b = std::min(largo, a + (trazo ? kTrazoGuion : periodo) - enPeriodo);
+        if (trazo)
+            s.Line(x0 + (x - x0) * a / largo, y0 + (y - y0) * a / largo, x0 + (x - x0) * b / largo,
+                   y0 + (y - y0) * b / largo);
+        a = b;
+    }
+    fase = std::fmod(fase + largo, periodo);
+    s.SetCurrentX(x);
+    s.SetCurrentY(y);
+}
+
+}  // namespace
+
 void DibujarFigura(Superficie& s, float ancho, float alto, Diagrama d, const std::vector<SerieFigura>& series,
                    const OpcionesFigura& o) {
     s.SetAutoRedraw(true);
@@ -229,7 +257,13 @@ void DibujarFigura(Superficie& s, float ancho, float alto, Diagrama d, const std
             const float x = margen + en.x, y = margen + 1.5f * h + en.fila * 1.4f * h;
             s.SetDrawWidth(kGrosorCurva + 1);
             s.SetForeColor(series[en.serie].color);
-            s.Line(x, y + 0.55f * h, x + 2 * h, y + 0.55f * h);
+            s.SetCurrentX(x);
+            s.SetCurrentY(y + 0.55f * h);
+            float fase = 0;
+            if (series[en.serie].discontinua)
+                LineaDiscontinua(s, x + 2 * h, y + 0.55f * h, fase);
+            else
+                s.Line(x + 2 * h, y + 0.55f * h);
             s.SetForeColor(kNegro);
             Texto(s, x + 2.4f * h, y, series[en.serie].nombre);
         }
@@ -250,10 +284,14 @@ void DibujarFigura(Superficie& s, float ancho, float alto, Diagrama d, const std
             }
             s.SetCurrentX(ux);
             s.SetCurrentY(uy);
+            float fase = 0;
             for (size_t i = 1; i < t.puntos.size(); ++i) {
                 const float x = p.X(t.puntos[i].x * ejes.factorX), y = p.Y(t.puntos[i].y * ejes.factorY);
                 if (i + 1 < t.puntos.size() && std::fabs(x - ux) + std::fabs(y - uy) < 0.4f) continue;
-                s.Line(x, y);
+                if (serie.discontinua)
+                    LineaDiscontinua(s, x, y, fase);
+                else
+                    s.Line(x, y);
                 ux = x, uy = y;
             }
         }

@@ -26,6 +26,8 @@ struct SerieFigura {
     // main window's diagrams.
     bool colorPropio = true;
     int32_t color = 0;
+    // Drawn in dashes, as a second model laid over a calculation.
+    bool discontinua = false;
 };
 
 struct OpcionesFigura {

@@ -116,7 +116,7 @@ std::string TextoDisociacion(const Estado& e, const CiclosConDisociacion& c, con
         t += AIzquierda(f.titulo, kAnchoTitulo) + ADerecha(f.programa, kAnchoColumna) +
              ADerecha(f.sinDisociacion, kAnchoColumna) + ADerecha(f.equilibrio, kAnchoColumna) + fin;
     if (const std::string ideal = RendimientoIdealTexto(e); !ideal.empty())
-        t += "Rendimiento del ciclo ideal de aire estándar (gamma 1.4): " + ideal + " %" + fin;
+        t += kTextoRendimientoIdeal + ideal + " %" + fin;
     for (const std::string& m : MensajesDisociacion(c)) t += m + fin;
     return t;
 }
@@ -124,6 +124,20 @@ std::string TextoDisociacion(const Estado& e, const CiclosConDisociacion& c, con
 double TemperaturaMaximaEquilibrio(const CiclosConDisociacion& c) {
     if (!c.equilibrio.bien) return 0;
     return std::max({c.equilibrio.estado3.T, c.equilibrio.estado4.T, c.equilibrio.estado5.T});
+}
+
+bool AvisaDisociacion(const std::vector<Aviso>& avisos) {
+    return std::any_of(avisos.begin(), avisos.end(),
+                       [](const Aviso& a) { return a.tipo == TipoAviso::Disociacion; });
+}
+
+void CompletarAvisoDisociacion(std::vector<Aviso>& avisos, const CiclosConDisociacion& c, char separador) {
+    const double T = TemperaturaMaximaEquilibrio(c);
+    if (!(T > 0)) return;
+    for (Aviso& a : avisos)
+        if (a.tipo == TipoAviso::Disociacion)
+            a.texto += " En equilibrio químico, con disociación, la máxima sería de " +
+                       Cifra(T, "### ##0", separador) + " K.";
 }
 
 }  // namespace vanta::equilibrio

@@ -9,10 +9,13 @@
 
 #include "core/equilibrium/CicloEquilibrio.h"
 #include "core/state/Estado.h"
+#include "core/warnings/Avisos.h"
 
 namespace vanta::equilibrio {
 
 inline constexpr const char* kTituloDisociacion = "CICLO CON DISOCIACIÓN (EQUILIBRIO QUÍMICO)";
+inline constexpr const char* kTextoRendimientoIdeal =
+    "Rendimiento del ciclo ideal de aire estándar (gamma 1.4): ";
 inline constexpr const char* kColumnasDisociacion[3] = {"Programa", "Sin disociación", "Equilibrio"};
 
 struct FilaDisociacion {
@@ -36,5 +39,10 @@ std::string TextoDisociacion(const Estado& e, const CiclosConDisociacion& c, con
 
 // The greatest temperature of the cycle in equilibrium, or 0 when it failed.
 double TemperaturaMaximaEquilibrio(const CiclosConDisociacion& c);
+
+// Whether the warnings say that dissociation matters.
+bool AvisaDisociacion(const std::vector<Aviso>& avisos);
+// That warning, told the greatest temperature in equilibrium.
+void CompletarAvisoDisociacion(std::vector<Aviso>& avisos, const CiclosConDisociacion& c, char separador);
 
 }  // namespace vanta::equilibrio

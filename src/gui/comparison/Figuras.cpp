@@ -184,14 +184,24 @@ void CopiarFigura(const Figura& f, QSize pedido) {
     QGuiApplication::clipboard()->setMimeData(datos);
 }
 
-Figura FiguraDiagrama(Diagrama d, std::shared_ptr<const std::vector<CalculoComparado>> calculos,
-                      UnidadPresion presion, char separador) {
+namespace {
+
+// A diagram's figure with its name, title, size and letter, still to draw.
+Figura FiguraBaseDiagrama(Diagrama d) {
     Figura f;
     f.nombre = QString::fromLatin1(kNombresDiagramas[static_cast<size_t>(d)]);
     f.titulo = ATexto(TituloFigura(d));
     f.base = kBaseDiagrama;
     f.fondo = kFondoBlanco;
     f.letra = LetraFigura(kPuntosLetraDiagrama);
+    return f;
+}
+
+}  // namespace
+
+Figura FiguraDiagrama(Diagrama d, std::shared_ptr<const std::vector<CalculoComparado>> calculos,
+                      UnidadPresion presion, char separador) {
+    Figura f = FiguraBaseDiagrama(d);
     f.dibujar = [d, calculos, presion, separador](Superficie& s, QSizeF t) {
         const auto hay =
             std::count_if(calculos->begin(), calculos->end(), [](const auto& c) { return c.Hay(); });
@@ -203,6 +213,19 @@ Figura FiguraDiagrama(Diagrama d, std::shared_ptr<const std::vector<CalculoCompa
         }
         const OpcionesFigura o{
             .presion = presion, .separador = separador, .leyenda = hay > 1, .numerar = true};
+        DibujarFigura(s, static_cast<float>(t.width()), static_cast<float>(t.height()), d, series, o);
+    };
+    return f;
+}
+
+Figura FiguraDiagramaSuperpuesto(Diagrama d, std::shared_ptr<const CalculoComparado> calculo,
+                                 std::shared_ptr<const SerieFigura> superpuesta, char separador) {
+    Figura f = FiguraBaseDiagrama(d);
+    f.dibujar = [d, calculo, superpuesta, separador](Superficie& s, QSizeF t) {
+        const std::vector<SerieFigura> series = {
+            {calculo->nombre, &calculo->curvas, calculo->estado.get(), true, ColorComparacion(0)},
+            *superpuesta};
+        const OpcionesFigura o{.presion = UnidadPresion::Pa, .separador = separador, .leyenda = true};
         DibujarFigura(s, static_cast<float>(t.width()), static_cast<float>(t.height()), d, series, o);
     };
     return f;

@@ -72,6 +72,11 @@ void CopiarFigura(const Figura& f, QSize pedido);
 // numbers of the states. Calculations without one are left out.
 Figura FiguraDiagrama(Diagrama d, std::shared_ptr<const std::vector<CalculoComparado>> calculos,
                       UnidadPresion presion, char separador);
+// The figure of one diagram of a calculation, with the pens of its
+// processes, and another series laid over it (a second model of the same
+// cycle), with a legend of both.
+Figura FiguraDiagramaSuperpuesto(Diagrama d, std::shared_ptr<const CalculoComparado> calculo,
+                                 std::shared_ptr<const SerieFigura> superpuesta, char separador);
 // The four diagrams, in the order p-V, T-V, T-s, h-s.
 std::vector<Figura> FigurasDiagramas(std::shared_ptr<const std::vector<CalculoComparado>> calculos,
                                      UnidadPresion presion, char separador);

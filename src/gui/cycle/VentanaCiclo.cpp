@@ -101,6 +101,8 @@ VentanaCiclo::~VentanaCiclo() = default;
 
 void VentanaCiclo::CrearControles() {
     chkOcultar_ = NuevaCasilla(this, "chkOcultar", kOcultarAutomaticamente, true);
+    chkDisociacion_ =
+        NuevaCasilla(this, "chkDisociacion", "Calcular también con disociación (equilibrio químico)", false);
 
     fraDTecnicos_ = NuevoMarco(this, "fraDTecnicos", "Datos técnicos del motor");
     txtCilindrada_ = NuevaCajaEntrada(fraDTecnicos_, "cilindrada");
@@ -284,7 +286,12 @@ void VentanaCiclo::Distribuir() {
     auto* columna = new QVBoxLayout(this);
     columna->addLayout(imagenes);
     columna->addLayout(zona, 1);
+    columna->addWidget(chkDisociacion_);
     columna->addWidget(chkOcultar_);
+}
+
+bool VentanaCiclo::ConDisociacion() const {
+    return chkDisociacion_->isChecked();
 }
 
 // ---- What the logic does to the window ---------------------------------------------------

@@ -62,6 +62,8 @@ public:
 
     // The cycle's inputs as the window holds them.
     void LeerEntradas(Entradas& x) const;
+    // Whether each calculation also shows the cycle with dissociation.
+    bool ConDisociacion() const;
 
 public slots:
     void cmdCal_Click();
@@ -95,6 +97,7 @@ private:
     bool cargada_ = false;
 
     QCheckBox* chkOcultar_;
+    QCheckBox* chkDisociacion_;
     QGroupBox *fraDTecnicos_, *fraAire_, *fraOpcion_, *fraExpansion_, *fraCompresion_;
     QLineEdit *txtCilindrada_, *txtRc_, *txtP1_, *txtT1_, *txtPropVcte_, *txtPMax_, *txtPropPcte_,
         *txtGMedioExp_, *txt_nExp_, *txtGammaMedioComp_, *txt_nCom_;

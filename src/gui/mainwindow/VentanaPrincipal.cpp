@@ -14,6 +14,7 @@
 #include <QScreen>
 #include <QUrl>
 
+#include "core/equilibrium/InformeDisociacion.h"
 #include "core/reports/ArchivosInforme.h"
 #include "core/services/Numeros.h"
 #include "core/warnings/Avisos.h"
@@ -24,6 +25,7 @@
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/VentanaBaseDatos.h"
 #include "gui/database/VentanaElegirBaseDatos.h"
+#include "gui/equilibrium/VentanaDisociacion.h"
 #include "gui/fluids/VentanaAire.h"
 #include "gui/fluids/VentanaCombustible.h"
 #include "gui/fluids/VentanaCombustion.h"
@@ -328,6 +330,8 @@ void VentanaPrincipal::CrearMenus() {
     for (QAction* a : {mnuVerTodo_, mnuPV_, mnuTV_, mnuTS_, mnuHS_}) a->setCheckable(true);
     mnuCalcular_ = Entrada(mnuVer_, "mnuCalcular", "Calcular &ciclo");
     mnuComparar_ = Entrada(mnuVer_, "mnuComparar", "C&omparar cálculos…");
+    mnuDisociacion_ = Entrada(mnuVer_, "mnuDisociacion", "Combustión con &disociación…");
+    mnuDisociacion_->setEnabled(false);
     barra->addMenu(mnuVer_);
 
     mnuHerramientas_ = Menu(barra, "mnuHerramientas", "&Herramientas");
@@ -371,7 +375,8 @@ void VentanaPrincipal::CrearMenus() {
         {mnuAyuda2_, &VentanaPrincipal::mnuAyuda2_Click},
         {mnuAcercaDe_, &VentanaPrincipal::mnuAcercaDe_Click},
         {mnuExportarDiagramas_, &VentanaPrincipal::mnuExportarDiagramas_Click},
-        {mnuComparar_, &VentanaPrincipal::mnuComparar_Click}};
+        {mnuComparar_, &VentanaPrincipal::mnuComparar_Click},
+        {mnuDisociacion_, &VentanaPrincipal::mnuDisociacion_Click}};
     for (auto [accion, metodo] : acciones) connect(accion, &QAction::triggered, this, metodo);
 }
 
@@ -422,13 +427,22 @@ void VentanaPrincipal::CicloTerminado(const ResultadoCiclo& r, const Entradas& x
         calculo->textos = r.textos;
         calculo->avisos = AvisosValidez(e_, calculo->tipoCombustible);
         calculo_ = std::move(calculo);
+        disociacion_.reset();
         PonerInforme(r.informe);
         MostrarResultados(r.textos);
     }
     vanta::CalculoTerminado(flujo_, r.bien);
     if (!r.bien) return;
-    panelConfianza_->Mostrar(calculo_->avisos, DistanciaAlIdeal(e_), e_.SeparadorDecimal);
+    // The strip tells how hot the cycle would be in equilibrium, where the
+    // model's temperature is past dissociation.
+    std::vector<Aviso> avisos = calculo_->avisos;
+    if (equilibrio::AvisaDisociacion(avisos))
+        equilibrio::CompletarAvisoDisociacion(avisos, Disociacion(), e_.SeparadorDecimal);
+    panelConfianza_->Mostrar(avisos, DistanciaAlIdeal(e_), e_.SeparadorDecimal);
     DistribuirConfianza();
+    mnuDisociacion_->setEnabled(true);
+    if (ventanaCiclo_->ConDisociacion() || (ventanaDisociacion_ && ventanaDisociacion_->isVisible()))
+        mnuDisociacion_Click();
 }
 
 std::string VentanaPrincipal::TipoCombustible() const {
@@ -778,6 +792,29 @@ void VentanaPrincipal::mnuComparar_Click() {
     if (flujo_.habilitado.mnuInforme && calculo_) actual = CalculoDeResultado("Cálculo actual", *calculo_);
     VentanaBaseDatos& b = BaseDatos();
     Comparar(this, b.Cargar() ? b.Almacen() : nullptr, std::move(actual), -1, e_.SeparadorDecimal, *dlg_);
+}
+
+// ---- The cycle with dissociation ---------------------------------------------------------------
+
+const equilibrio::CiclosConDisociacion& VentanaPrincipal::Disociacion() {
+    if (!disociacion_)
+        disociacion_ = std::make_shared<const equilibrio::CiclosConDisociacion>(
+            equilibrio::CicloConDisociacion(*calculo_->estado));
+    return *disociacion_;
+}
+
+void VentanaPrincipal::mnuDisociacion_Click() {
+    if (!calculo_) return;
+    auto calculo = std::make_shared<const CalculoComparado>(CalculoDeResultado("Cálculo actual", *calculo_));
+    if (!calculo->Hay()) {
+        dlg_->MsgBox(calculo->mensaje);
+        return;
+    }
+    Disociacion();
+    if (!ventanaDisociacion_) ventanaDisociacion_ = std::make_unique<VentanaDisociacion>(this);
+    ventanaDisociacion_->Mostrar(calculo, disociacion_);
+    ventanaDisociacion_->show();
+    ventanaDisociacion_->raise();
 }
 
 }  // namespace vanta

@@ -17,6 +17,7 @@
 
 #include "core/cycle/Ciclo.h"
 #include "core/diagrams/LecturaRaton.h"
+#include "core/equilibrium/CicloEquilibrio.h"
 #include "core/sequence/Calculo.h"
 #include "core/state/Estado.h"
 #include "core/workflow/Flujo.h"
@@ -45,6 +46,7 @@ class VentanaCombustible;
 class VentanaCombustion;
 class VentanaCiclo;
 class PanelConfianza;
+class VentanaDisociacion;
 class VentanaEstudio;
 
 class VentanaPrincipal : public QMainWindow, public EnlacePrincipal {
@@ -147,6 +149,9 @@ public slots:
     void mnuExportarDiagramas_Click();
     // The calculation beside saved ones on common diagrams.
     void mnuComparar_Click();
+    // Ver › Combustión con disociación: the cycle in chemical equilibrium
+    // beside the calculation's.
+    void mnuDisociacion_Click();
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
@@ -263,7 +268,7 @@ private:
             *mnuVerTodo_ = nullptr, *mnuPV_ = nullptr, *mnuTV_ = nullptr, *mnuTS_ = nullptr,
             *mnuHS_ = nullptr, *mnuCalcular_ = nullptr, *mnuTablasActual_ = nullptr, *mnuTablas_ = nullptr,
             *mnuAyuda2_ = nullptr, *mnuAcercaDe_ = nullptr, *mnuExportarDiagramas_ = nullptr,
-            *mnuComparar_ = nullptr, *mnuElegirBD_ = nullptr;
+            *mnuComparar_ = nullptr, *mnuElegirBD_ = nullptr, *mnuDisociacion_ = nullptr;
 
     VentanaAire* ventanaAire_ = nullptr;
     VentanaCombustible* ventanaCombustible_ = nullptr;
@@ -282,6 +287,10 @@ private:
     std::unique_ptr<VisoresInforme> visores_;
     Entradas aplicadas_;
     std::shared_ptr<const ResultadoCalculo> calculo_;
+    // The cycles with dissociation of calculo_, once asked for.
+    std::shared_ptr<const equilibrio::CiclosConDisociacion> disociacion_;
+    std::unique_ptr<VentanaDisociacion> ventanaDisociacion_;
+    const equilibrio::CiclosConDisociacion& Disociacion();
 };
 
 }  // namespace vanta
