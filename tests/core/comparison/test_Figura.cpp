@@ -2,6 +2,8 @@
 // axes, and the table of a comparison.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdio>
 #include <sstream>
 
 #include "core/comparison/Figura.h"
@@ -213,4 +215,43 @@ TEST(TablaComparacion, LasCifrasJuntasConSusDiferenciasYLosAvisos) {
         tabla += "\n";
     }
     EXPECT_EQ(pruebas::CompararDorado("comparacion/tabla.txt", tabla), "");
+}
+
+TEST(Figura, UnaSerieDiscontinuaVaATrazosSobreSuLinea) {
+    // One straight curve from corner to corner of its own scales.
+    CurvasCiclo recta;
+    recta.diagramas[0] = {{0, {{1e-5F, 1e5F}, {1e-4F, 1e6F}}}};
+    SuperficieGrabada s;
+    s.anchoCaracter = 7;
+    s.altoTexto = 14;
+    const int32_t color = ColorComparacion(2);
+    DibujarFigura(s, 800, 600, Diagrama::PV, {{"recta", &recta, nullptr, true, color, true}},
+                  {.leyenda = false});
+    struct Tramo {
+        float x1, y1, x2, y2;
+    };
+    std::vector<Tramo> tramos;
+    for (const std::string& l : LineasDe(s, Hex(color))) {
+        Tramo t{};
+        ASSERT_EQ(std::sscanf(l.c_str(), "Line %f %f %f %f", &t.x1, &t.y1, &t.x2, &t.y2), 4) << l;
+        tramos.push_back(t);
+    }
+    ASSERT_GT(tramos.size(), 20u);
+    const Tramo& a = tramos.front();
+    const Tramo& b = tramos.back();
+    const float largo = std::hypot(b.x2 - a.x1, b.y2 - a.y1);
+    float trazado = 0;
+    for (size_t i = 0; i < tramos.size(); ++i) {
+        const Tramo& t = tramos[i];
+        const float l = std::hypot(t.x2 - t.x1, t.y2 - t.y1);
+        trazado += l;
+        EXPECT_LE(l, 9.01F) << i;
+        // Each dash on the line, after the one before with a gap of 5 px.
+        const float lado = (t.x2 - a.x1) * (b.y2 - a.y1) - (t.y2 - a.y1) * (b.x2 - a.x1);
+        EXPECT_NEAR(lado / largo, 0, 0.05) << i;
+        if (i > 0) {
+            EXPECT_NEAR(std::hypot(t.x1 - tramos[i - 1].x2, t.y1 - tramos[i - 1].y2), 5, 0.05) << i;
+        }
+    }
+    EXPECT_NEAR(trazado / largo, 9.0 / 14.0, 0.02);
 }
