@@ -6,7 +6,7 @@
 
 #include "core/equilibrium/CicloEquilibrio.h"
 #include "core/equilibrium/Llama.h"
-#include "core/sequence/Secuencia.h"
+#include "core/sequence/Calculo.h"
 
 using namespace vanta;
 using namespace vanta::equilibrio;
@@ -47,15 +47,9 @@ void LlamaGasolina(benchmark::State& estado) {
 }
 
 Estado Calculado(const std::map<std::string, std::string>& opciones) {
-    Estado e;
     OpcionesCalculo o;
     o.valores = opciones;
-    DialogosGrabados dlg;
-    SuperficiesNulas nulas;
-    SuperficiesCalculo s = nulas.Todas();
-    VentanaPrincipalSimple v;
-    CalcularTodo(e, o, dlg, s, v);
-    return e;
+    return *Calcular(EntradasDeOpciones(o)).estado;
 }
 
 void Ciclos(benchmark::State& estado, std::map<std::string, std::string> opciones) {

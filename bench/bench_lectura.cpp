@@ -2,26 +2,19 @@
 // the variable exponent run again near the far end of the stroke.
 #include <benchmark/benchmark.h>
 
-#include <sstream>
-
-#include "app/LineaComandos.h"
 #include "core/diagrams/LecturaRaton.h"
+#include "core/sequence/Calculo.h"
 
 using namespace vanta;
 
 namespace {
 
 Estado Calculado(const char* modelo) {
-    Estado e;
-    GuardarColoresDiagramas(e);
-    DialogosGrabados dlg;
-    SuperficieNula a, b, c;
-    DiagramasNulos d;
-    SuperficiesCalculo s{a, b, c, d.Todos()};
-    std::ostringstream out;
-    cli::EjecutarCalcular(e, *cli::ParsearCalcular({"--compresion", modelo, "--expansion", modelo}).opciones,
-                          dlg, s, out);
-    return e;
+    Entradas x;
+    x.compresion = x.expansion = *ModeloDeNombre(modelo);
+    SuperficiesNulas nulas;
+    SuperficiesCalculo s = nulas.Todas();
+    return *Calcular(x, s).estado;
 }
 
 // range(0): model (0 mean, 1 polytropic, 2 variable); range(1): where the
@@ -30,7 +23,7 @@ void Movimiento(benchmark::State& estado) {
     const char* modelos[] = {"medio", "politropica", "variable"};
     Estado e = Calculado(modelos[estado.range(0)]);
     const double X = e.V2 + (e.V1 - e.V2) * estado.range(1) / 1000.0;
-    DialogosGrabados dlg;
+    Mensajes dlg;
     DiagramasNulos d;
     Diagramas g = d.Todos();
     LecturaEstado l;

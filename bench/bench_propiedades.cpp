@@ -17,10 +17,10 @@ Estado Fluido() {
     return e;
 }
 
-template <void (*Evaluar)(Estado&, Dialogos&)>
+template <void (*Evaluar)(Estado&, Mensajes&)>
 void Barrido(benchmark::State& estado) {
     Estado e = Fluido();
-    DialogosGrabados dlg;
+    Mensajes dlg;
     double T = 300;
     for (auto _ : estado) {
         T += 0.77;
@@ -31,7 +31,7 @@ void Barrido(benchmark::State& estado) {
     }
 }
 
-void CalcularEspeciesSolo(Estado& e, Dialogos& dlg) {
+void CalcularEspeciesSolo(Estado& e, Mensajes& dlg) {
     CalcularEspecies(e, dlg);
 }
 

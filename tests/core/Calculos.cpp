@@ -51,9 +51,9 @@ std::string Dibujo(const SuperficieGrabada& s) {
 
 namespace {
 
-// The JSON of the state, one variable a line.
-std::string EstadoEnLineas(const Estado& e) {
-    std::string json = EstadoJSON(e), s;
+// The JSON that `vanta calcular --json` writes, one variable a line.
+std::string JSONEnLineas(const ResultadoCalculo& r) {
+    std::string json = ResultadoJSON(r), s;
     for (size_t i = 0; i < json.size(); ++i) {
         if (json[i] == ',' && i + 1 < json.size() && json[i + 1] == '"')
             s += ",\n";
@@ -68,7 +68,7 @@ std::string EstadoEnLineas(const Estado& e) {
 std::string Volcado(Calculo& c) {
     std::string s = "== mensajes\n";
     for (const std::string& m : c.r.TextosMensajes()) s += m + "\n";
-    s += "== estado\n" + EstadoEnLineas(c.e);
+    s += "== json\n" + JSONEnLineas(c.r);
     if (!c.bien) return s;
     const TextosResultados& r = c.r.textos;
     s += "== etiquetas\n";
