@@ -444,15 +444,17 @@ void VentanaPrincipal::EtapaTerminada(Etapa etapa, bool calculada) {
     Mostrar();
 }
 
-// A band over the tables of results, as wide as they are together.
+// A band over the tables of results, as wide as they are together; over the
+// readout when a diagram is enlarged and they are hidden.
 void VentanaPrincipal::DistribuirIntentoFallido() {
     const Visibles& v = flujo_.visible;
-    const bool ver = flujo_.intentoFallido && (v.fraPuntos || v.fraTransformaciones);
+    const bool ver = flujo_.intentoFallido && v.fraEstadoActual;
     lblIntentoFallido_->setVisible(ver);
     if (!ver) return;
     QRect resultados;
     if (v.fraPuntos) resultados = fraPuntos_->geometry();
     if (v.fraTransformaciones) resultados = resultados.united(fraTransformaciones_->geometry());
+    if (resultados.isNull()) resultados = fraEstadoActual_->geometry();
     const int alto = lblIntentoFallido_->heightForWidth(resultados.width());
     lblIntentoFallido_->setGeometry(resultados.left(), std::max(0, resultados.top() - alto),
                                     resultados.width(), alto);

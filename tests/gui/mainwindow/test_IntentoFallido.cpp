@@ -63,6 +63,9 @@ private slots:
         QTest::mouseMove(tv, otro);
         QTest::mouseMove(tv, punto);
         QCOMPARE(p.Etiqueta("lblTmouseVal"), leida);
+        QTest::mouseClick(p.f.pctPV(), Qt::LeftButton);  // enlarged, the banner over the readout
+        QVERIFY(p.f.flujo().vista == Vista::PV && aviso->isVisible());
+        p.Menu("mnuVerTodo")->trigger();
 
         QVERIFY(Ciclo(p, "300"));
         QVERIFY(aviso->isHidden() && p.Boton("cmdEnvBaseDatos")->isEnabled() &&
