@@ -594,7 +594,8 @@ void VentanaPrincipal::FijarDireccionBaseDatos(const QString& direccion) {
 }
 
 void VentanaPrincipal::cmdEnvBaseDatos_Click() {
-    if (!calculo_) return;
+    // The figures of a failed attempt's predecessor are not saved as its own.
+    if (!calculo_ || flujo_.intentoFallido) return;
     GuardarBaseDatos(*calculo_, *dlg_, visores_->rthInforme(), Imagenes(), BaseDatos());
 }
 
