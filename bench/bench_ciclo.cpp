@@ -17,8 +17,9 @@ Entradas EntradasCaso(benchmark::State& estado) {
     if (x.ciclo == TipoCiclo::Diesel) x.rc = "18";
     if (x.ciclo == TipoCiclo::Mixto) x.pmax = "6000000";
     const int modelo = static_cast<int>(estado.range(1));
-    estado.SetLabel(std::string(NombreCiclo(x.ciclo)) +
-                    (modelo == 1 ? " medio" : modelo == 2 ? " politrópico" : " variable"));
+    estado.SetLabel(std::string(NombreCiclo(x.ciclo)) + (modelo == 1   ? " medio"
+                                                         : modelo == 2 ? " politrópico"
+                                                                       : " variable"));
     return x;
 }
 

@@ -250,6 +250,7 @@ std::string IdealJSON(const Estado& e) {
     const DistanciaIdeal d = DistanciaAlIdeal(e);
     Objeto o;
     o.Numero("gammaAireEstandar", kGammaAireEstandar).Numero("rendimiento", d.rendimiento);
+    o.Texto("nombre", NombreCicloIdeal(e)).Texto("explicacion", ExplicacionCicloIdeal(e, '.'));
     if (d.aireEstandar.valido) o.Numero("aireEstandar", d.aireEstandar.rendimiento);
     if (d.exponentes.valido) o.Numero("exponentes", d.exponentes.rendimiento);
     return o.Cerrar();

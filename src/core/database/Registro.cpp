@@ -140,6 +140,19 @@ std::string SQLLeerEntradas() {
     return Unir({"SELECT Entradas FROM ", kTablaEntradas, " WHERE Registro = ?"});
 }
 
+std::string SQLBorrarEntradas() {
+    return Unir({"DELETE FROM ", kTablaEntradas, " WHERE Registro = ?"});
+}
+
+std::string SQLBorrarRegistro() {
+    return "DELETE FROM " + Citado(kTabla) + " WHERE rowid = ?";
+}
+
+std::string SQLHuerfanas(std::string_view que) {
+    return Unir({que, " FROM ", kTablaEntradas, " WHERE Registro NOT IN (SELECT rowid FROM "}) +
+           Citado(kTabla) + ")";
+}
+
 namespace {
 
 template <class Columnas>
@@ -288,10 +301,6 @@ std::string MsgNoSeLee(std::string_view causa) {
 
 std::string MsgNoSeBorra(std::string_view causa) {
     return Unir({"No se ha borrado el registro: ", causa, "."});
-}
-
-std::string MsgNoSeGuardaInforme(std::string_view causa) {
-    return Unir({"No se ha guardado el informe en el registro: ", causa, "."});
 }
 
 std::string MsgArchivoDanado(std::string_view ruta, std::string_view detalle) {

@@ -170,11 +170,18 @@ std::string SQLLeerImagenes();
 inline constexpr std::string_view kTablaEntradas = "EntradasCalculo";
 std::string SQLCrearEntradas();
 // The inputs of a record, saved in the record's own transaction (two
-// parameters: the id, the inputs). A SQLite file may give a deleted record's
-// id again, whose inputs are then replaced; a server never does, and its
-// plain INSERT asks no more right than that of adding records.
+// parameters: the id, the inputs). Neither store gives a deleted record's id
+// again; a file written by an older program may have, whose inputs are then
+// replaced. A server's plain INSERT asks no more right than that of adding
+// records.
 std::string SQLGuardarEntradas(Motor motor);
 std::string SQLLeerEntradas();
+// A record and its inputs go together, in one transaction (one parameter each:
+// the id).
+std::string SQLBorrarEntradas();
+std::string SQLBorrarRegistro();
+// "que" over the inputs whose record is gone: "SELECT count(*)", "DELETE".
+std::string SQLHuerfanas(std::string_view que);
 
 // ---- Texts ---------------------------------------------------------------------
 
@@ -182,6 +189,8 @@ inline constexpr std::string_view kPromptGuardar = "Guardar en un registro de la
 inline constexpr std::string_view kMsgSinRegistros = "La base de datos no contiene registros";
 inline constexpr std::string_view kMsgRegistroBorrado =
     "Se ha borrado el registro seleccionado permanentemente";
+inline constexpr std::string_view kPreguntaBorrar =
+    "¿Borrar el registro seleccionado? Se borra para siempre, con sus datos de entrada.";
 
 // What went wrong with the file, in Spanish, from an SQLite result code
 // (primary or extended); descripcion is the engine's own text, for the codes
@@ -213,7 +222,6 @@ std::string MsgNoSeCrea(std::string_view ruta, std::string_view causa);
 std::string MsgNoSeGuarda(std::string_view causa);
 std::string MsgNoSeLee(std::string_view causa);
 std::string MsgNoSeBorra(std::string_view causa);
-std::string MsgNoSeGuardaInforme(std::string_view causa);
 // A save that met a damaged file whose integrity check fails: the earlier
 // records are not promised. detalle: the first fault the check found.
 std::string MsgArchivoDanado(std::string_view ruta, std::string_view detalle);

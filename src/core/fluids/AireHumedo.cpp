@@ -11,8 +11,6 @@ namespace vanta {
 namespace {
 constexpr std::string_view kMensajeSuma =
     "Se ha producido el siguiente error: La suma de las fracciones molares del aire = ";
-constexpr std::string_view kCausaPresionNula =
-    "la presión ambiente es cero y la fracción de vapor de agua no se puede calcular";
 constexpr std::string_view kCausaFueraDeRango =
     "la composición del aire sale del intervalo de los números del programa";
 }  // namespace
@@ -22,20 +20,23 @@ double PresionSaturacion(double T) {
 }
 
 bool CalcularAire(Estado& e, Mensajes& msj, const Entradas& x, Superficie& pct1) {
-    // A rejected text has been told by the validator; the calculation goes on.
+    const DefinicionEntrada& presion = Entrada("presion-ambiente");
     const DefinicionEntrada& temperatura = Entrada("temperatura-ambiente");
-    LeerEntrada(e, msj, Entrada("presion-ambiente"), x.presionAmbiente, e.Pambiente);
+    const DefinicionEntrada& humedad = Entrada("humedad");
+    LeerEntrada(e, msj, presion, x.presionAmbiente, e.Pambiente);
     LeerEntrada(e, msj, temperatura, x.temperaturaAmbiente, e.Tambiente);
-    LeerEntrada(e, msj, Entrada("humedad"), x.humedad, e.Humedad);
+    LeerEntrada(e, msj, humedad, x.humedad, e.Humedad);
 
-    if (const std::string_view fuera = temperatura.Fuera(e.Tambiente); !fuera.empty()) {
-        msj.MsgBox(fuera, Campo(temperatura));
-        return false;
-    }
-    if (e.Pambiente == 0) {
-        FalloAritmetico(e, msj, kCausaPresionNula);
-        return false;
-    }
+    // The temperature's range is tested whatever the texts were; a refused
+    // text then stops the air, which stays as it was; and last, what no air
+    // can be: a pressure of zero or below, a humidity outside 0 to 100 %.
+    auto fuera = [&](const DefinicionEntrada& d, double valor) {
+        const std::string_view mensaje = d.Fuera(valor);
+        if (!mensaje.empty()) msj.MsgBox(mensaje, Campo(d));
+        return !mensaje.empty();
+    };
+    if (fuera(temperatura, e.Tambiente) || msj.Rechaza()) return false;
+    if (fuera(presion, e.Pambiente) || fuera(humedad, e.Humedad)) return false;
 
     // Worked out first and kept only when the molar mass, which sums them
     // all, and the percentage of water that the chart shows are finite

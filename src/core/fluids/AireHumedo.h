@@ -20,8 +20,8 @@ inline constexpr double kAireSecoCO2 = 0.00033;
 double PresionSaturacion(double T);
 
 // The button CALCULAR of the air screen, on the texts typed for the ambient.
-// Returns false when a temperature out of range stopped it (the air stays as
-// it was) or an arithmetic failure set ErrorCalculo.
+// Returns false when a text was refused or a value is out of its range (the
+// air stays as it was), or when an arithmetic failure set ErrorCalculo.
 bool CalcularAire(Estado& e, Mensajes& msj, const Entradas& x, Superficie& pct1);
 
 }  // namespace vanta

@@ -1,6 +1,7 @@
 #include "core/inputs/Entradas.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/inputs/BibliotecaCombustibles.h"
 #include "core/services/Numeros.h"
@@ -19,6 +20,8 @@ constexpr std::string_view kMensajeT1 = "La temperatura al final de la admisión
 constexpr std::string_view kMensajeExponente = "El exponente politrópico n debe ser mayor que 1";
 constexpr std::string_view kMensajePropNegativa = "El % de calor a volumen constante no puede ser negativo";
 constexpr std::string_view kMensajePropMayor = " % no puede ser superior a 100";
+constexpr std::string_view kMensajePresionAmbiente = "La presión ambiente debe ser mayor que cero";
+constexpr std::string_view kMensajeHumedad = "La humedad relativa debe estar entre 0 y 100 %";
 
 constexpr std::pair<Modelo, std::string_view> kNombresModelos[] = {
     {Modelo::GammaMedio, "medio"}, {Modelo::Politropico, "politropica"}, {Modelo::GammaVariable, "variable"}};
@@ -62,6 +65,7 @@ std::vector<DefinicionEntrada> CrearTabla() {
                  .porDefecto = "100000",
                  .controles = {"txtPreAmb"},
                  .nombresMensaje = {"presión ambiente"},
+                 .limites = {.minimo = 0, .minimoIncluido = false, .mensajeMinimo = kMensajePresionAmbiente},
                  VANTA_UN_TEXTO(presionAmbiente)});
     t.push_back({.nombre = "temperatura-ambiente",
                  .titulo = "Temperatura ambiente",
@@ -84,6 +88,7 @@ std::vector<DefinicionEntrada> CrearTabla() {
                  .porDefecto = "0",
                  .controles = {"txtHum"},
                  .nombresMensaje = {"humedad relativa"},
+                 .limites = {0, true, kMensajeHumedad, 100, true, kMensajeHumedad},
                  VANTA_UN_TEXTO(humedad)});
     t.push_back({
         .nombre = "combustible",
@@ -513,9 +518,28 @@ CampoEntrada Campo(const DefinicionEntrada& d, int i) {
     return {std::string(d.nombre), i};
 }
 
+std::string MensajeCifraMayor(const DefinicionEntrada& d, int i) {
+    std::string nombre(d.titulo);
+    if (d.Campos() > 1) {
+        const std::string_view n = d.nombresMensaje[static_cast<size_t>(i)];
+        const size_t desde = n.find_first_not_of(' ');
+        nombre += " (" + std::string(n.substr(desde, n.find_last_not_of(' ') - desde + 1)) + ")";
+    }
+    const std::string limite = TextoGeneral(kCifraMayor, '.');
+    const std::string unidad = d.unidad.empty() || d.unidad == "-" ? "" : " " + std::string(d.unidad);
+    return nombre + ": la cifra es demasiado grande; ha de estar entre -" + limite + " y " + limite + unidad;
+}
+
 void LeerEntrada(Estado& e, Mensajes& msj, const DefinicionEntrada& d, std::string_view texto,
                  double& destino, int i) {
-    ValidarNumero(e, msj, texto, destino, d.nombresMensaje[static_cast<size_t>(i)], Campo(d, i));
+    const CampoEntrada campo = Campo(d, i);
+    if (const auto v = LeerNumero(texto); v && std::fabs(*v) > kCifraMayor) {
+        msj.MsgBox(MensajeCifraMayor(d, i), campo);
+        msj.Foco(campo);
+        e.ErrorCalculo = true;
+        return;
+    }
+    ValidarNumero(e, msj, texto, destino, d.nombresMensaje[static_cast<size_t>(i)], campo);
 }
 
 // ---- Options ----------------------------------------------------------------------------

@@ -139,8 +139,18 @@ const DefinicionEntrada& Entrada(std::string_view nombre);
 // The place of a number of an input, as messages name it.
 CampoEntrada Campo(const DefinicionEntrada& d, int i = 0);
 
+// The largest figure an input takes, either sign: beyond it the steps of the
+// calculation would overflow (its single-precision figures end near 3E+38, and
+// a pressure is multiplied by the compression and divided by volumes); no
+// engine comes near it.
+inline constexpr double kCifraMayor = 1e15;
+// What a figure beyond it is told, naming the box and the range.
+std::string MensajeCifraMayor(const DefinicionEntrada& d, int i = 0);
+
 // Reads number i of an input through ValidarNumero, with its name in the
-// messages and its place for the focus.
+// messages and its place for the focus. A figure beyond kCifraMayor is
+// refused as a text that is not a number is: told, with the focus on its box,
+// ErrorCalculo set and the value left as it was.
 void LeerEntrada(Estado& e, Mensajes& msj, const DefinicionEntrada& d, std::string_view texto,
                  double& destino, int i = 0);
 

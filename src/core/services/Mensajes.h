@@ -34,6 +34,21 @@ public:
     // The focus goes to the box of that input.
     void Foco(CampoEntrada entrada) { foco = std::move(entrada); }
 
+    // Whether a message concerns an input: a box was refused.
+    bool Rechaza() const {
+        for (const MensajeCalculo& m : lista)
+            if (!m.entrada.Vacio()) return true;
+        return false;
+    }
+    // The box that ends with the focus: the one given, or else the first that
+    // a message concerns.
+    CampoEntrada Enfocado() const {
+        if (!foco.Vacio()) return foco;
+        for (const MensajeCalculo& m : lista)
+            if (!m.entrada.Vacio()) return m.entrada;
+        return {};
+    }
+
     std::vector<std::string> Textos() const {
         std::vector<std::string> t;
         for (const MensajeCalculo& m : lista) t.push_back(m.texto);

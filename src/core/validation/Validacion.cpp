@@ -177,15 +177,17 @@ std::vector<Comprobacion> ComprobarCiclo(const std::string& nombreCiclo, const O
                          CifraConSigno(residuo * kCien, "##0.000", sep) + " % de Q", tolerancia, resultado,
                          resultado == Resultado::Explicada ? NotaCombustion(b, e, sep) : std::string()});
     }
-    const double ideal = RendimientoOttoIdeal(e.Rc, kGammaAireEstandar);
-    filas.push_back({GrupoValidacion::Rendimiento,
-                     nombreCiclo + ": rendimiento frente al Otto ideal",
-                     Cifra(e.Rendimiento, "0.000", sep),
-                     Cifra(ideal, "0.000", sep),
-                     CifraConSigno(e.Rendimiento - ideal, "0.000", sep),
-                     "menor que el ideal",
-                     e.Rendimiento < ideal ? Resultado::Cumple : Resultado::NoCumple,
-                     {}});
+    // The ideal cycle that the window's strip shows for the same calculation.
+    const CicloIdeal ideal = DistanciaAlIdeal(e).aireEstandar;
+    filas.push_back(
+        {GrupoValidacion::Rendimiento,
+         nombreCiclo + ": rendimiento frente al " + NombreCicloIdeal(e),
+         Cifra(e.Rendimiento, "0.000", sep),
+         ideal.valido ? Cifra(ideal.rendimiento, "0.000", sep) : "no existe",
+         ideal.valido ? CifraConSigno(e.Rendimiento - ideal.rendimiento, "0.000", sep) : "",
+         "menor que el ideal",
+         ideal.valido && e.Rendimiento < ideal.rendimiento ? Resultado::Cumple : Resultado::NoCumple,
+         {}});
     return filas;
 }
 
@@ -407,10 +409,15 @@ std::array<DescripcionGrupo, 5> GruposValidacion(char sep) {
              ". Con exponente politrópico la compresión y la expansión intercambian un calor que el programa "
              "no calcula, y no se comprueban."},
         {GrupoValidacion::Rendimiento, "Rendimiento frente al ciclo ideal",
-         "El rendimiento de los mismos ciclos frente al del ciclo Otto ideal de aire estándar con la misma "
-         "relación de compresión, 1 − rc^(1 − γ) con γ = " +
+         "El rendimiento de los mismos ciclos frente al del ciclo ideal de aire estándar del mismo tipo "
+         "(Otto, "
+         "Diesel o Mixto), con γ = " +
              gamma +
-             ": a igual relación de compresión ningún ciclo rinde más, y el del programa ha de ser menor."},
+             ", la misma relación de compresión, el mismo estado 1 y el mismo calor aportado (y su reparto): "
+             "el "
+             "mismo ciclo ideal que muestra la franja de avisos de la ventana. Con esos datos ningún ciclo "
+             "rinde "
+             "más, y el del programa ha de ser menor."},
         DescripcionEquilibrio(sep),
     }};
 }

@@ -109,6 +109,16 @@ void AvisosPasadas(const Estado& e, std::vector<Aviso>& avisos) {
                                   "puede ser poco fiable."});
 }
 
+void AvisoAmbiente(const Estado& e, std::vector<Aviso>& avisos) {
+    if (e.Tambiente >= kAmbienteMinimo && e.Tambiente <= kAmbienteMaximo) return;
+    const char sep = e.SeparadorDecimal;
+    avisos.push_back({TipoAviso::Ambiente, "La temperatura ambiente (" + Kelvin(e.Tambiente, sep) +
+                                               ") está fuera de las del aire de la Tierra (de " +
+                                               Kelvin(kAmbienteMinimo, sep) + " a " +
+                                               Kelvin(kAmbienteMaximo, sep) +
+                                               "): el cálculo la toma tal como se ha dado."});
+}
+
 }  // namespace
 
 double PuntoRocio(double presionParcial) {
@@ -122,6 +132,7 @@ double PuntoRocio(double presionParcial) {
 
 std::vector<Aviso> AvisosValidez(const Estado& e, std::string_view combustible) {
     std::vector<Aviso> avisos;
+    AvisoAmbiente(e, avisos);
     AvisosTemperatura(e, avisos);
     AvisosRocio(e, avisos);
     AvisoInflamabilidad(e, combustible, avisos);

@@ -17,6 +17,7 @@ enum class TipoAviso {
     PuntoRocio,      // a state of the exhaust below the dew point of its water
     Inflamabilidad,  // Fr outside the usual flammability range of the fuel
     PasadasGamma,    // a mean-exponent search that needed many passes
+    Ambiente,        // an ambient temperature no air on Earth has
 };
 
 struct Aviso {
@@ -30,6 +31,9 @@ inline constexpr double kTemperaturaDisociacion = 2500.0;
 inline constexpr double kTemperaturaAjuste = 5000.0;
 // The mean-exponent search usually ends within a dozen passes.
 inline constexpr int kPasadasGammaMuchas = 20;
+// The ambient temperatures of the Earth's air, with a margin (records: 184 K
+// and 330 K). Outside them the program calculates all the same.
+inline constexpr double kAmbienteMinimo = 180.0, kAmbienteMaximo = 340.0;
 
 // The warnings of a calculation that ended well; combustible is the text of
 // the fuel list (the flammability range is known for the library's fuels).

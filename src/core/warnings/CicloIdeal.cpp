@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/properties/Especies.h"
+#include "core/services/Numeros.h"
 
 namespace vanta {
 
@@ -76,6 +77,19 @@ CicloIdeal CalcularCicloIdeal(const Estado& e, double gammaCompresion, double ga
     c.rendimiento = (W12 + W34 + W45) / Q;
     c.valido = std::isfinite(c.rendimiento);
     return c;
+}
+
+std::string NombreCicloIdeal(const Estado& e) {
+    return e.TipoCiclo + " ideal";
+}
+
+std::string ExplicacionCicloIdeal(const Estado& e, char separador) {
+    return "El ciclo " + NombreCicloIdeal(e) +
+           " de aire estándar (γ = " + TextoGeneral(kGammaAireEstandar, separador) +
+           "): el mismo tipo de ciclo con la misma relación de compresión, el mismo estado 1 y el mismo "
+           "calor "
+           "aportado (y su reparto), en un gas perfecto. Con esos datos ningún ciclo rinde más: es el que "
+           "«Ayuda › Validación» compara con el del programa, que ha de ser menor.";
 }
 
 DistanciaIdeal DistanciaAlIdeal(const Estado& e) {

@@ -4,6 +4,8 @@
 // the program's own efficiency.
 #pragma once
 
+#include <string>
+
 #include "core/state/Estado.h"
 
 namespace vanta {
@@ -45,5 +47,11 @@ double ExponenteMedioExpansion(const Estado& e);
 
 // For a calculation that ended well.
 DistanciaIdeal DistanciaAlIdeal(const Estado& e);
+
+// The ideal cycle that the window's strip and the validation both compare
+// with: "Diesel ideal" for a Diesel.
+std::string NombreCicloIdeal(const Estado& e);
+// Which ideal cycle that is and why it is the one, in a sentence.
+std::string ExplicacionCicloIdeal(const Estado& e, char separador);
 
 }  // namespace vanta

@@ -38,6 +38,37 @@ void MostrarGraficas(Flujo& f, bool visibles) {
     f.visible.pct1 = f.visible.pct2 = f.visible.pct3 = visibles;
 }
 
+void MarcarVista(Flujo& f) {
+    Marcas& m = f.marcado;
+    m.mnuVerTodo = f.vista == Vista::General;
+    m.mnuPV = f.vista == Vista::PV;
+    m.mnuTV = f.vista == Vista::TV;
+    m.mnuTS = f.vista == Vista::TS;
+    m.mnuHS = f.vista == Vista::HS;
+}
+
+// What a stage that did not calculate keeps disabled: the next stage, and for
+// the combustion the cycle's menu entries too.
+void Bloquear(Flujo& f) {
+    Habilitados& h = f.habilitado;
+    if (f.sinCalcular.comburente) h.cmdCombustible = false;
+    if (f.sinCalcular.combustible) h.cmdCarCombustion = false;
+    if (f.sinCalcular.combustion) h.cmdCarCiclo = h.mnuCalcular = h.mnuTablasActual = false;
+}
+
+bool* Pendiente(Flujo& f, Etapa etapa) {
+    switch (etapa) {
+        case Etapa::Comburente:
+            return &f.sinCalcular.comburente;
+        case Etapa::Combustible:
+            return &f.sinCalcular.combustible;
+        case Etapa::Combustion:
+            return &f.sinCalcular.combustion;
+        default:
+            return nullptr;
+    }
+}
+
 }  // namespace
 
 void Ocultabotones(Flujo& f, const Botones& b) {
@@ -62,6 +93,8 @@ void Ocultabotones(Flujo& f, const Botones& b) {
     v.pctTV = v.pctPV = v.pctTS = b.resultados;
     h.mnuGuardar = b.resultados;
     v.fraPotencia = b.resultados;
+    f.botones = b;
+    Bloquear(f);
 }
 
 void PonerGraficosTodos(Flujo& f) {
@@ -77,6 +110,7 @@ void PonerGraficosTodos(Flujo& f) {
     v.chkVerHs = false;
     chkVerHs_Click(f, false);
     CambiarTamaño(f);
+    MarcarVista(f);
 }
 
 void CambiarTamaño(Flujo& f) {
@@ -153,6 +187,25 @@ void mnuTablas_Click(Flujo& f) {
 
 void CalculoTerminado(Flujo& f, bool bien) {
     f.etapa = bien ? Etapa::CicloCalculado : Etapa::ErrorDeCiclo;
+    f.intentoFallido = !bien;
+    if (!bien) f.habilitado.mnuBDatos = false;
+}
+
+void EtapaNoCalculada(Flujo& f, Etapa etapa) {
+    if (bool* p = Pendiente(f, etapa)) *p = true;
+    Bloquear(f);
+}
+
+void EtapaCalculada(Flujo& f, Etapa etapa) {
+    bool* p = Pendiente(f, etapa);
+    if (!p || !*p) return;
+    *p = false;
+    Habilitados& h = f.habilitado;
+    const Botones& b = f.botones;
+    if (etapa == Etapa::Comburente) h.cmdCombustible = b.combustible;
+    if (etapa == Etapa::Combustible) h.cmdCarCombustion = b.combustion;
+    if (etapa == Etapa::Combustion) h.cmdCarCiclo = h.mnuCalcular = h.mnuTablasActual = b.ciclo;
+    Bloquear(f);
 }
 
 void chkVerHs_Click(Flujo& f, bool marcada) {
@@ -175,6 +228,7 @@ void PonerGraficos(Flujo& f, Diagrama d, const CalculoCiclo& calcular) {
     v.fraBotonera = v.fraPotencia = false;
     CalcularCiclo(f, calcular);
     f.vista = VistaDe(d);
+    MarcarVista(f);
     v.fraPotencia = false;
     v.chkVerHs = true;
     v.fraPuntos = false;
@@ -190,19 +244,22 @@ void ClickDiagrama(Flujo& f, Diagrama d, const CalculoCiclo& calcular) {
 
 void MenuDiagrama(Flujo& f, Diagrama d, const CalculoCiclo& calcular) {
     PonerGraficos(f, d, calcular);
-    Marcas& m = f.marcado;
-    m.mnuVerTodo = false;
-    m.mnuPV = d == Diagrama::PV;
-    m.mnuTV = d == Diagrama::TV;
-    m.mnuTS = d == Diagrama::TS;
-    m.mnuHS = d == Diagrama::HS;
 }
 
 void mnuVerTodo_Click(Flujo& f) {
     PonerGraficosTodos(f);
-    Marcas& m = f.marcado;
-    m.mnuVerTodo = true;
-    m.mnuPV = m.mnuTV = m.mnuTS = m.mnuHS = false;
+}
+
+std::string TextoIntentoFallido(const std::vector<std::string>& mensajes) {
+    std::string causa;
+    for (const std::string& m : mensajes) {
+        const size_t desde = m.find_first_not_of(' ');
+        if (desde == std::string::npos) continue;
+        if (!causa.empty()) causa += " / ";
+        causa += m.substr(desde, m.find_last_not_of(' ') - desde + 1);
+    }
+    return "Las cifras son del último cálculo completo; el último intento falló" +
+           (causa.empty() ? std::string(".") : ": " + causa);
 }
 
 }  // namespace vanta

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "core/workflow/Distribucion.h"
 
@@ -65,6 +66,14 @@ struct Visibles {
     bool operator==(const Visibles&) const = default;
 };
 
+// The stage windows that did not calculate (an input refused, a failure)
+// since they were last opened: the stage after each stays disabled, whatever
+// the transitions say, until that window calculates.
+struct SinCalcular {
+    bool comburente = false, combustible = false, combustion = false;
+    bool operator==(const SinCalcular&) const = default;
+};
+
 // The menu's marks of the view and the value of the h-s box.
 struct Marcas {
     bool mnuVerTodo = false, mnuPV = false, mnuTV = false, mnuTS = false, mnuHS = false;
@@ -82,6 +91,12 @@ struct Flujo {
     Lugares lugar;
     // The diagram that stands over the others: the inset of the view.
     Diagrama encima = Diagrama::TS;
+    SinCalcular sinCalcular;
+    // The flags of the last Ocultabotones.
+    Botones botones{};
+    // The last calculation failed: the figures on screen are those of the one
+    // before, and they are neither saved nor exported (mnuBDatos off).
+    bool intentoFallido = false;
     // Told each call of the workflow, as "Ocultabotones(1 0 1 1 1 1)",
     // "PonerGraficosTodos", "CambiarTamaño", "CalcularCiclo".
     std::function<void(const std::string&)> alLlamar;
@@ -108,19 +123,32 @@ void cmdCombustible_Click(Flujo& f);
 void cmdCarCombustion_Click(Flujo& f);
 void mnuTablas_Click(Flujo& f);
 // How a calculation ended, whatever it told the window on the way (its calls
-// of Ocultabotones are kAlCalcular and kAlFallarCalculo).
+// of Ocultabotones are kAlCalcular and kAlFallarCalculo). After a failure the
+// save stays disabled until a calculation ends well.
 void CalculoTerminado(Flujo& f, bool bien);
+// A stage window (Comburente, Combustible or Combustion) refused an input or
+// failed: the stage after it is disabled until the window calculates.
+void EtapaNoCalculada(Flujo& f, Etapa etapa);
+// The stage window calculated: the stage after it is as the last transition
+// made it.
+void EtapaCalculada(Flujo& f, Etapa etapa);
 void chkVerHs_Click(Flujo& f, bool marcada);
 // The switch of a diagram: enlarged, or back to the overview, by the
 // diagram's own test on the current places; each ends in a calculation.
 void PonerGraficos(Flujo& f, Diagrama d, const CalculoCiclo& calcular);
 // A click on a diagram: a calculation when the cycle stage is open, then the
-// switch; the menu's marks stay as they were.
+// switch. The menu's marks follow the view whatever switched it: "Todos los
+// gráficos" in the overview, the diagram's entry when it is enlarged.
 void ClickDiagrama(Flujo& f, Diagrama d, const CalculoCiclo& calcular);
-// A menu entry of a diagram: the switch, then that entry marked alone.
+// A menu entry of a diagram: the switch.
 void MenuDiagrama(Flujo& f, Diagrama d, const CalculoCiclo& calcular);
 // The overview again, with no calculation: the pictures stay as drawn.
 void mnuVerTodo_Click(Flujo& f);
+
+// What the main window says over the results while the last calculation
+// failed: the figures are the last complete calculation's, and why the
+// attempt failed (its messages, trimmed, in order).
+std::string TextoIntentoFallido(const std::vector<std::string>& mensajes);
 
 // ---- What other parts read back ---------------------------------------------
 

@@ -361,7 +361,7 @@ void VentanaCiclo::cmdCal_Click() {
     for (const Botones& b : r.botones) principal_.Ocultabotones(b);
     MostrarMensajes(dlg_, msj.lista);
     Enfocar(*this, msj.foco);
-    principal_.CicloTerminado(r, x);
+    principal_.CicloTerminado(r, x, msj);
     if (r.bien && chkOcultar_->isChecked()) hide();
 }
 

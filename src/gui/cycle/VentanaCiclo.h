@@ -48,8 +48,8 @@ public:
     virtual void Ocultabotones(const Botones& b) = 0;
     // The text of the fuel list of the fuel window (the report's fuel).
     virtual std::string TipoCombustible() const = 0;
-    // How CALCULAR ended, with the inputs it read.
-    virtual void CicloTerminado(const ResultadoCiclo& r, const Entradas& x) = 0;
+    // How CALCULAR ended, with the inputs it read and what it told.
+    virtual void CicloTerminado(const ResultadoCiclo& r, const Entradas& x, const Mensajes& msj) = 0;
 };
 
 class VentanaCiclo : public QDialog {

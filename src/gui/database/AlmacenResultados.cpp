@@ -289,7 +289,9 @@ bool AlmacenResultados::Abrir() {
         // A store of ours without the inputs' table is read as it is when it
         // may not be changed; its saves are then refused.
         if (hallazgo == Hallazgo::Nuestra && !HayEntradas()) Crear();
-        return hallazgo == Hallazgo::Nuestra || Crear();
+        const bool nuestra = hallazgo == Hallazgo::Nuestra || Crear();
+        if (nuestra && HayEntradas()) LimpiarHuerfanas();
+        return nuestra;
     }();
     if (!listo) {
         Cerrar();
@@ -385,9 +387,22 @@ std::optional<qint64> AlmacenResultados::Insertar(const bd::TextosRegistro& text
     for (const QByteArray& p : png)
         q.addBindValue(p.isEmpty() ? QVariant(QMetaType(QMetaType::QByteArray)) : QVariant(p));
     bien = bien && q.exec() && (!Servidor() || q.next());
-    const qint64 id = !bien ? 0 : Servidor() ? q.value(0).toLongLong() : q.lastInsertId().toLongLong();
+    qint64 id = !bien ? 0 : Servidor() ? q.value(0).toLongLong() : q.lastInsertId().toLongLong();
     QSqlError error = q.lastError();
     q.finish();
+    // SQLite gives the highest id plus one, which may be a deleted record's:
+    // the record then takes the one after the highest ever given.
+    if (bien && !Servidor()) {
+        QSqlQuery marca(db);
+        const auto mayor = MayorIdDado(marca);
+        if (mayor && id <= *mayor) {
+            marca.prepare(Q("UPDATE " + bd::Citado(bd::kTabla) + " SET rowid = ? WHERE rowid = ?"));
+            marca.addBindValue(*mayor + 1);
+            marca.addBindValue(id);
+            if (marca.exec()) id = *mayor + 1;
+        }
+        if (!mayor || id <= *mayor || !ElevarMayorId(marca, id)) bien = false, error = marca.lastError();
+    }
     // The inputs in the same transaction: a store that refuses them keeps no
     // record.
     QSqlQuery e(db);
@@ -428,23 +443,53 @@ std::optional<std::string> AlmacenResultados::LeerEntradas(qint64 id) {
 }
 
 bool AlmacenResultados::Borrar(qint64 id) {
-    return ConReintento([&] {
-        QSqlQuery q(QSqlDatabase::database(conexion_, false));
-        q.prepare(Q("DELETE FROM " + bd::Citado(bd::kTabla) + " WHERE rowid = ?"));
+    const QString empezar = QString::fromLatin1(Servidor() ? kEmpezarServidor : kEmpezarSQLite);
+    if (!ConReintento([&] {
+            QSqlQuery control(QSqlDatabase::database(conexion_, false));
+            return control.exec(empezar) || Fallo(control.lastError(), bd::MsgNoSeBorra);
+        }))
+        return false;
+    const VigiaConexion vigia = Vigilar();
+    QSqlDatabase db = QSqlDatabase::database(conexion_, false);
+    QSqlQuery q(db);
+    auto borrar = [&](const std::string& sql) {
+        q.prepare(Q(sql));
         q.addBindValue(id);
-        return q.exec() || Fallo(q.lastError(), bd::MsgNoSeBorra);
-    });
+        return q.exec();
+    };
+    // The file remembers the id, which a new record would otherwise take
+    // again when it was the highest.
+    const bool bien = (!HayEntradas() || borrar(bd::SQLBorrarEntradas())) &&
+                      borrar(bd::SQLBorrarRegistro()) && (Servidor() || ElevarMayorId(q, id)) &&
+                      q.exec(QStringLiteral("COMMIT"));
+    if (bien) return true;
+    Fallo(q.lastError(), bd::MsgNoSeBorra);
+    if (db.isOpen()) q.exec(QStringLiteral("ROLLBACK"));
+    return false;
 }
 
-bool AlmacenResultados::EscribirInforme(qint64 id, const std::string& informe) {
-    return ConReintento([&] {
-        QSqlQuery q(QSqlDatabase::database(conexion_, false));
-        q.prepare(Q("UPDATE " + bd::Citado(bd::kTabla) + " SET " +
-                    bd::Citado(bd::kColumnasTexto[bd::kColumnaInforme].nombre) + " = ? WHERE rowid = ?"));
-        q.addBindValue(Q(informe));
-        q.addBindValue(id);
-        return q.exec() || Fallo(q.lastError(), bd::MsgNoSeGuardaInforme);
-    });
+std::optional<qint64> AlmacenResultados::MayorIdDado(QSqlQuery& q) {
+    if (!q.exec(QStringLiteral("PRAGMA user_version")) || !q.next()) return std::nullopt;
+    return q.value(0).toLongLong();
+}
+
+bool AlmacenResultados::ElevarMayorId(QSqlQuery& q, qint64 id) {
+    const auto mayor = MayorIdDado(q);
+    if (!mayor) return false;
+    return id <= *mayor || q.exec(QStringLiteral("PRAGMA user_version = %1").arg(id));
+}
+
+void AlmacenResultados::LimpiarHuerfanas() {
+    QSqlQuery q(QSqlDatabase::database(conexion_, false));
+    // Looked at first: a store that may only be read is not asked to change.
+    if (!q.exec(Q(bd::SQLHuerfanas("SELECT count(*), max(Registro)"))) || !q.next() ||
+        q.value(0).toLongLong() == 0)
+        return;
+    const qint64 mayor = q.value(1).toLongLong();
+    const bool bien = q.exec(QString::fromLatin1(Servidor() ? kEmpezarServidor : kEmpezarSQLite)) &&
+                      (Servidor() || ElevarMayorId(q, mayor)) && q.exec(Q(bd::SQLHuerfanas("DELETE"))) &&
+                      q.exec(QStringLiteral("COMMIT"));
+    if (!bien) q.exec(QStringLiteral("ROLLBACK"));
 }
 
 }  // namespace vanta

@@ -9,8 +9,12 @@
 // A SQLite file keeps the rollback journal with full syncs, so that a program
 // killed in the middle of a save leaves every earlier record as it was.
 //
-// Records are named by their rowid, which follows the order of saving. The
-// list of records holds those ids only; the texts and the pictures of one
+// Records are named by their rowid, which follows the order of saving and is
+// never given twice, also after a deletion: a server's identity column never
+// goes back, and a file keeps the highest id it has given in its header's
+// user_version. A record is deleted with its inputs, in one transaction; the
+// inputs of records deleted by older programs are cleaned when the store is
+// opened. The list of records holds those ids only; the texts and the pictures of one
 // record are read when it is shown. A connection to a server that was lost (the
 // server stopped or restarted) is made again by the next operation. Every wait
 // for a server has its limit (the address's Esperas): past it, the operation
@@ -78,8 +82,8 @@ public:
                                    const std::optional<std::string>& entradas = std::nullopt);
     // The inputs saved with a record; nothing when there are none.
     std::optional<std::string> LeerEntradas(qint64 id);
+    // Deletes a record and its inputs, in one transaction.
     bool Borrar(qint64 id);
-    bool EscribirInforme(qint64 id, const std::string& informe);
 
     // How long to wait for another program that holds a SQLite file, in ms.
     void FijarEspera(int milisegundos) { espera_ = milisegundos; }
@@ -104,6 +108,12 @@ private:
     std::optional<Hallazgo> Comprobar();
     bool Crear();
     bool HayEntradas();
+    // Removes the inputs whose record is gone (nothing when the store may not
+    // be changed).
+    void LimpiarHuerfanas();
+    // The highest id a file has given, and raising it; a server needs none.
+    std::optional<qint64> MayorIdDado(QSqlQuery& q);
+    bool ElevarMayorId(QSqlQuery& q, qint64 id);
     void Cerrar();
     std::string Causa(const QSqlError& error) const;
     // Runs a SELECT of one record by its id and stands on its row.

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QInputDialog>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -17,6 +18,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 
 #include "gui/database/ControlImagen.h"
 #include "gui/database/GuardarBaseDatos.h"
@@ -30,6 +32,7 @@ namespace {
 const char* const kCaptionVerInforme = "Ver informe";
 const char* const kCaptionVerResumen = "Ver resumen";
 const char* const kCaptionNavegador = "   Cambiar de registro";
+const char* const kCaptionActualizar = "Actualizar";
 
 // The window as designed, and the room that its frame takes on the screen
 // when the window manager has not yet told it.
@@ -60,11 +63,8 @@ QLabel* Rotulo(const char* texto, QWidget* padre,
 
 }  // namespace
 
-VentanaBaseDatos::VentanaBaseDatos(Dialogos& dlg, std::function<std::string()> informeF1, QWidget* padre)
-    : QDialog(padre),
-      dlg_(dlg),
-      informeF1_(std::move(informeF1)),
-      mostrarModal_([](QDialog& d) { d.exec(); }) {
+VentanaBaseDatos::VentanaBaseDatos(Dialogos& dlg, QWidget* padre)
+    : QDialog(padre), dlg_(dlg), mostrarModal_([](QDialog& d) { d.exec(); }) {
     setObjectName(QStringLiteral("VentanaBaseDatos"));
     setWindowTitle(QStringLiteral("Base de datos"));
     setModal(false);
@@ -99,10 +99,7 @@ void VentanaBaseDatos::AjustarAPantalla(const QRect& libre) {
     move(sitio.topLeft());
 }
 
-VentanaBaseDatos::~VentanaBaseDatos() {
-    // A report put in the box and not yet written goes to its record.
-    if (almacen_) DejarRegistro();
-}
+VentanaBaseDatos::~VentanaBaseDatos() = default;
 
 // ---- Controls ------------------------------------------------------------------
 
@@ -213,7 +210,12 @@ void VentanaBaseDatos::CrearControles() {
     connect(cmdComparar_, &QPushButton::clicked, this, [this] {
         if (comparar_) comparar_();
     });
-    for (QPushButton* b : {cmdCerrar_, cmdVer_, cmdBorrarRegistro_, cmdComparar_}) b->setAutoDefault(false);
+    cmdActualizar_ = new QPushButton(QString::fromUtf8(kCaptionActualizar), this);
+    cmdActualizar_->setObjectName(QStringLiteral("cmdActualizar"));
+    cmdActualizar_->setShortcut(QKeySequence(Qt::Key_F5));
+    connect(cmdActualizar_, &QPushButton::clicked, this, &VentanaBaseDatos::Actualizar);
+    for (QPushButton* b : {cmdCerrar_, cmdVer_, cmdBorrarRegistro_, cmdComparar_, cmdActualizar_})
+        b->setAutoDefault(false);
     connect(cmdCerrar_, &QPushButton::clicked, this, &VentanaBaseDatos::cmdCerrar_Click);
     connect(cmdVer_, &QPushButton::clicked, this, &VentanaBaseDatos::cmdVer_Click);
     connect(cmdBorrarRegistro_, &QPushButton::clicked, this, &VentanaBaseDatos::cmdBorrarRegistro_Click);
@@ -229,6 +231,7 @@ void VentanaBaseDatos::CrearControles() {
     botones->addWidget(cmdVer_);
     botones->addWidget(cmdBorrarRegistro_);
     botones->addWidget(cmdComparar_);
+    botones->addWidget(cmdActualizar_);
     botones->addWidget(cmdCerrar_);
 
     // The summary scrolls when the screen is smaller than the design.
@@ -404,16 +407,33 @@ bool VentanaBaseDatos::Cargar() {
         almacen = std::make_unique<AlmacenResultados>(*direccion.direccion, clave_);
         almacen->FijarEspera(espera_);
     }
-    auto ids = almacen->Identificadores();
-    if (!ids) {
-        dlg_.MsgBox(almacen->Error());
+    almacen_ = std::move(almacen);
+    if (!LeerIdentificadores(-1)) {
+        almacen_.reset();
         return false;
     }
-    almacen_ = std::move(almacen);
-    ids_ = std::move(*ids);
-    posicion_ = ids_.empty() ? -1 : 0;
     MostrarRegistro();
     return true;
+}
+
+bool VentanaBaseDatos::LeerIdentificadores(qint64 id) {
+    auto ids = almacen_->Identificadores();
+    if (!ids) {
+        dlg_.MsgBox(almacen_->Error());
+        return false;
+    }
+    ids_ = std::move(*ids);
+    // Ids grow with each save and are never given twice.
+    const auto sitio = std::lower_bound(ids_.begin(), ids_.end(), id);
+    posicion_ = ids_.empty()
+                    ? -1
+                    : static_cast<int>(std::min(sitio - ids_.begin(), std::ptrdiff_t(RecordCount() - 1)));
+    return true;
+}
+
+void VentanaBaseDatos::Actualizar() {
+    if (!almacen_) return;
+    if (LeerIdentificadores(IdActual())) MostrarRegistro();
 }
 
 bool VentanaBaseDatos::AgregarRegistro(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes,
@@ -424,18 +444,16 @@ bool VentanaBaseDatos::AgregarRegistro(const bd::TextosRegistro& textos, const I
         dlg_.MsgBox(almacen_->Error());
         return false;
     }
-    ids_.push_back(*id);
-    // The record left keeps what its report box showed.
-    IrA(RecordCount() - 1);
+    // With the records that others saved meanwhile; the new one is the last.
+    if (!LeerIdentificadores(*id)) ids_.push_back(*id), posicion_ = RecordCount() - 1;
+    MostrarRegistro();
     return true;
 }
 
 void VentanaBaseDatos::CerrarAlmacen() {
-    if (almacen_) DejarRegistro();
     almacen_.reset();
     ids_.clear();
     posicion_ = -1;
-    hayRegistro_ = false;
     Vaciar();
 }
 
@@ -464,21 +482,11 @@ void VentanaBaseDatos::MoveLast() {
 }
 
 void VentanaBaseDatos::IrA(int posicion) {
-    DejarRegistro();
     posicion_ = posicion;
     MostrarRegistro();
 }
 
-void VentanaBaseDatos::DejarRegistro() {
-    if (!hayRegistro_ || textoInforme_ == informeGuardado_ || !almacen_) return;
-    if (almacen_->EscribirInforme(ids_[static_cast<size_t>(posicion_)], textoInforme_))
-        informeGuardado_ = textoInforme_;
-    else
-        dlg_.MsgBox(almacen_->Error());
-}
-
 void VentanaBaseDatos::MostrarRegistro() {
-    hayRegistro_ = false;
     if (posicion_ < 0 || !almacen_) return Vaciar();
     const qint64 id = ids_[static_cast<size_t>(posicion_)];
     auto textos = almacen_->LeerTextos(id);
@@ -490,14 +498,11 @@ void VentanaBaseDatos::MostrarRegistro() {
     }
     for (size_t i = 0; i < textos->size(); ++i) PonerTexto(i, (*textos)[i]);
     for (size_t i = 0; i < imagenes->size(); ++i) imagenes_[i]->SetPicture((*imagenes)[i]);
-    informeGuardado_ = (*textos)[bd::kColumnaInforme];
-    hayRegistro_ = true;
 }
 
 void VentanaBaseDatos::Vaciar() {
     for (size_t i = 0; i < controles_.size(); ++i) PonerTexto(i, {});
     for (ControlImagen* img : imagenes_) img->SetPicture({});
-    informeGuardado_.clear();
 }
 
 void VentanaBaseDatos::PonerTexto(size_t columna, const std::string& texto) {
@@ -530,9 +535,7 @@ void VentanaBaseDatos::cmdVer_Click() {
         return;
     }
     ModoInforme_ = true;
-    // The last calculation's report, not the record's own: the record gets it
-    // when it is left.
-    PonerInformeEnCaja(informeF1_ ? informeF1_() : std::string());
+    // The box holds the record's own report since the record was shown.
     AjustarInforme(kInformeArriba, kInformeAlto, kInformeAncho, 0);
     txtInforme_->show();
     txtInforme_->raise();
@@ -546,14 +549,13 @@ void VentanaBaseDatos::cmdBorrarRegistro_Click() {
         dlg_.MsgBox(bd::kMsgSinRegistros);
         return;
     }
+    if (!dlg_.Pregunta(bd::kPreguntaBorrar)) return;
     if (!almacen_->Borrar(ids_[static_cast<size_t>(posicion_)])) {
         dlg_.MsgBox(almacen_->Error());
         return;
     }
     const int destino = bd::PosicionTrasBorrar(posicion_, RecordCount());
     ids_.erase(ids_.begin() + posicion_);
-    // The deleted record is gone with whatever its report box held.
-    hayRegistro_ = false;
     posicion_ = destino;
     MostrarRegistro();
     dlg_.MsgBox(bd::kMsgRegistroBorrado);
@@ -581,7 +583,11 @@ void VentanaBaseDatos::MostrarModal() {
 }
 
 void VentanaBaseDatos::MostrarNoModal() {
-    if (!Cargar()) return;
+    // What others saved since it was last shown comes into view.
+    if (almacen_)
+        Actualizar();
+    else if (!Cargar())
+        return;
     show();
     raise();
     activateWindow();

@@ -6,9 +6,10 @@
 // and stays open until another is chosen. It works the same on a SQLite file
 // and on a PostgreSQL server.
 //
-// The report view shows the main window's report buffer, not the record's own
-// report; the record being left gets that text in its Informe column when it
-// differs. This is the one way that a stored report changes.
+// Viewing never writes: the report view shows the record's own Informe
+// column, and leaving a record leaves it as it was. The list of records is
+// read again whenever the browser is shown and on "Actualizar" (F5), so that
+// the records that other programs saved on a shared store come into view.
 #pragma once
 
 #include <QDialog>
@@ -39,9 +40,8 @@ class VentanaBaseDatos : public QDialog {
     Q_OBJECT
 
 public:
-    // dlg: where messages go. informeF1: the main window's report buffer as
-    // it stands when the report view is asked for.
-    VentanaBaseDatos(Dialogos& dlg, std::function<std::string()> informeF1, QWidget* padre = nullptr);
+    // dlg: where messages go and where a deletion is confirmed.
+    explicit VentanaBaseDatos(Dialogos& dlg, QWidget* padre = nullptr);
     ~VentanaBaseDatos() override;
 
     // The first call resolves the file name against the current folder and
@@ -73,8 +73,12 @@ public:
     bool AgregarRegistro(const bd::TextosRegistro& textos, const ImagenesRegistro& imagenes,
                          const std::optional<std::string>& entradas = std::nullopt);
 
-    // Shown after a save, modally; from the menu, not modally (nothing is
-    // shown when the file cannot be used).
+    // Reads the list of records again and stays on the current record, or on
+    // the one that followed it when another program deleted it.
+    void Actualizar();
+
+    // Shown after a save, modally; from the menu, not modally, with the list
+    // read again (nothing is shown when the file cannot be used).
     void MostrarModal();
     void MostrarNoModal();
     // How a modal window (this one, the enlargement) is shown: exec() unless
@@ -122,7 +126,6 @@ private:
     QGroupBox* CrearPuntos();
     QGroupBox* CrearTransformaciones();
     QWidget* CrearNavegador();
-    // Closes the store in use, keeping the report of the record left.
     void CerrarAlmacen();
     QWidget* Control(std::string_view nombre) const;
     // Rows of a caption, a box and its unit.
@@ -131,10 +134,11 @@ private:
     };
     QGridLayout* Filas(QWidget* marco, std::initializer_list<Fila> filas) const;
 
-    // Leaves the current record (writing a changed report), then shows the
-    // record at posicion.
+    // Shows the record at posicion.
     void IrA(int posicion);
-    void DejarRegistro();
+    // The ids of the store, standing on the record of id, or on the next
+    // one after it; false with the message shown when they cannot be read.
+    bool LeerIdentificadores(qint64 id);
     // Reads the current record into the controls; empty controls for none.
     void MostrarRegistro();
     void Vaciar();
@@ -145,7 +149,6 @@ private:
     void AjustarInformeRaton();
 
     Dialogos& dlg_;
-    std::function<std::string()> informeF1_;
     std::function<void(QDialog&)> mostrarModal_;
     std::function<void()> comparar_;
     int espera_ = 2000;
@@ -156,9 +159,7 @@ private:
     std::unique_ptr<AlmacenResultados> almacen_;
     std::vector<qint64> ids_;
     int posicion_ = -1;
-    bool hayRegistro_ = false;     // the current record's texts are loaded
-    std::string informeGuardado_;  // its Informe column as stored
-    std::string textoInforme_;     // what the report box holds
+    std::string textoInforme_;  // what the report box holds: the record's Informe
     bool ModoInforme_ = false;
 
     std::array<QWidget*, bd::kNumColumnasTexto> controles_{};
@@ -167,7 +168,7 @@ private:
     QGroupBox *fraAire_ = nullptr, *fraCombustible_ = nullptr, *fraCombustion_ = nullptr,
               *fraPuntos_ = nullptr, *fraTransformaciones_ = nullptr;
     QPushButton *cmdCerrar_ = nullptr, *cmdVer_ = nullptr, *cmdBorrarRegistro_ = nullptr,
-                *cmdComparar_ = nullptr;
+                *cmdComparar_ = nullptr, *cmdActualizar_ = nullptr;
     QToolButton *cmdPrimero_ = nullptr, *cmdAnterior_ = nullptr, *cmdSiguiente_ = nullptr,
                 *cmdUltimo_ = nullptr;
     VentanaAmpliador* ampliador_ = nullptr;

@@ -69,8 +69,11 @@ void VentanaAire::cmdCal_Click() {
     Mensajes msj;
     const bool bien = CalcularAire(e_, msj, x, pct1_);
     MostrarMensajes(dlg_, msj.lista);
-    Enfocar(*this, msj.foco);
-    if (bien) emit Calculado(x);
+    Enfocar(*this, msj.Enfocado());
+    if (bien)
+        emit Calculado(x);
+    else
+        emit NoCalculado();
     if (bien && chkOcultar_->isChecked()) hide();
 }
 

@@ -33,6 +33,9 @@ public slots:
 signals:
     // The air was calculated from these inputs.
     void Calculado(const Entradas& x);
+    // An input was refused or the calculation failed: the window stays
+    // open with the focus on the box concerned.
+    void NoCalculado();
 
 private:
     Estado& e_;

@@ -185,16 +185,18 @@ void VentanaCombustible::Mostrar(const Entradas& x) {
     }
 }
 
-void VentanaCombustible::Terminar(const Mensajes& msj, const Entradas& x, bool ocultar, bool definido) {
+void VentanaCombustible::Terminar(const Mensajes& msj, const Entradas& x, bool ocultar, bool definido,
+                                  bool fallido) {
     Mostrar(x);
     MostrarMensajes(dlg_, msj.lista);
-    Enfocar(*this, msj.foco);
+    Enfocar(*this, msj.Enfocado());
     if (definido) {
         Entradas aplicadas = x;
         LeerEntradas(aplicadas);
         emit Calculado(aplicadas);
     }
-    if (ocultar && chkOcultar_->isChecked()) hide();
+    if (fallido) emit NoCalculado();
+    if (ocultar && !fallido && chkOcultar_->isChecked()) hide();
 }
 
 void VentanaCombustible::cboTipCom_Click() {
@@ -204,7 +206,8 @@ void VentanaCombustible::cboTipCom_Click() {
     LeerEntradas(x);
     Mensajes msj;
     const bool calculado = ElegirEntradaLista(e_, msj, lista, x, vista_, salidas_, pct2_);
-    Terminar(msj, x, calculado, calculado && !e_.ErrorCalculo);
+    const bool definido = calculado && !e_.ErrorCalculo;
+    Terminar(msj, x, calculado, definido, msj.Rechaza() || (calculado && !definido));
 }
 
 void VentanaCombustible::cmdCal_Click() {
@@ -213,7 +216,10 @@ void VentanaCombustible::cmdCal_Click() {
     LeerEntradas(x);
     Mensajes msj;
     const bool ocultar = CalcularCombustiblePropio(e_, msj, lista, x, vista_, salidas_, pct2_);
-    Terminar(msj, x, ocultar, ocultar && lista == kOtrosCombustibles && !e_.ErrorCalculo);
+    // CALCULAR that defines no fuel (none of one's own chosen, a box refused)
+    // leaves the window open.
+    const bool definido = ocultar && lista == kOtrosCombustibles && !e_.ErrorCalculo;
+    Terminar(msj, x, ocultar, definido, !definido);
 }
 
 void VentanaCombustible::optFOR_Click() {

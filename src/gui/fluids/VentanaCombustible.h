@@ -45,13 +45,17 @@ public slots:
 signals:
     // A fuel was defined from these inputs.
     void Calculado(const Entradas& x);
+    // An input was refused or the calculation failed: the window stays
+    // open with the focus on the box concerned.
+    void NoCalculado();
 
 private:
     // Shows what the logic left: the texts of the boxes, the figures, what
     // may be used and which boxes are locked.
     void Mostrar(const Entradas& x);
-    // The messages of an event, the focus, and what follows a fuel defined.
-    void Terminar(const Mensajes& msj, const Entradas& x, bool ocultar, bool definido);
+    // The messages of an event, the focus, and what follows a fuel defined
+    // or refused.
+    void Terminar(const Mensajes& msj, const Entradas& x, bool ocultar, bool definido, bool fallido);
 
     Estado& e_;
     Dialogos& dlg_;

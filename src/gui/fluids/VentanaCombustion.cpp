@@ -84,16 +84,19 @@ void VentanaCombustion::LeerEntradas(Entradas& x) const {
 void VentanaCombustion::Mostrar(const Mensajes& msj, const Entradas& x) {
     PonerCajas(*this, EtapaEntrada::Combustion, x);
     MostrarMensajes(dlg_, msj.lista);
-    Enfocar(*this, msj.foco);
+    Enfocar(*this, msj.Enfocado());
 }
 
 void VentanaCombustion::cmdCalcular_Click() {
     Entradas x;
     LeerEntradas(x);
     Mensajes msj;
-    const bool bien = CalcularHumos(e_, msj, x, variables_, pct3_);
+    const bool bien = CalcularHumos(e_, msj, x, variables_, pct3_) && !msj.Rechaza();
     Mostrar(msj, x);
-    if (bien) emit Calculado(x);
+    if (bien)
+        emit Calculado(x);
+    else
+        emit NoCalculado();
     if (bien && chkOcultar_->isChecked()) hide();
 }
 

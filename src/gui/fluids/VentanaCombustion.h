@@ -39,6 +39,9 @@ public slots:
 signals:
     // The gases were calculated from these inputs.
     void Calculado(const Entradas& x);
+    // An input was refused or the calculation failed: the window stays
+    // open with the focus on the box concerned.
+    void NoCalculado();
 
 protected:
     void showEvent(QShowEvent* evento) override;

@@ -47,6 +47,8 @@ namespace {
 // The prompt of the speed box, emptied by a click.
 constexpr const char* kTextoRpm = "rpm";
 constexpr const char* kMensajeFaltanEtapas = "Antes debe especificar: comburente, combustible y combustión";
+// The caption of the readout's process box while no state is under the pointer.
+constexpr const char* kTextoTransformacion = "Transformación";
 
 // The design of the window: a 1024 × 768 screen.
 constexpr int kAnchoDiseno = 1024;
@@ -116,12 +118,24 @@ VentanaPrincipal::VentanaPrincipal(Estado& e, Dialogos* dlg, QSize tamano, QWidg
     ventanaAire_ = new VentanaAire(e_, *dlg_, *pct1_, this);
     ventanaCombustible_ = new VentanaCombustible(e_, *dlg_, *pct2_, this);
     ventanaCombustion_ = new VentanaCombustion(e_, *dlg_, *pct3_, this);
-    connect(ventanaAire_, &VentanaAire::Calculado, this,
-            [this](const Entradas& x) { Aplicar(EtapaEntrada::Aire, x); });
-    connect(ventanaCombustible_, &VentanaCombustible::Calculado, this,
-            [this](const Entradas& x) { Aplicar(EtapaEntrada::Combustible, x); });
-    connect(ventanaCombustion_, &VentanaCombustion::Calculado, this,
-            [this](const Entradas& x) { Aplicar(EtapaEntrada::Combustion, x); });
+    connect(ventanaAire_, &VentanaAire::Calculado, this, [this](const Entradas& x) {
+        Aplicar(EtapaEntrada::Aire, x);
+        EtapaTerminada(Etapa::Comburente, true);
+    });
+    connect(ventanaCombustible_, &VentanaCombustible::Calculado, this, [this](const Entradas& x) {
+        Aplicar(EtapaEntrada::Combustible, x);
+        EtapaTerminada(Etapa::Combustible, true);
+    });
+    connect(ventanaCombustion_, &VentanaCombustion::Calculado, this, [this](const Entradas& x) {
+        Aplicar(EtapaEntrada::Combustion, x);
+        EtapaTerminada(Etapa::Combustion, true);
+    });
+    connect(ventanaAire_, &VentanaAire::NoCalculado, this,
+            [this] { EtapaTerminada(Etapa::Comburente, false); });
+    connect(ventanaCombustible_, &VentanaCombustible::NoCalculado, this,
+            [this] { EtapaTerminada(Etapa::Combustible, false); });
+    connect(ventanaCombustion_, &VentanaCombustion::NoCalculado, this,
+            [this] { EtapaTerminada(Etapa::Combustion, false); });
     FuentePagina fuente{[this] { return calculo_; },
                         [this](CuadroImagen cuadro) { return Imagenes()[static_cast<size_t>(cuadro)]; }};
     visores_ = std::make_unique<VisoresInforme>(*dlg_, std::move(fuente), this);
@@ -197,6 +211,13 @@ void VentanaPrincipal::CrearControles() {
     CrearEstadoActual();
     panelConfianza_ = new PanelConfianza(central_);
     panelConfianza_->hide();
+    lblIntentoFallido_ = new QLabel(central_);
+    lblIntentoFallido_->setObjectName(QStringLiteral("lblIntentoFallido"));
+    lblIntentoFallido_->setTextFormat(Qt::PlainText);
+    lblIntentoFallido_->setWordWrap(true);
+    lblIntentoFallido_->setStyleSheet(QStringLiteral(
+        "QLabel { background: #FFF1B8; color: #5C3B00; border: 1px solid #C89B00; padding: 2px 6px; }"));
+    lblIntentoFallido_->hide();
 }
 
 void VentanaPrincipal::CrearTablaPuntos() {
@@ -298,7 +319,7 @@ void VentanaPrincipal::CrearEstadoActual() {
         unidadEstado_[i] = NuevaEtiqueta(fraEstadoActual_, "", nombres[i][2]);
         unidadEstado_[i]->setObjectName(QString::fromLatin1(nombres[i][3]) + QStringLiteral("Unidad"));
     }
-    txtTransformacion_ = NuevaCaja(fraEstadoActual_, "txtTransformacion", "Transformación", true);
+    txtTransformacion_ = NuevaCaja(fraEstadoActual_, "txtTransformacion", kTextoTransformacion, true);
     fraEstadoActual_->hide();
 }
 
@@ -414,7 +435,50 @@ void VentanaPrincipal::Aplicar(EtapaEntrada etapa, const Entradas& x) {
     }
 }
 
-void VentanaPrincipal::CicloTerminado(const ResultadoCiclo& r, const Entradas& x) {
+void VentanaPrincipal::EtapaTerminada(Etapa etapa, bool calculada) {
+    if (calculada)
+        vanta::EtapaCalculada(flujo_, etapa);
+    else
+        vanta::EtapaNoCalculada(flujo_, etapa);
+    // A new comburent or fuel leaves the gases' chart stale until the
+    // combustion is calculated again.
+    if (calculada && etapa != Etapa::Combustion) {
+        pct3_->SetAutoRedraw(true);
+        pct3_->Cls();
+    }
+    Mostrar();
+}
+
+// A band over the tables of results, as wide as they are together; over the
+// readout when a diagram is enlarged and they are hidden.
+void VentanaPrincipal::DistribuirIntentoFallido() {
+    const Visibles& v = flujo_.visible;
+    const bool ver = flujo_.intentoFallido && v.fraEstadoActual;
+    lblIntentoFallido_->setVisible(ver);
+    if (!ver) return;
+    QRect resultados;
+    if (v.fraPuntos) resultados = fraPuntos_->geometry();
+    if (v.fraTransformaciones) resultados = resultados.united(fraTransformaciones_->geometry());
+    if (resultados.isNull()) resultados = fraEstadoActual_->geometry();
+    const int alto = lblIntentoFallido_->heightForWidth(resultados.width());
+    lblIntentoFallido_->setGeometry(resultados.left(), std::max(0, resultados.top() - alto),
+                                    resultados.width(), alto);
+    lblIntentoFallido_->raise();
+}
+
+void VentanaPrincipal::VaciarLectura() {
+    lectura_ = {};
+    lectura_.txtTransformacion = kTextoTransformacion;
+    MostrarLectura();
+}
+
+void VentanaPrincipal::CicloTerminado(const ResultadoCiclo& r, const Entradas& x, const Mensajes& msj) {
+    VaciarLectura();
+    // After a failure the readout follows the figures on screen, not the
+    // state the failure left.
+    estadoEnPantalla_.reset();
+    if (!r.bien && calculo_) estadoEnPantalla_ = std::make_unique<Estado>(*calculo_->estado);
+    lblIntentoFallido_->setText(r.bien ? QString() : ATexto(TextoIntentoFallido(msj.Textos())));
     if (r.bien) {
         Aplicar(EtapaEntrada::Ciclo, x);
         auto calculo = std::make_shared<ResultadoCalculo>();
@@ -432,13 +496,15 @@ void VentanaPrincipal::CicloTerminado(const ResultadoCiclo& r, const Entradas& x
         MostrarResultados(r.textos);
     }
     vanta::CalculoTerminado(flujo_, r.bien);
+    Mostrar();
     if (!r.bien) return;
     // The strip tells how hot the cycle would be in equilibrium, where the
     // model's temperature is past dissociation.
     std::vector<Aviso> avisos = calculo_->avisos;
     if (equilibrio::AvisaDisociacion(avisos))
         equilibrio::CompletarAvisoDisociacion(avisos, Disociacion(), e_.SeparadorDecimal);
-    panelConfianza_->Mostrar(avisos, DistanciaAlIdeal(e_), e_.SeparadorDecimal);
+    panelConfianza_->Mostrar(avisos, DistanciaAlIdeal(e_), e_.SeparadorDecimal, NombreCicloIdeal(e_),
+                             ExplicacionCicloIdeal(e_, e_.SeparadorDecimal));
     DistribuirConfianza();
     mnuDisociacion_->setEnabled(true);
     if (ventanaCiclo_->ConDisociacion() || (ventanaDisociacion_ && ventanaDisociacion_->isVisible()))
@@ -526,8 +592,7 @@ std::array<QImage, 7> VentanaPrincipal::Imagenes() const {
 
 VentanaBaseDatos& VentanaPrincipal::BaseDatos() {
     if (!ventanaBaseDatos_) {
-        ventanaBaseDatos_ = std::make_unique<VentanaBaseDatos>(
-            *dlg_, [this] { return txtInformeF1_; }, this);
+        ventanaBaseDatos_ = std::make_unique<VentanaBaseDatos>(*dlg_, this);
         ventanaBaseDatos_->FijarComparar([this] {
             VentanaBaseDatos& b = *ventanaBaseDatos_;
             Comparar(&b, b.Almacen(), std::nullopt, b.IdActual(), e_.SeparadorDecimal, *dlg_);
@@ -543,7 +608,8 @@ void VentanaPrincipal::FijarDireccionBaseDatos(const QString& direccion) {
 }
 
 void VentanaPrincipal::cmdEnvBaseDatos_Click() {
-    if (!calculo_) return;
+    // The figures of a failed attempt's predecessor are not saved as its own.
+    if (!calculo_ || flujo_.intentoFallido) return;
     GuardarBaseDatos(*calculo_, *dlg_, visores_->rthInforme(), Imagenes(), BaseDatos());
 }
 
@@ -609,14 +675,16 @@ CalculoCiclo VentanaPrincipal::CalcularCicloActual() {
 // (the button of the report is not hidden).
 void VentanaPrincipal::pctPV_MouseMove(int, int, float x, float y) {
     Mensajes msj;
-    vanta::pctPV_MouseMove(e_, msj, diagramas_, CicloEnPantalla(flujo_), x, y, lectura_);
+    vanta::pctPV_MouseMove(estadoEnPantalla_ ? *estadoEnPantalla_ : e_, msj, diagramas_,
+                           CicloEnPantalla(flujo_), x, y, lectura_);
     MostrarMensajes(*dlg_, msj.lista);
     MostrarLectura();
 }
 
 void VentanaPrincipal::pctTV_MouseMove(int, int, float x, float y) {
     Mensajes msj;
-    vanta::pctTV_MouseMove(e_, msj, diagramas_, CicloEnPantalla(flujo_), x, y, lectura_);
+    vanta::pctTV_MouseMove(estadoEnPantalla_ ? *estadoEnPantalla_ : e_, msj, diagramas_,
+                           CicloEnPantalla(flujo_), x, y, lectura_);
     MostrarMensajes(*dlg_, msj.lista);
     MostrarLectura();
 }

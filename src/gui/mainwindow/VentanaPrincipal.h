@@ -63,7 +63,7 @@ public:
     // ---- What the cycle window reaches ----
     void Ocultabotones(const Botones& b) override;
     std::string TipoCombustible() const override;
-    void CicloTerminado(const ResultadoCiclo& r, const Entradas& x) override;
+    void CicloTerminado(const ResultadoCiclo& r, const Entradas& x, const Mensajes& msj) override;
 
     // The last calculation that ended well, as it ended (its state, report,
     // labels, warnings and inputs): the report, the page, the record and the
@@ -193,6 +193,12 @@ private:
     void MostrarResultados(const TextosResultados& textos);
     // The inputs a stage window calculated with, kept for the next snapshot.
     void Aplicar(EtapaEntrada etapa, const Entradas& x);
+    // What a stage window's end changes in the workflow and the panels.
+    void EtapaTerminada(Etapa etapa, bool calculada);
+    // The readout strip as it starts, with no state under the pointer.
+    void VaciarLectura();
+    // The banner over the results after a failed calculation.
+    void DistribuirIntentoFallido();
 
     Estado& e_;
     std::unique_ptr<Dialogos> dlgPropios_;
@@ -259,6 +265,8 @@ private:
 
     // The validity warnings and the distance to the ideal cycle.
     PanelConfianza* panelConfianza_ = nullptr;
+    // Over the results while the last calculation failed.
+    QLabel* lblIntentoFallido_ = nullptr;
 
     // Menus.
     QMenu *mnuArchivo_ = nullptr, *mnuGuardar_ = nullptr, *mnuVer_ = nullptr, *mnuVerCiclo_ = nullptr,
@@ -291,6 +299,9 @@ private:
     std::shared_ptr<const equilibrio::CiclosConDisociacion> disociacion_;
     std::unique_ptr<VentanaDisociacion> ventanaDisociacion_;
     const equilibrio::CiclosConDisociacion& Disociacion();
+    // While the last calculation failed: a copy of the state of the figures
+    // on screen, which the readout works on.
+    std::unique_ptr<Estado> estadoEnPantalla_;
 };
 
 }  // namespace vanta

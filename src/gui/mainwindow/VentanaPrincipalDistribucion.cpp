@@ -91,7 +91,10 @@ void VentanaPrincipal::Mostrar() {
     mnuBDatos_->setEnabled(h.mnuBDatos);
     mnuGuardar_->menuAction()->setEnabled(h.mnuGuardar);
     mnuTablasActual_->setEnabled(h.mnuTablasActual);
-    mnuExportarDiagramas_->setEnabled(h.mnuInforme);
+    // The figures of a calculation that failed are not those on screen.
+    mnuExportarDiagramas_->setEnabled(h.mnuInforme && !f.intentoFallido);
+    mnuGuardarHTML_->setEnabled(!f.intentoFallido);
+    cmdEnvBaseDatos_->setEnabled(h.mnuBDatos);
     mnuCalcular_->setEnabled(h.mnuCalcular);
     mnuVerTodo_->setEnabled(h.mnuVerTodo);
     mnuVerCiclo_->menuAction()->setEnabled(h.mnuVerCiclo);
@@ -139,6 +142,7 @@ void VentanaPrincipal::Mostrar() {
     DistribuirPotencia();
     DistribuirEstadoActual();
     DistribuirConfianza();
+    DistribuirIntentoFallido();
 }
 
 // The two buttons under the results share one letter, the largest that

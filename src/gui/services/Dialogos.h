@@ -18,6 +18,8 @@ public:
     virtual void MsgBox(std::string_view mensaje) = 0;
     // Returns the answer; an empty string for a cancel, as the input box does.
     virtual std::string InputBox(std::string_view prompt, std::string_view porDefecto) = 0;
+    // A question with the buttons Sí and No, No by default: true for Sí.
+    virtual bool Pregunta(std::string_view pregunta) = 0;
 };
 
 // What a calculation told, one box a message, in order.
@@ -25,12 +27,15 @@ inline void MostrarMensajes(Dialogos& dlg, const std::vector<MensajeCalculo>& me
     for (const MensajeCalculo& m : mensajes) dlg.MsgBox(m.texto);
 }
 
-// Keeps every message; answers input boxes from a queue (empty when none left).
+// Keeps every message; answers input boxes from a queue (empty when none left)
+// and questions from another (No, the default, when none left).
 class DialogosGrabados : public Dialogos {
 public:
     std::vector<std::string> mensajes;
     std::vector<std::string> respuestas;
     std::vector<std::string> prompts;
+    std::vector<bool> siNo;
+    std::vector<std::string> preguntas;
 
     void MsgBox(std::string_view mensaje) override { mensajes.emplace_back(mensaje); }
     std::string InputBox(std::string_view prompt, std::string_view porDefecto) override {
@@ -39,6 +44,13 @@ public:
         std::string r = respuestas.front();
         respuestas.erase(respuestas.begin());
         return r;
+    }
+    bool Pregunta(std::string_view pregunta) override {
+        preguntas.emplace_back(pregunta);
+        if (siNo.empty()) return false;
+        const bool si = siNo.front();
+        siNo.erase(siNo.begin());
+        return si;
     }
 };
 
@@ -51,6 +63,7 @@ public:
     std::string InputBox(std::string_view, std::string_view porDefecto) override {
         return std::string(porDefecto);
     }
+    bool Pregunta(std::string_view) override { return false; }
     int cuenta = 0;  // messages shown
 
 private:

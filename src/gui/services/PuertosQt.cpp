@@ -16,6 +16,13 @@ void DialogosQt::MsgBox(std::string_view mensaje) {
     caja.exec();
 }
 
+bool DialogosQt::Pregunta(std::string_view pregunta) {
+    QMessageBox caja(QMessageBox::Question, QApplication::applicationName(), ATexto(pregunta),
+                     QMessageBox::Yes | QMessageBox::No, padre_);
+    caja.setDefaultButton(QMessageBox::No);
+    return caja.exec() == QMessageBox::Yes;
+}
+
 std::string DialogosQt::InputBox(std::string_view prompt, std::string_view porDefecto) {
     QInputDialog dialogo(padre_);
     dialogo.setWindowTitle(QApplication::applicationName());

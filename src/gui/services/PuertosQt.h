@@ -16,6 +16,7 @@ public:
     explicit DialogosQt(QWidget* padre = nullptr) : padre_(padre) {}
     void MsgBox(std::string_view mensaje) override;
     std::string InputBox(std::string_view prompt, std::string_view porDefecto) override;
+    bool Pregunta(std::string_view pregunta) override;
 
 private:
     void MostrarEntera(QInputDialog& dialogo);

@@ -92,7 +92,8 @@ PanelConfianza::PanelConfianza(QWidget* padre) : QFrame(padre) {
     fila->addWidget(grafico_);
 }
 
-void PanelConfianza::Mostrar(const std::vector<Aviso>& avisos, const DistanciaIdeal& d, char separador) {
+void PanelConfianza::Mostrar(const std::vector<Aviso>& avisos, const DistanciaIdeal& d, char separador,
+                             const std::string& nombreIdeal, const std::string& explicacionIdeal) {
     tieneCalculo_ = true;
     const QStyle::StandardPixmap simbolo =
         avisos.empty() ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning;
@@ -114,16 +115,17 @@ void PanelConfianza::Mostrar(const std::vector<Aviso>& avisos, const DistanciaId
                                   QStringLiteral(" y ") + Exponente(d.exponentes.gammaExpansion, separador) +
                                   QStringLiteral(")")
                             : QString();
+    const QString ideal = ATexto(nombreIdeal);
     grafico_->PonerBarras(
-        {{QStringLiteral("Ideal, γ = ") + ATexto(TextoGeneral(kGammaAireEstandar, separador)),
+        {{ideal + QStringLiteral(", γ = ") + ATexto(TextoGeneral(kGammaAireEstandar, separador)),
           d.aireEstandar.valido, d.aireEstandar.rendimiento},
-         {QStringLiteral("Ideal, γ del cálculo"), d.exponentes.valido, d.exponentes.rendimiento},
+         {ideal + QStringLiteral(", γ del cálculo"), d.exponentes.valido, d.exponentes.rendimiento},
          {QStringLiteral("Cálculo"), true, d.rendimiento}},
         separador);
-    grafico_->setToolTip(QStringLiteral("Rendimiento del ciclo ideal del mismo tipo y datos, con γ = ") +
-                         ATexto(TextoGeneral(kGammaAireEstandar, separador)) +
-                         QStringLiteral(" y con los exponentes medios del cálculo") + exponentes +
-                         QStringLiteral(", y el rendimiento del cálculo.\n") + grafico_->toolTip());
+    grafico_->setToolTip(ATexto(explicacionIdeal) +
+                         QStringLiteral("\nLa segunda barra es el mismo ciclo ideal ") +
+                         QStringLiteral("con los exponentes medios del cálculo") + exponentes +
+                         QStringLiteral(".\n") + grafico_->toolTip());
 }
 
 }  // namespace vanta

@@ -44,8 +44,10 @@ class PanelConfianza : public QFrame {
 public:
     explicit PanelConfianza(QWidget* padre = nullptr);
 
-    // The warnings and the efficiencies of a calculation that ended well.
-    void Mostrar(const std::vector<Aviso>& avisos, const DistanciaIdeal& distancia, char separador);
+    // The warnings and the efficiencies of a calculation that ended well,
+    // whose ideal cycle has that name and explanation.
+    void Mostrar(const std::vector<Aviso>& avisos, const DistanciaIdeal& distancia, char separador,
+                 const std::string& nombreIdeal, const std::string& explicacionIdeal);
 
     // Whether a calculation has been shown.
     bool TieneCalculo() const { return tieneCalculo_; }

@@ -26,7 +26,14 @@ const std::vector<std::vector<std::string>> kFilas = {
     {"--humedad", "x"},
     {"--humedad", "100", "--temperatura-ambiente", "380"},
     {"--humedad", "-10"},
+    {"--humedad", "100.01"},
+    {"--humedad", "0", "--presion-ambiente", "-100000"},
     {"--presion-ambiente", "3.5e-304", "--humedad", "100"},
+    // Figures that would overflow the steps after them, and the largest taken.
+    {"--presion-ambiente", "1E+308"},
+    {"--formula", "1,4,1e16,0,0", "--entalpia-formacion", "0"},
+    {"--rpm", "-1e300"},
+    {"--cilindrada", "1e15"},
     // The fuel.
     {"--formula", "0,0,0,0,0", "--entalpia-formacion", "-100000"},
     {"--formula", ",,,,", "--entalpia-formacion", "0"},

@@ -17,7 +17,7 @@ namespace {
 
 using Tipos = std::multiset<TipoAviso>;
 constexpr TipoAviso D = TipoAviso::Disociacion, F = TipoAviso::FueraDeAjuste, R = TipoAviso::PuntoRocio,
-                    I = TipoAviso::Inflamabilidad, P = TipoAviso::PasadasGamma;
+                    I = TipoAviso::Inflamabilidad, P = TipoAviso::PasadasGamma, A = TipoAviso::Ambiente;
 
 // A whole calculation, and the fuel as its list names it.
 Estado Calcular(const std::vector<std::string>& opciones, std::string& combustible) {
@@ -60,6 +60,8 @@ TEST(Avisos, CadaUnoDondeElModeloSaleDeSuTerrenoYNingunoFuera) {
         // the ambient: its water condenses at the end of the exhaust line.
         {{"--combustible", "Metanol", "--fr", "0.6", "--humedad", "100", "--p1", "150000"}, {R}},
         {{"--combustible", "Metanol", "--fr", "0.6", "--humedad", "100", "--t1", "290"}, {R}},
+        // An ambient no air on Earth has is calculated, and told.
+        {{"--combustible", "Metanol", "--fr", "0.6", "--temperatura-ambiente", "450"}, {A, D}},
     };
     for (const auto& caso : casos) {
         std::string combustible;
@@ -86,7 +88,7 @@ TEST(Avisos, LosTextosDanLasCifrasQueLosDisparan) {
 
 TEST(Avisos, TemperaturasMasAllaDeLosLimitesNoEnEllos) {
     Estado e;
-    e.T1 = 300, e.T2 = 700, e.T5 = 1500;
+    e.T1 = 300, e.T2 = 700, e.T5 = 1500, e.Tambiente = 300;
     const struct {
         double T3;
         Tipos esperados;
@@ -95,12 +97,19 @@ TEST(Avisos, TemperaturasMasAllaDeLosLimitesNoEnEllos) {
         e.T3 = e.T4 = caso.T3;
         EXPECT_EQ(TiposDe(AvisosValidez(e, "")), caso.esperados) << caso.T3;
     }
+    e.T3 = e.T4 = 2000;
+    const std::pair<double, Tipos> ambientes[] = {{180, {}}, {179.5, {A}}, {340, {}}, {340.5, {A}}};
+    for (const auto& [ambiente, esperados] : ambientes) {
+        e.Tambiente = ambiente;
+        EXPECT_EQ(TiposDe(AvisosValidez(e, "")), esperados) << ambiente;
+    }
 }
 
 TEST(Avisos, EstadoCincoBajoSuRocioYBusquedasDeMuchasPasadas) {
     // A state written by hand: the gases of state 5 cold and wet.
     Estado e;
-    e.T1 = 300, e.T5 = 320, e.p1 = 100000, e.p5 = 100000, e.xH2OHumos = 0.2, e.xO2Aire = 0.2;
+    e.T1 = 300, e.T5 = 320, e.p1 = 100000, e.p5 = 100000, e.xH2OHumos = 0.2, e.xO2Aire = 0.2,
+    e.Tambiente = 300;
     e.pasadas = {.aire = 20, .humos = 21};
     const std::vector<Aviso> avisos = AvisosValidez(e, "Otros combustibles");
     ASSERT_EQ(TiposDe(avisos), (Tipos{R, P}));
@@ -112,7 +121,7 @@ TEST(Avisos, EstadoCincoBajoSuRocioYBusquedasDeMuchasPasadas) {
     // An exhaust line with no length (T5 not above T1) is not walked, however
     // wet the air.
     e = Estado{};
-    e.T1 = 300, e.T5 = 290, e.p1 = 100000, e.p5 = 100000, e.xH2OAire = 0.2;
+    e.T1 = 300, e.T5 = 290, e.p1 = 100000, e.p5 = 100000, e.xH2OAire = 0.2, e.Tambiente = 300;
     EXPECT_EQ(TiposDe(AvisosValidez(e, "")), Tipos{});
 }
 

@@ -105,6 +105,7 @@ struct Guion {
     std::string texto;
     std::string llamadas;
     bool calculoBien = true;
+    bool fallaAlDibujar = true;  // else in the first pass, with the results in view
 
     Guion(int W, int H) {
         f = Form_Load({.W = W, .H = H, .dosTwips = 2.0 * 96 / 1440});
@@ -115,7 +116,7 @@ struct Guion {
     CalculoCiclo Calcular() {
         return [this] {
             Ocultabotones(f, kAlCalcular);
-            if (!calculoBien) Ocultabotones(f, kAlFallarCalculo);
+            if (!calculoBien && fallaAlDibujar) Ocultabotones(f, kAlFallarCalculo);
             CalculoTerminado(f, calculoBien);
         };
     }
@@ -133,8 +134,18 @@ TEST(Flujo, LosGuionesDeLaVentanaContraSuArchivo) {
     {
         Guion g(1024, 768);
         g("cmdElegirComburente_Click", [](Flujo& f) { cmdElegirComburente_Click(f); });
+        // A stage window that refuses a box keeps the next stage shut, even
+        // through its own button again, until it calculates.
+        g("aire rechazado", [](Flujo& f) { EtapaNoCalculada(f, Etapa::Comburente); });
+        g("cmdElegirComburente_Click", [](Flujo& f) { cmdElegirComburente_Click(f); });
+        g("aire calculado", [](Flujo& f) { EtapaCalculada(f, Etapa::Comburente); });
         g("cmdCombustible_Click", [](Flujo& f) { cmdCombustible_Click(f); });
+        g("combustible rechazado", [](Flujo& f) { EtapaNoCalculada(f, Etapa::Combustible); });
+        g("combustible calculado", [](Flujo& f) { EtapaCalculada(f, Etapa::Combustible); });
         g("cmdCarCombustion_Click", [](Flujo& f) { cmdCarCombustion_Click(f); });
+        g("combustion rechazada", [](Flujo& f) { EtapaNoCalculada(f, Etapa::Combustion); });
+        g("combustion calculada", [](Flujo& f) { EtapaCalculada(f, Etapa::Combustion); });
+        g("combustion calculada otra vez", [](Flujo& f) { EtapaCalculada(f, Etapa::Combustion); });
         g("CALCULAR", [&g](Flujo&) { g.Calcular()(); });
         g("chkVerHs_Click 1", [](Flujo& f) { chkVerHs_Click(f, true); });
         g("pctPV_Click", [&g](Flujo& f) { ClickDiagrama(f, Diagrama::PV, g.Calcular()); });
@@ -148,6 +159,14 @@ TEST(Flujo, LosGuionesDeLaVentanaContraSuArchivo) {
         g("mnuTS_Click", [&g](Flujo& f) { MenuDiagrama(f, Diagrama::TS, g.Calcular()); });
         g("mnuTS_Click", [&g](Flujo& f) { MenuDiagrama(f, Diagrama::TS, g.Calcular()); });
         g.calculoBien = false;
+        g.fallaAlDibujar = false;
+        // The results stay in view, and the save goes until a calculation
+        // ends well.
+        g("CALCULAR que falla antes de dibujar", [&g](Flujo&) { g.Calcular()(); });
+        g.calculoBien = true;
+        g("CALCULAR", [&g](Flujo&) { g.Calcular()(); });
+        g.calculoBien = false;
+        g.fallaAlDibujar = true;
         g("CALCULAR que falla", [&g](Flujo&) { g.Calcular()(); });
         g("mnuTablas_Click", [](Flujo& f) { mnuTablas_Click(f); });
         g("pctTV_Click sin etapa del ciclo",
@@ -177,4 +196,13 @@ TEST(Flujo, LosGuionesDeLaVentanaContraSuArchivo) {
         s += g.texto;
     }
     EXPECT_EQ(CompararDorado("flujo.txt", s), "");
+}
+
+TEST(Flujo, ElAvisoDeUnIntentoFallidoDiceSusMensajes) {
+    EXPECT_EQ(
+        TextoIntentoFallido({" Ha superado la temperatura ", "", "Error de cálculo. "}),
+        "Las cifras son del último cálculo completo; el último intento falló: Ha superado la temperatura / "
+        "Error de cálculo.");
+    EXPECT_EQ(TextoIntentoFallido({}),
+              "Las cifras son del último cálculo completo; el último intento falló.");
 }

@@ -117,8 +117,7 @@ struct Banco {
     QTemporaryDir carpeta;
     QString anterior = QDir::currentPath();
     DialogosGrabados dlg;
-    std::string buffer;  // the main window's report buffer
-    QString direccion;   // empty for BD.sqlite in the folder
+    QString direccion;  // empty for BD.sqlite in the folder
     std::unique_ptr<VentanaBaseDatos> f;
 
     explicit Banco(bool servidor = false) {
@@ -137,7 +136,7 @@ struct Banco {
     }
 
     std::unique_ptr<VentanaBaseDatos> Nuevo() {
-        auto n = std::make_unique<VentanaBaseDatos>(dlg, [this] { return buffer; });
+        auto n = std::make_unique<VentanaBaseDatos>(dlg);
         n->FijarMostrarModal([](QDialog& d) { d.show(); });
         n->FijarEspera(200);
         n->FijarDireccion(direccion);

@@ -274,6 +274,7 @@ private slots:
         QVERIFY(!lector.f->AgregarRegistro(TextosDe("del lector"), {}));
         QCOMPARE(lector.Mensaje(), bd::MsgNoSeGuarda(sinPermiso));
         lector.f->show();
+        lector.dlg.siNo = {true};
         QTest::mouseClick(lector.f->findChild<QAbstractButton*>(QStringLiteral("cmdBorrarRegistro")),
                           Qt::LeftButton);
         QCOMPARE(lector.Mensaje(), bd::MsgNoSeBorra(sinPermiso));

@@ -1,6 +1,7 @@
 // The browser as the user meets it: saves of real calculations read back
 // through its boxes, the name prompt, the navigator, the two views and the
-// report that a record keeps, deletions, the enlargement and the clipboard.
+// report that a record keeps, deletions with their question and their
+// inputs, the list read again, the enlargement and the clipboard.
 // Every test runs twice: on a SQLite file and on a PostgreSQL server.
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -270,6 +271,7 @@ private slots:
         Banco b(EnServidor());
         b.Agregar({"A", "B", "C", "D"});
         b.f->MoveFirst();
+        b.dlg.siNo = {true, true, true, true};
         const std::string borrado(bd::kMsgRegistroBorrado);
         // First: the one after. Middle: the one after. Last: the one before.
         Pulsar(*b.f, "cmdBorrarRegistro");
@@ -297,13 +299,12 @@ private slots:
         QCOMPARE(b.Texto("txtGuardarComo"), QStringLiteral("E"));
     }
 
-    void verInformeMuestraElBufferYElRegistroQueSeDejaLoGuarda() {
+    void verInformeMuestraElDelRegistroYNoLoCambia() {
         Banco b(EnServidor());
         b.Agregar({"A", "B"});
         b.f->MoveFirst();
         b.f->show();
         QVERIFY(QTest::qWaitForWindowExposed(b.f.get()));
-        b.buffer = "informe del último cálculo\r\ncon dos líneas";
         auto* ver = Boton(*b.f, "cmdVer");
         auto* caja = b.f->findChild<QPlainTextEdit*>(QStringLiteral("txtInforme"));
         QVERIFY(!caja->isVisible());
@@ -312,7 +313,7 @@ private slots:
         Pulsar(*b.f, "cmdVer");
         QCOMPARE(ver->text(), QStringLiteral("Ver resumen"));
         QVERIFY(caja->isVisible());
-        QCOMPARE(caja->toPlainText(), QStringLiteral("informe del último cálculo\ncon dos líneas"));
+        QCOMPARE(caja->toPlainText(), QStringLiteral("informe de A\n"));
         for (const char* marco :
              {"fraAire", "fraCombustible", "fraCombustion", "fraPuntos", "fraTransformaciones"})
             QVERIFY2(!b.f->findChild<QGroupBox*>(QString::fromLatin1(marco))->isVisible(), marco);
@@ -322,20 +323,15 @@ private slots:
         QCOMPARE(caja->geometry(),
                  QRect(0, qRound(0.035 * tam.height()), tam.width(), qRound(0.72 * tam.height())));
 
-        // Leaving A writes the buffer into its report, line ends and all; B
-        // shows its own report.
+        // Leaving A writes nothing; B shows its own report.
         Pulsar(*b.f, "cmdSiguiente");
         QCOMPARE(b.f->TextoInforme(), std::string("informe de B\r\n"));
-        Mirada m(b);
-        QCOMPARE(m.Valor(QStringLiteral(
-                             "SELECT \"Informe\" FROM \"ResultadosGuardados\" WHERE \"Guardado como\" = 'A'"))
-                     .toString()
-                     .toStdString(),
-                 b.buffer);
-        QCOMPARE(m.Valor(QStringLiteral(
-                             "SELECT \"Informe\" FROM \"ResultadosGuardados\" WHERE \"Guardado como\" = 'B'"))
+        Pulsar(*b.f, "cmdPrimero");
+        QCOMPARE(Mirada(b)
+                     .Valor(QStringLiteral("SELECT \"Informe\" FROM \"ResultadosGuardados\" ORDER BY rowid"))
                      .toString(),
-                 QStringLiteral("informe de B\r\n"));
+                 QStringLiteral("informe de A\r\n"));
+        Pulsar(*b.f, "cmdSiguiente");
 
         // Back to the summary.
         Pulsar(*b.f, "cmdVer");
@@ -353,6 +349,50 @@ private slots:
         QVERIFY(b.f->isVisible() && !b.f->isModal());
         QCOMPARE(b.Texto("txtGuardarComo"), QStringLiteral("B"));
         QVERIFY(b.f->ModoInforme());
+    }
+
+    void borrarPreguntaYSeLlevaSusEntradasSinDarSuNumeroOtraVez() {
+        Banco b(EnServidor());
+        const Calculo& c = TresCiclos()[0];
+        b.dlg.respuestas = {"A", "B"};
+        QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
+        QVERIFY(GuardarBaseDatos(c.r, b.dlg, c.informe, c.imagenes, *b.f));
+        const qint64 id = b.f->IdActual();
+        // No, the default answer, deletes nothing; Sí deletes the inputs too.
+        Pulsar(*b.f, "cmdBorrarRegistro");
+        QVERIFY(b.dlg.preguntas.size() == 1 && b.f->RecordCount() == 2);
+        b.dlg.siNo = {true};
+        Pulsar(*b.f, "cmdBorrarRegistro");
+        Mirada m(b);
+        QCOMPARE(m.Valor(QStringLiteral("SELECT count(*) FROM EntradasCalculo")).toInt(), 1);
+        // The next record takes a new id, and no inputs but its own (none).
+        b.Agregar({"C"});
+        QVERIFY(b.f->IdActual() > id && !b.f->Almacen()->LeerEntradas(b.f->IdActual()));
+        // Inputs left by an older program's deletion go when the store opens.
+        m.Valor(QStringLiteral("INSERT INTO EntradasCalculo VALUES (%1, 'rc=10')").arg(id + 50));
+        QVERIFY(b.Nuevo()->Cargar());
+        QCOMPARE(m.Valor(QStringLiteral("SELECT count(*) FROM EntradasCalculo")).toInt(), 1);
+    }
+
+    void laListaSeLeeOtraVezAlMostrarlaYConF5() {
+        Banco b(EnServidor());
+        b.Agregar({"A", "B"});
+        b.f->MoveFirst();
+        AlmacenResultados otro(*bd::LeerDireccion(b.Donde().toStdString()).direccion);
+        QVERIFY(otro.Abrir() && otro.Insertar(TextosDe("C"), {}));
+        Pulsar(*b.f, "cmdActualizar");
+        QCOMPARE(b.f->RecordCount(), 3);
+        QCOMPARE(b.Texto("txtGuardarComo"), QStringLiteral("A"));
+        // The record in view deleted by another program: the one after it.
+        QVERIFY(otro.Borrar(b.f->IdActual()));
+        Pulsar(*b.f, "cmdActualizar");
+        QCOMPARE(b.Texto("txtGuardarComo"), QStringLiteral("B"));
+        // Shown again from the menu.
+        b.f->hide();
+        QVERIFY(otro.Insertar(TextosDe("D"), {}));
+        b.f->MostrarNoModal();
+        QCOMPARE(b.f->RecordCount(), 3);
+        QCOMPARE(b.Texto("txtGuardarComo"), QStringLiteral("B"));
     }
 
     void laCajaDelInformeSigueALaVentanaAlMoverElRaton() {

@@ -166,6 +166,8 @@ private slots:
             if (ampliado) QTest::mouseClick(p.f.pctTV(), Qt::LeftButton);
             SuperficieQt* tv = p.f.pctTV();
             const QPoint punto(tv->width() / 2, tv->height() / 3);
+            // A new calculation (the enlargement's) empties the readout.
+            QTest::mouseMove(tv, QPoint(5, 5));
             QTest::mouseMove(tv, punto);
             const QPointF u = tv->AUsuario(punto - tv->contentsRect().topLeft());
             LecturaEstado esperada;

@@ -77,6 +77,10 @@ private slots:
         QCOMPARE(barras.size(), size_t{3});
         QVERIFY(barras[0].valida && barras[1].valida);
         QCOMPARE(barras[0].rendimiento, RendimientoOttoIdeal(10, kGammaAireEstandar));
+        // The ideal cycle named as the validation names it, and said why.
+        QVERIFY(barras[0].nombre.startsWith(QStringLiteral("Otto ideal")));
+        QVERIFY(
+            panel->grafico()->toolTip().startsWith(QStringLiteral("El ciclo Otto ideal de aire estándar")));
         QCOMPARE(barras[2].rendimiento, p.e.Rendimiento);
         Capturar(&p.f, "avisos.png");
         // An enlarged diagram leaves the band free too.

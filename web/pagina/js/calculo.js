@@ -242,9 +242,10 @@ function mostrarAvisos(r) {
   const barras = el('dl', { class: 'barras' });
   const barra = (n, v) => barras.append(el('div', {}, el('dt', { texto: n }),
     el('dd', {}, el('span', { class: 'barra', style: `width:${Math.max(0, Math.min(100, 100 * v))}%` }), ` ${porcentaje(v)}`)));
-  if (r.ideal.aireEstandar !== undefined) barra(`Ideal, γ = ${r.ideal.gammaAireEstandar}`, r.ideal.aireEstandar);
-  if (r.ideal.exponentes !== undefined) barra('Ideal, γ del cálculo', r.ideal.exponentes);
+  if (r.ideal.aireEstandar !== undefined) barra(`${r.ideal.nombre}, γ = ${r.ideal.gammaAireEstandar}`, r.ideal.aireEstandar);
+  if (r.ideal.exponentes !== undefined) barra(`${r.ideal.nombre}, γ del cálculo`, r.ideal.exponentes);
   barra('Cálculo', r.ideal.rendimiento);
+  barras.title = r.ideal.explicacion;
   caja.append(barras);
 }
 

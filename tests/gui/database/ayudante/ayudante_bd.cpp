@@ -37,6 +37,7 @@ public:
     std::string InputBox(std::string_view, std::string_view porDefecto) override {
         return std::string(porDefecto);
     }
+    bool Pregunta(std::string_view) override { return false; }
 };
 
 void Esperar() {
