@@ -19,6 +19,7 @@
 #include "gui/services/Controles.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/services/SuperficieImagen.h"
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 
@@ -110,7 +111,7 @@ VentanaComparacion::VentanaComparacion(std::vector<CalculoComparado> calculos, c
     auto* columna = new QVBoxLayout(this);
     columna->addLayout(barra);
     columna->addWidget(division, 1);
-    resize(1400, 820);
+    CuidarVentana(this, QStringLiteral("comparacion"), {1400, 820}, true);
     Rehacer();
 }
 

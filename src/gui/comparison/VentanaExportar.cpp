@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "gui/services/Controles.h"
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 
@@ -77,6 +78,7 @@ VentanaExportar::VentanaExportar(Hacer hacer, UnidadPresion presion, const std::
     columna->addWidget(lstFiguras_, 1);
     columna->addLayout(formulario);
     columna->addLayout(botones);
+    RecordarOpciones(this, QStringLiteral("exportar"), {cboFormato_, txtAncho_, txtAlto_});
 }
 
 std::vector<size_t> VentanaExportar::Elegidas() const {

@@ -22,6 +22,7 @@
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/VentanaAmpliador.h"
 #include "gui/services/PuertosQt.h"
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 
@@ -82,6 +83,7 @@ VentanaBaseDatos::VentanaBaseDatos(Dialogos& dlg, std::function<std::string()> i
     else
         resize(kTamanoDiseno);
     ampliador_ = new VentanaAmpliador(this);
+    CuidarVentana(this, QStringLiteral("baseDatos"), size(), false);
 }
 
 void VentanaBaseDatos::AjustarAPantalla(const QRect& libre) {

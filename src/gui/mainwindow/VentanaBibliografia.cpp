@@ -1,4 +1,5 @@
 #include "gui/mainwindow/VentanaBibliografia.h"
+#include "gui/services/Escritorio.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -102,7 +103,7 @@ VentanaBibliografia::VentanaBibliografia(QWidget* padre) : QDialog(padre) {
     capa->addWidget(cabecera);
     capa->addWidget(lstLibros_, 1);
     capa->addWidget(botones);
-    resize(1040, 520);
+    CuidarVentana(this, QStringLiteral("bibliografia"), {1040, 520}, false);
 }
 
 }  // namespace vanta

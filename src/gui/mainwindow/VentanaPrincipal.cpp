@@ -126,6 +126,7 @@ VentanaPrincipal::VentanaPrincipal(Estado& e, Dialogos* dlg, QSize tamano, QWidg
     ventanaCiclo_ = new VentanaCiclo(e_, *dlg_, diagramas_, *this, this);
 
     resize(tamano.isEmpty() ? TamanoInicial(this) : tamano);
+    PrepararEscritorio(tamano.isEmpty());
     Form_Load();
 }
 
@@ -410,6 +411,7 @@ void VentanaPrincipal::Aplicar(EtapaEntrada etapa, const Entradas& x) {
 }
 
 void VentanaPrincipal::CicloTerminado(const ResultadoCiclo& r, const Entradas& x) {
+    vistaDibujada_ = flujo_.lugaresDe;
     if (r.bien) {
         Aplicar(EtapaEntrada::Ciclo, x);
         auto calculo = std::make_shared<ResultadoCalculo>();
@@ -503,11 +505,6 @@ void VentanaPrincipal::cmdCarCiclo_Click() {
 // The report window comes with the reports.
 void VentanaPrincipal::cmdInforme_Click() {
     visores_->VerInforme(txtInformeF1_);
-}
-
-std::array<QImage, 7> VentanaPrincipal::Imagenes() const {
-    return {pct1_->Imagen(),  pct2_->Imagen(),  pct3_->Imagen(), pctPV_->Imagen(),
-            pctTV_->Imagen(), pctTS_->Imagen(), pctHS_->Imagen()};
 }
 
 VentanaBaseDatos& VentanaPrincipal::BaseDatos() {

@@ -1,6 +1,6 @@
 // Where the controls of the main window stand: every one is placed in
-// proportion to the window's size at the moment of the call (the design is a
-// window filling a 1024 × 768 screen). Nothing follows a later resize.
+// proportion to the window's size (the design is a window filling a
+// 1024 × 768 screen), again whenever that size changes.
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -139,6 +139,7 @@ void VentanaPrincipal::Mostrar() {
     DistribuirPotencia();
     DistribuirEstadoActual();
     DistribuirConfianza();
+    DistribuirEscritorio();
 }
 
 // The two buttons under the results share one letter, the largest that

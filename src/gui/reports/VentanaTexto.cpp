@@ -60,6 +60,12 @@ bool VentanaTexto::eventFilter(QObject* objeto, QEvent* evento) {
     return QMainWindow::eventFilter(objeto, evento);
 }
 
+// The box also follows a resize at once, in the same proportions.
+void VentanaTexto::resizeEvent(QResizeEvent* evento) {
+    QMainWindow::resizeEvent(evento);
+    AjustarCaja();
+}
+
 void VentanaTexto::showEvent(QShowEvent* evento) {
     QMainWindow::showEvent(evento);
     AjustarCaja();

@@ -11,6 +11,7 @@
 
 #include "core/services/Numeros.h"
 #include "gui/services/PuertosQt.h"
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 
@@ -123,7 +124,7 @@ VentanaValidacion::VentanaValidacion(char separador, QWidget* padre)
     capa->addWidget(cabecera);
     capa->addWidget(pestanas_, 1);
     capa->addWidget(botones);
-    resize(980, 620);
+    CuidarVentana(this, QStringLiteral("validacion"), {980, 620}, false);
 }
 
 QTableWidget* VentanaValidacion::Tabla(GrupoValidacion g) const {

@@ -1,6 +1,8 @@
 // The window tests: offscreen unless a platform is given, numbers with the C
 // library's point and the program's separator pinned to '.'.
 #include <QApplication>
+#include <QDir>
+#include <QStandardPaths>
 #include <QTest>
 #include <algorithm>
 #include <clocale>
@@ -22,6 +24,11 @@ int main(int argc, char** argv) {
     QApplication aplicacion(argc, argv);
     QApplication::setApplicationName(vanta::NombrePrograma());
     std::setlocale(LC_NUMERIC, "C");
+    // The settings the windows remember, in the test folder of the standard
+    // paths and fresh at each run: never the user's.
+    QStandardPaths::setTestModeEnabled(true);
+    QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/vanta"))
+        .removeRecursively();
 
     std::vector<std::unique_ptr<QObject>> pruebas;
     for (const auto& fabrica : vanta::pruebas::Registro()) pruebas.emplace_back(fabrica());
