@@ -190,9 +190,11 @@ void VentanaPrincipal::DistribuirTransformaciones() {
         const double desde = kTransReglaV[c], hasta = c + 1 < 4 ? kTransReglaV[c + 1] : kTransReglaHHasta;
         return std::pair{desde * w, (hasta - desde) * w};
     };
+    // Both edges rounded, so that neighbours meet and never overlap.
     auto celda = [&](QLabel* l, int c, double arriba) {
         const auto [x, ancho] = columna(c);
-        l->setGeometry(qRound(x), qRound(arriba * h), qRound(ancho), alto);
+        const int izquierda = qRound(x);
+        l->setGeometry(izquierda, qRound(arriba * h), qRound(x + ancho) - izquierda, alto);
     };
     celda(lblW12_, kColW, 0.2314);
     celda(lblG12_, kColGamma, 0.2);

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "gui/reports/DialogosInforme.h"
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 
@@ -30,6 +31,7 @@ VentanaTexto::VentanaTexto(QWidget* padre, const QString& titulo, QSize tamano, 
 QPlainTextEdit* VentanaTexto::CrearCaja(const char* nombre) {
     caja_ = new QPlainTextEdit(interior_);
     caja_->setObjectName(QString::fromLatin1(nombre));
+    caja_->setAccessibleName(windowTitle());
     caja_->setFont(FuenteInforme());
     caja_->setLineWrapMode(QPlainTextEdit::NoWrap);
     caja_->setMouseTracking(true);

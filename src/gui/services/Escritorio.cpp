@@ -52,6 +52,7 @@ protected:
         if (evento->type() == QEvent::Show) {
             if (!abierta_) {
                 abierta_ = true;
+                NombrarControles(ventana_);
                 const QByteArray geometria = Ajustes().value(ClaveVentana(clave_)).toByteArray();
                 if (geometria.isEmpty() || !ventana_->restoreGeometry(geometria)) ventana_->resize(deseado_);
             }
@@ -297,6 +298,9 @@ void NombrarControles(QWidget* raiz) {
         if (despues && w->accessibleDescription().isEmpty() && !TextoEtiqueta(despues).isEmpty())
             w->setAccessibleDescription(TextoEtiqueta(despues));
     }
+    for (QComboBox* lista : raiz->findChildren<QComboBox*>())
+        if (QLineEdit* editor = lista->lineEdit(); editor && editor->accessibleName().isEmpty())
+            editor->setAccessibleName(lista->accessibleName());
 }
 
 }  // namespace vanta

@@ -164,10 +164,10 @@ void VentanaEstudio::CrearControles() {
     }
     txtValores1_ = NuevaCaja(marcoEntradas, "txtValores1", "");
     txtValores2_ = NuevaCaja(marcoEntradas, "txtValores2", "");
-    for (QLineEdit* caja : {txtValores1_, txtValores2_}) caja->setMinimumWidth(140);
+    for (QLineEdit* caja : {txtValores1_, txtValores2_}) caja->setMinimumWidth(100);
     for (QComboBox* lista : {cboEntrada1_, cboEntrada2_}) {
         lista->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        lista->setMinimumContentsLength(18);
+        lista->setMinimumContentsLength(12);
     }
     const char* ayuda = "INICIO:FIN:PASO (8:14:0.5) o una lista (0.8,0.9,1; Gasolina,Gasoil)";
     txtValores1_->setToolTip(QString::fromUtf8(ayuda));
@@ -199,7 +199,7 @@ void VentanaEstudio::CrearControles() {
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(std::string_view(s.nombre) == "rendimiento" ? Qt::Checked : Qt::Unchecked);
     }
-    lstSalidas_->setMinimumSize(220, 120);
+    lstSalidas_->setMinimumSize(180, 120);
     cajaSalidas->addWidget(lstSalidas_);
     fila->addWidget(marcoSalidas, 2);
     principal->addLayout(fila);

@@ -14,6 +14,7 @@
 #include "gui/services/Controles.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/tables/VentanaTablas.h"
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 
@@ -119,6 +120,7 @@ VentanaHerramientas::VentanaHerramientas(Estado& e, Dialogos& dlg, EnlacesHerram
     connect(optHumos_, &QRadioButton::clicked, this, &VentanaHerramientas::optHumos_Click);
     connect(cmdTablas_, &QPushButton::clicked, this, &VentanaHerramientas::cmdTablas_Click);
     connect(cmdTab_, &QPushButton::clicked, this, &VentanaHerramientas::cmdTab_Click);
+    NombrarControles(this);
 }
 
 VentanaHerramientas::~VentanaHerramientas() = default;

@@ -42,6 +42,7 @@ QWidget* Pestana(const DescripcionGrupo& g, const TablaValidacion& t, QWidget* p
         if (f.grupo == g.grupo) filas.push_back(&f);
     auto* tabla = new QTableWidget(static_cast<int>(filas.size()), 6, pagina);
     tabla->setObjectName(QStringLiteral("lstComprobaciones"));
+    tabla->setAccessibleName(QStringLiteral("Comprobaciones"));
     tabla->setHorizontalHeaderLabels({QStringLiteral("Comprobación"), QStringLiteral("Programa"),
                                       QStringLiteral("Referencia"), QStringLiteral("Diferencia"),
                                       QStringLiteral("Tolerancia"), QStringLiteral("Resultado")});

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
+#include <functional>
 #include <memory>
 
 #include "core/comparison/Calculos.h"
@@ -67,30 +68,35 @@ private slots:
         QTemporaryDir carpeta;
         p.f.FijarDireccionBaseDatos(carpeta.filePath(QStringLiteral("BD.sqlite")));
 
-        p.Menu("mnuEstudio")->trigger();
         VentanaComparacion comparacion({CalculoDeResultado("Cálculo actual", *p.f.CalculoActual())}, '.', p.dlg,
                                        &p.f);
-        comparacion.show();
         VentanaTablas tablas(&p.f);
-        tablas.Mostrar();
-        p.Menu("mnuAbrirBD")->trigger();
-
+        // Each window opened alone over the main one, as the user opens it.
+        const std::tuple<std::function<void()>, std::function<QWidget*()>, const char*> ventanas[] = {
+            {[] {}, [&] { return &p.f; }, "pantalla-1024-principal.png"},
+            {[&] { p.Menu("mnuEstudio")->trigger(); }, [] { return Abierta("VentanaEstudio"); },
+             "pantalla-1024-estudio.png"},
+            {[&] { comparacion.show(); }, [&] { return &comparacion; }, "pantalla-1024-comparacion.png"},
+            {[&] { tablas.Mostrar(); }, [&] { return &tablas; }, "pantalla-1024-tablas.png"},
+            {[&] { p.Menu("mnuAbrirBD")->trigger(); }, [] { return Abierta("VentanaBaseDatos"); },
+             "pantalla-1024-base-datos.png"}};
         QStringList fuera;
-        const std::pair<QWidget*, const char*> ventanas[] = {{&p.f, "pantalla-1024-principal.png"},
-                                                            {Abierta("VentanaEstudio"), "pantalla-1024-estudio.png"},
-                                                            {&comparacion, "pantalla-1024-comparacion.png"},
-                                                            {&tablas, "pantalla-1024-tablas.png"},
-                                                            {Abierta("VentanaBaseDatos"), "pantalla-1024-base-datos.png"}};
-        for (auto [w, captura] : ventanas) {
+        for (const auto& [abrir, ventana, captura] : ventanas) {
+            abrir();
+            QWidget* w = ventana();
             QVERIFY(w && QTest::qWaitForWindowExposed(w));
             // The window manager puts its frame on, and the window moves in.
             QTest::qWait(500);
             if (const QString f = NoCabe(w); !f.isEmpty()) fuera << f;
             Capturar(w, captura);
+            // Resizable: smaller down to what its controls need, and back.
             const QSize antes = w->size();
-            w->resize(antes - QSize(60, 40));
-            QTRY_COMPARE(w->size(), antes - QSize(60, 40));
+            const QSize menor = (antes - QSize(60, 40)).expandedTo(w->minimumSizeHint());
+            QVERIFY2(menor != antes && w->maximumSize() != w->minimumSize(), qPrintable(w->objectName()));
+            w->resize(menor);
+            QTRY_COMPARE(w->size(), menor);
             w->resize(antes);
+            if (w != &p.f) w->hide();
         }
         QVERIFY2(fuera.isEmpty(), qPrintable(fuera.join(QLatin1Char('\n'))));
     }
