@@ -388,8 +388,8 @@ private slots:
     }
 
     void elMenuEligeLaBaseDeDatosYLaRecuerda() {
-        // The settings in the test folder of the standard paths (the test
-        // program's).
+        // The settings in the test folder of the standard paths.
+        QStandardPaths::setTestModeEnabled(true);
         const QString ajustes = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                                 QStringLiteral("/vanta/vanta.conf");
         QFile::remove(ajustes);
@@ -441,6 +441,7 @@ private slots:
         QCOMPARE(navegador->RecordCount(), 0);
         QCOMPARE(navegador->Direccion(), b.Ruta());
         QFile::remove(ajustes);
+        QStandardPaths::setTestModeEnabled(false);
     }
 
     void cabeEnUnaPantallaDe1024x768() {

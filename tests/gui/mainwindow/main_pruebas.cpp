@@ -1,8 +1,7 @@
 // The window tests: offscreen unless a platform is given, numbers with the C
 // library's point and the program's separator pinned to '.'.
 #include <QApplication>
-#include <QDir>
-#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
 #include <clocale>
@@ -21,14 +20,13 @@ std::vector<Fabrica>& Registro() {
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What the windows remember goes to a folder of this run: never the
+    // user's settings, and none left from an earlier run.
+    QTemporaryDir configuracion;
+    qputenv("XDG_CONFIG_HOME", configuracion.path().toLocal8Bit());
     QApplication aplicacion(argc, argv);
     QApplication::setApplicationName(vanta::NombrePrograma());
     std::setlocale(LC_NUMERIC, "C");
-    // The settings the windows remember, in the test folder of the standard
-    // paths and fresh at each run: never the user's.
-    QStandardPaths::setTestModeEnabled(true);
-    QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/vanta"))
-        .removeRecursively();
 
     std::vector<std::unique_ptr<QObject>> pruebas;
     for (const auto& fabrica : vanta::pruebas::Registro()) pruebas.emplace_back(fabrica());
