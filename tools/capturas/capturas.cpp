@@ -5,8 +5,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QInputDialog>
-#include <QTest>
 #include <QStandardPaths>
+#include <QTest>
 #include <QTimer>
 #include <clocale>
 #include <cstdio>
@@ -87,7 +87,8 @@ void LasTresMedidas() {
         p.f.resize(tamano);
         // The pictures are drawn again once the size settles.
         QTest::qWait(400);
-        const QByteArray nombre = QStringLiteral("ventana-%1x%2.png").arg(tamano.width()).arg(tamano.height()).toLatin1();
+        const QByteArray nombre =
+            QStringLiteral("ventana-%1x%2.png").arg(tamano.width()).arg(tamano.height()).toLatin1();
         Guardar(&p.f, nombre.constData());
     }
 }

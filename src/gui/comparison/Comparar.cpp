@@ -10,8 +10,8 @@
 #include "gui/comparison/VentanaComparacion.h"
 #include "gui/database/EntradasCalculo.h"
 #include "gui/services/Controles.h"
-#include "gui/services/PuertosQt.h"
 #include "gui/services/Escritorio.h"
+#include "gui/services/PuertosQt.h"
 
 namespace vanta {
 

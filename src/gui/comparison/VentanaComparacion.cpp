@@ -17,9 +17,9 @@
 #include "core/comparison/TablaComparacion.h"
 #include "gui/comparison/VentanaExportar.h"
 #include "gui/services/Controles.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/services/SuperficieImagen.h"
-#include "gui/services/Escritorio.h"
 
 namespace vanta {
 

@@ -21,8 +21,8 @@
 #include "gui/database/ControlImagen.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/VentanaAmpliador.h"
-#include "gui/services/PuertosQt.h"
 #include "gui/services/Escritorio.h"
+#include "gui/services/PuertosQt.h"
 
 namespace vanta {
 

@@ -12,9 +12,9 @@
 
 #include "gui/services/Controles.h"
 #include "gui/services/EnlaceEntradas.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/SuperficieQt.h"
 #include "gui/services/TextosVentanas.h"
-#include "gui/services/Escritorio.h"
 
 namespace vanta {
 

@@ -13,8 +13,8 @@
 
 #include "gui/services/Controles.h"
 #include "gui/services/EnlaceEntradas.h"
-#include "gui/services/TextosVentanas.h"
 #include "gui/services/Escritorio.h"
+#include "gui/services/TextosVentanas.h"
 
 namespace vanta {
 

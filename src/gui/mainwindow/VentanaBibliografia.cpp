@@ -1,5 +1,4 @@
 #include "gui/mainwindow/VentanaBibliografia.h"
-#include "gui/services/Escritorio.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -7,6 +6,8 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 

@@ -59,7 +59,8 @@ void VentanaPrincipal::PrepararEscritorio(bool tamanoRecordado) {
     CrearAtajos();
     NombrarParaLectores();
     if (tamanoRecordado) {
-        const QByteArray geometria = Ajustes().value(QStringLiteral("ventanas/") + kClaveVentana).toByteArray();
+        const QByteArray geometria =
+            Ajustes().value(QStringLiteral("ventanas/") + kClaveVentana).toByteArray();
         if (!geometria.isEmpty()) restoreGeometry(geometria);
         EncajarEnPantalla(this);
     }
@@ -104,11 +105,12 @@ void VentanaPrincipal::NombrarParaLectores() {
     // The boxes of the power and the consumption: their caption, and the
     // unit beside them.
     const std::tuple<QLineEdit*, QLabel*, QLabel*> cajas[] = {
-        {txtRpm_, Label30_, Label29_},      {txtPotencia_, Label30_, Label33_},
+        {txtRpm_, Label30_, Label29_},        {txtPotencia_, Label30_, Label33_},
         {txtPotenciaCV_, Label30_, Label35_}, {txtConsumoMJ_, Label28_, Label31_},
         {txtConsumoKwh_, Label28_, Label32_}, {txtCilindrada_, nullptr, Label34_}};
     for (auto [caja, nombre, unidad] : cajas) {
-        caja->setAccessibleName(nombre ? Sin(nombre->text(), QLatin1Char(':')) : QStringLiteral("Cilindrada"));
+        caja->setAccessibleName(nombre ? Sin(nombre->text(), QLatin1Char(':'))
+                                       : QStringLiteral("Cilindrada"));
         caja->setAccessibleDescription(unidad->text());
     }
     txtRpm_->setAccessibleName(QStringLiteral("Régimen del motor"));
@@ -140,9 +142,9 @@ void VentanaPrincipal::NombrarParaLectores() {
         {lblRen_, cabezaTransformaciones_[4]->text() + ", " + proceso(filaTransformaciones_[4])}};
     for (const auto& [celda, texto] : celdas) celda->setAccessibleDescription(texto);
     for (int i = 0; i < 5; ++i)
-        valorEstado_[i]->setAccessibleDescription(QStringLiteral("%1 bajo el puntero, en %2")
-                                                      .arg(Sin(nombreEstado_[i]->text(), QLatin1Char('=')),
-                                                           unidadEstado_[i]->text()));
+        valorEstado_[i]->setAccessibleDescription(
+            QStringLiteral("%1 bajo el puntero, en %2")
+                .arg(Sin(nombreEstado_[i]->text(), QLatin1Char('=')), unidadEstado_[i]->text()));
 }
 
 // Tab walks the controls in view in reading order, which the view decides.

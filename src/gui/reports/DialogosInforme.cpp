@@ -12,8 +12,8 @@
 #include <QTextDocument>
 #include <algorithm>
 
-#include "gui/services/PuertosQt.h"
 #include "gui/services/Escritorio.h"
+#include "gui/services/PuertosQt.h"
 
 namespace vanta {
 
@@ -47,7 +47,9 @@ QString DialogosArchivoQt::Mostrar(QWidget* padre, const DialogoArchivo& d, bool
     const QString clave = (guardar ? QStringLiteral("guardar-") : QStringLiteral("abrir-")) +
                           (filtros.empty() ? QString() : ATexto(filtros.front().extension));
     const QString recordada = CarpetaRecordada(clave);
-    dialogo.setDirectory(!recordada.isEmpty() ? recordada : carpeta_.isEmpty() ? QDir::currentPath() : carpeta_);
+    dialogo.setDirectory(!recordada.isEmpty() ? recordada
+                         : carpeta_.isEmpty() ? QDir::currentPath()
+                                              : carpeta_);
     dialogo.setNameFilters(etiquetas);
     // A name typed without extension takes that of the filter in view.
     const auto alFiltrar = [&](const QString& etiqueta) {

@@ -4,8 +4,8 @@
 #include <QPlainTextEdit>
 
 #include "gui/reports/VisoresInforme.h"
-#include "gui/services/PuertosQt.h"
 #include "gui/services/Escritorio.h"
+#include "gui/services/PuertosQt.h"
 
 namespace vanta {
 

@@ -6,9 +6,8 @@
 #include <QUrl>
 
 #include "gui/reports/VisoresInforme.h"
-#include "gui/services/PuertosQt.h"
-
 #include "gui/services/Escritorio.h"
+#include "gui/services/PuertosQt.h"
 namespace vanta {
 
 namespace {

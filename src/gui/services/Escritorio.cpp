@@ -16,10 +16,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QSpinBox>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QScreen>
+#include <QSpinBox>
 #include <QStandardPaths>
 #include <QTextEdit>
 #include <QTimer>
@@ -132,7 +132,9 @@ std::pair<QLabel*, QLabel*> EtiquetasDeFila(const QWidget* w) {
             if (QLayout* dentro = capa->itemAt(k)->layout()) capas << dentro;
         const int indice = capa->indexOf(w);
         if (indice < 0) continue;
-        auto etiqueta = [](QLayoutItem* item) { return item ? qobject_cast<QLabel*>(item->widget()) : nullptr; };
+        auto etiqueta = [](QLayoutItem* item) {
+            return item ? qobject_cast<QLabel*>(item->widget()) : nullptr;
+        };
         if (auto* forma = qobject_cast<QFormLayout*>(capa))
             return {qobject_cast<QLabel*>(forma->labelForField(const_cast<QWidget*>(w))), nullptr};
         if (auto* rejilla = qobject_cast<QGridLayout*>(capa)) {
@@ -141,7 +143,8 @@ std::pair<QLabel*, QLabel*> EtiquetasDeFila(const QWidget* w) {
             return {columna > 0 ? etiqueta(rejilla->itemAtPosition(fila, columna - 1)) : nullptr,
                     etiqueta(rejilla->itemAtPosition(fila, columna + columnas))};
         }
-        return {indice > 0 ? etiqueta(capa->itemAt(indice - 1)) : nullptr, etiqueta(capa->itemAt(indice + 1))};
+        return {indice > 0 ? etiqueta(capa->itemAt(indice - 1)) : nullptr,
+                etiqueta(capa->itemAt(indice + 1))};
     }
     return {};
 }
@@ -266,8 +269,8 @@ void RecordarCarpeta(const QString& clave, const QString& archivo) {
     if (archivo.isEmpty()) return;
     const QFileInfo info(archivo);
     QSettings ajustes = Ajustes();
-    ajustes.setValue(QStringLiteral("carpetas/") + clave, info.isDir() ? info.absoluteFilePath()
-                                                                      : info.absolutePath());
+    ajustes.setValue(QStringLiteral("carpetas/") + clave,
+                     info.isDir() ? info.absoluteFilePath() : info.absolutePath());
 }
 
 void OrdenDeLectura(QWidget* raiz) {
@@ -291,7 +294,8 @@ void NombrarControles(QWidget* raiz) {
             w->setAccessibleName(TextoEtiqueta(nombre));
         } else if (auto* caja = qobject_cast<QLineEdit*>(w); caja && !caja->placeholderText().isEmpty()) {
             w->setAccessibleName(caja->placeholderText());
-        } else if (auto* marco = qobject_cast<QGroupBox*>(w->parentWidget()); marco && !marco->title().isEmpty()) {
+        } else if (auto* marco = qobject_cast<QGroupBox*>(w->parentWidget());
+                   marco && !marco->title().isEmpty()) {
             w->setAccessibleName(marco->title().remove(QLatin1Char('&')));
         }
         // The label after a box is its unit.

@@ -36,8 +36,8 @@
 #include "core/studies/TablaEstudio.h"
 #include "gui/reports/DialogosInforme.h"
 #include "gui/services/Controles.h"
-#include "gui/services/PuertosQt.h"
 #include "gui/services/Escritorio.h"
+#include "gui/services/PuertosQt.h"
 
 namespace vanta {
 

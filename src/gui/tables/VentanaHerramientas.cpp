@@ -12,9 +12,9 @@
 
 #include "core/properties/Especies.h"
 #include "gui/services/Controles.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/tables/VentanaTablas.h"
-#include "gui/services/Escritorio.h"
 
 namespace vanta {
 

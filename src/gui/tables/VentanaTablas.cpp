@@ -7,8 +7,8 @@
 
 #include "core/files/EscribirArchivos.h"
 #include "core/reports/ArchivosInforme.h"
-#include "gui/services/PuertosQt.h"
 #include "gui/services/Escritorio.h"
+#include "gui/services/PuertosQt.h"
 
 namespace vanta {
 

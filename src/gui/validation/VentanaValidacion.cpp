@@ -10,8 +10,8 @@
 #include <set>
 
 #include "core/services/Numeros.h"
-#include "gui/services/PuertosQt.h"
 #include "gui/services/Escritorio.h"
+#include "gui/services/PuertosQt.h"
 
 namespace vanta {
 

@@ -11,9 +11,9 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
-#include <QTabWidget>
 #include <QTest>
 #include <QToolTip>
 #include <QtCharts/QChart>
@@ -25,8 +25,8 @@
 #include "core/services/Numeros.h"
 #include "core/studies/TablaEstudio.h"
 #include "gui/reports/DialogosInforme.h"
-#include "gui/studies/VentanaEstudio.h"
 #include "gui/services/Escritorio.h"
+#include "gui/studies/VentanaEstudio.h"
 #include "tests/gui/mainwindow/Programa.h"
 #include "tests/gui/mainwindow/Pruebas.h"
 
