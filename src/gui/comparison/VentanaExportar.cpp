@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -136,16 +137,22 @@ void VentanaExportar::cmdGuardar_Click() {
     const FormatoFigura formato = Formato();
     const QString extension = ExtensionFigura(formato);
     QString ruta;
+    // The dialogs open in the folder of the last figures saved.
+    const QString clave = QStringLiteral("figuras");
+    const QString carpeta = CarpetaRecordada(clave);
     if (formato == FormatoFigura::PDF || elegidas.size() == 1) {
         const QString nombre =
             elegidas.size() == 1 ? Figuras()[elegidas.front()].nombre : QStringLiteral("figuras");
         ruta = QFileDialog::getSaveFileName(
-            this, QStringLiteral("Guardar figura"), nombre + QLatin1Char('.') + extension,
+            this, QStringLiteral("Guardar figura"),
+            QDir(carpeta).filePath(nombre + QLatin1Char('.') + extension),
             extension.toUpper() + QStringLiteral(" (*.") + extension + QLatin1Char(')'));
     } else {
-        ruta = QFileDialog::getExistingDirectory(this, QStringLiteral("Carpeta de las figuras"));
+        ruta = QFileDialog::getExistingDirectory(this, QStringLiteral("Carpeta de las figuras"), carpeta);
     }
-    if (!ruta.isEmpty()) Guardar(ruta);
+    if (ruta.isEmpty()) return;
+    RecordarCarpeta(clave, ruta);
+    Guardar(ruta);
 }
 
 void VentanaExportar::cmdCopiar_Click() {

@@ -148,8 +148,11 @@ void VentanaPrincipal::NombrarParaLectores() {
 }
 
 // Tab walks the controls in view in reading order, which the view decides.
+// The entries of "Guardar como" answer their shortcuts only while the
+// submenu may be used.
 void VentanaPrincipal::DistribuirEscritorio() {
     OrdenDeLectura(central_);
+    for (QAction* a : mnuGuardar_->actions()) a->setEnabled(mnuGuardar_->menuAction()->isEnabled());
 }
 
 void VentanaPrincipal::resizeEvent(QResizeEvent* evento) {
