@@ -1,5 +1,5 @@
 # The manual page of vanta from the program's own words: `vanta --help` as
-# the description, `vanta --version` as the version, one page of section 1.
+# what the page tells, `vanta --version` as the version, one page of section 1.
 # Run as cmake -DPROGRAMA=… -DNOMBRE=… -DFECHA=… -DSALIDA=… -P Manual.cmake.
 execute_process(COMMAND ${PROGRAMA} --help OUTPUT_VARIABLE ayuda RESULT_VARIABLE r1)
 execute_process(COMMAND ${PROGRAMA} --version OUTPUT_VARIABLE version RESULT_VARIABLE r2

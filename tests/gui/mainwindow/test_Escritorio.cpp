@@ -50,7 +50,7 @@ QString Par(const QWidget* a, const QWidget* b) {
     return x < y ? x + '/' + y : y + '/' + x;
 }
 
-// What the described proportions lay over each other: the frames of the
+// What the layout's own proportions lay over each other: the frames of the
 // stage buttons and of the states over the foot of the air chart, the table
 // of processes and the database button over the left edge of T-V, the
 // insets, frames that meet by a pixel, and the cells of h and s.
