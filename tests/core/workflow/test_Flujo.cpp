@@ -178,25 +178,3 @@ TEST(Flujo, LosGuionesDeLaVentanaContraSuArchivo) {
     }
     EXPECT_EQ(CompararDorado("flujo.txt", s), "");
 }
-
-// A new size places the view on show as that size places it: the overview
-// as the window opens, an enlarged diagram as its switch enlarges it, the
-// hidden h-s inset in its share of the window.
-TEST(Flujo, UnTamanoNuevoColocaLaVistaQueHay) {
-    const TamanoVentana chica{.W = 1024, .H = 768, .dosTwips = 2.0 * 96 / 1440};
-    const TamanoVentana grande{.W = 2560, .H = 1440, .dosTwips = chica.dosTwips};
-    Flujo f = Form_Load(chica), esperado = Form_Load(grande);
-    NuevoTamano(f, grande);
-    EXPECT_NEAR(f.lugar.pctHS.Width, esperado.lugar.pctHS.Width, 2);
-    f.lugar.pctHS = esperado.lugar.pctHS;
-    EXPECT_TRUE(f.lugar == esperado.lugar);
-    const auto nada = [] {};
-    PonerGraficos(f, Diagrama::TV, nada);
-    esperado = Form_Load(chica);
-    PonerGraficos(esperado, Diagrama::TV, nada);
-    NuevoTamano(f, chica);
-    EXPECT_EQ(f.vista, Vista::TV);
-    for (const Lugar Lugares::*l : {&Lugares::pctPV, &Lugares::pctTV, &Lugares::pctTS, &Lugares::pctHS,
-                                    &Lugares::cmdInforme, &Lugares::fraEstadoActual})
-        EXPECT_TRUE(f.lugar.*l == esperado.lugar.*l);
-}
