@@ -252,6 +252,29 @@ private slots:
             revisar(Abierta(ventana));
         QVERIFY2(faltan.isEmpty(), qPrintable(faltan.join(QLatin1Char('\n'))));
     }
+    // A window opens again at the size it had, inside the screen however
+    // far it was moved, and the study with the inputs last chosen.
+    void seRecuerdaElTamanoYLoElegido() {
+        {
+            VentanaTablas tablas;
+            tablas.Mostrar();
+            tablas.resize(610, 410);
+            tablas.move(5000, 5000);
+            tablas.hide();
+        }
+        VentanaTablas tablas;
+        tablas.Mostrar();
+        QCOMPARE(tablas.size(), QSize(610, 410));
+        QVERIFY(tablas.screen()->availableGeometry().contains(tablas.geometry() + MarcoVentana(&tablas)));
+        for (int vez = 0; vez < 2; ++vez) {
+            Programa p;
+            p.Menu("mnuEstudio")->trigger();
+            auto* lista = Hijo<QComboBox>(Abierta("VentanaEstudio"), "cboEntrada2");
+            if (vez == 0) lista->setCurrentIndex(3);
+            QCOMPARE(lista->currentIndex(), 3);
+            lista->window()->hide();
+        }
+    }
 };
 
 class PruebaPantalla : public QObject {
