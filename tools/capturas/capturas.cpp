@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QInputDialog>
+#include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
 #include <clocale>
@@ -76,6 +77,22 @@ void LasCifrasGrandes() {
     Guardar(&p.f, "ventana-principal-cifras-grandes.png");
 }
 
+// The main window with a Mixto cycle at the sizes of three screens: every
+// control in the same proportions, the diagrams drawn at the size shown.
+void LasTresMedidas() {
+    Programa p;
+    Comprobar(p.Etapa1() && p.Etapa2(QStringLiteral("Gasoil")) && p.Etapa3() && p.AbrirCiclo("imgMixto"));
+    Comprobar(p.Calcular());
+    for (const QSize tamano : {QSize(1024, 768), QSize(1600, 900), QSize(2560, 1440)}) {
+        p.f.resize(tamano);
+        // The pictures are drawn again once the size settles.
+        QTest::qWait(400);
+        const QByteArray nombre =
+            QStringLiteral("ventana-%1x%2.png").arg(tamano.width()).arg(tamano.height()).toLatin1();
+        Guardar(&p.f, nombre.constData());
+    }
+}
+
 // The name asked for a save, its suggestion whole and selected.
 void ElNombreAlGuardar() {
     Programa p{QSize()};
@@ -115,11 +132,14 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication aplicacion(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
+    // The windows' remembered sizes stay out of the pictures.
+    QStandardPaths::setTestModeEnabled(true);
     QDir().mkpath(QString::fromLocal8Bit(argv[1]));
     carpeta = QDir(QString::fromLocal8Bit(argv[1]));
     LasVentanasDelCiclo();
     LasCifrasGrandes();
     ElNombreAlGuardar();
     LaDisociacion();
+    LasTresMedidas();
     return bien ? 0 : 1;
 }

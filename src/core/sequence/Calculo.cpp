@@ -172,6 +172,12 @@ bool DefinirFluido(Estado& e, Mensajes& msj, const Entradas& x, SuperficiesCalcu
     return !conGases || (EtapaCombustible(e, msj, x, s) && EtapaCombustion(e, msj, x, s));
 }
 
+bool DibujarGraficas(Estado& e, const Entradas& x, SuperficiesCalculo& s, int etapas) {
+    Mensajes msj;
+    return EtapaAire(e, msj, x, s) && (etapas < 2 || EtapaCombustible(e, msj, x, s)) &&
+           (etapas < 3 || EtapaCombustion(e, msj, x, s));
+}
+
 std::string EstadoJSON(const Estado& e) {
     std::string s;
     s.reserve(8192);

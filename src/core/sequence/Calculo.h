@@ -76,6 +76,11 @@ ResultadoCalculo Calcular(const Entradas& x, char separador = '.');
 // conGases, the fuel and the combustion. False when a stage failed.
 bool DefinirFluido(Estado& e, Mensajes& msj, const Entradas& x, SuperficiesCalculo& s, bool conGases);
 
+// The composition charts of the first `etapas` stages (1 the air, 2 also the
+// fuel, 3 also the gases) drawn again on a state, as their windows draw them;
+// false when a stage failed.
+bool DibujarGraficas(Estado& e, const Entradas& x, SuperficiesCalculo& s, int etapas);
+
 // Every variable of the state as one JSON object, full precision (the
 // shortest text that reads back to the same number), keyed by the state's
 // own names.

@@ -113,6 +113,12 @@ void ColocarHSInicial(Lugares& l) {
     l.pctHS = {tv.Left, tv.Top, Pixeles(kRecuadroAncho * tv.Width), Pixeles(kRecuadroAlto * tv.Height)};
 }
 
+Lugar Escalado(const Lugar& l, const TamanoVentana& antes, const TamanoVentana& ahora) {
+    if (antes.W <= 0 || antes.H <= 0) return l;
+    const double x = static_cast<double>(ahora.W) / antes.W, y = static_cast<double>(ahora.H) / antes.H;
+    return {Pixeles(l.Left * x), Pixeles(l.Top * y), Pixeles(l.Width * x), Pixeles(l.Height * y)};
+}
+
 bool DebeAmpliar(Diagrama d, const Lugares& l, const TamanoVentana& v) {
     const double setentaPorCiento = static_cast<float>(0.7 * v.W);
     switch (d) {

@@ -42,6 +42,10 @@ void ColocarCambiarTamaño(Lugares& l, const TamanoVentana& v);
 // left of T-V, as T-s is on p-V.
 void ColocarHSInicial(Lugares& l);
 
+// A place of a window of size antes, in the same proportions of one of size
+// ahora.
+Lugar Escalado(const Lugar& l, const TamanoVentana& antes, const TamanoVentana& ahora);
+
 // Whether the switch of diagram d enlarges it (true) or returns to the
 // overview, read from the current places: 0.7 W, rounded to single, against
 // the width of the diagram; T-s tests its Left against two twips.

@@ -101,7 +101,7 @@ void PonerGraficosTodos(Flujo& f) {
     Contar(f, "PonerGraficosTodos");
     ColocarTodos(f.lugar, f.ventana);
     f.encima = Diagrama::TS;
-    f.vista = Vista::General;
+    f.vista = f.lugaresDe = Vista::General;
     Visibles& v = f.visible;
     MostrarGraficas(f, true);
     v.pctTV = v.pctTS = true;
@@ -220,6 +220,7 @@ void PonerGraficos(Flujo& f, Diagrama d, const CalculoCiclo& calcular) {
         return;
     }
     ColocarAmpliado(d, f.lugar, f.ventana);
+    f.lugaresDe = VistaDe(d);
     f.encima = RecuadroDe(d);
     Visibles& v = f.visible;
     MostrarGraficas(f, false);
@@ -260,6 +261,20 @@ std::string TextoIntentoFallido(const std::vector<std::string>& mensajes) {
     }
     return "Las cifras son del último cálculo completo; el último intento falló" +
            (causa.empty() ? std::string(".") : ": " + causa);
+}
+
+void NuevoTamano(Flujo& f, const TamanoVentana& ventana) {
+    const TamanoVentana antes = f.ventana;
+    f.ventana = ventana;
+    Lugares& l = f.lugar;
+    if (f.vista == Vista::General) {
+        const Lugar hs = l.pctHS;
+        ColocarTodos(l, ventana);
+        l.pctHS = Escalado(hs, antes, ventana);
+        return;
+    }
+    ColocarAmpliado(static_cast<Diagrama>(static_cast<int>(f.vista) - 1), l, ventana);
+    ColocarCambiarTamaño(l, ventana);
 }
 
 }  // namespace vanta

@@ -89,6 +89,9 @@ struct Flujo {
     Marcas marcado;
     TamanoVentana ventana;
     Lugares lugar;
+    // The view whose places the controls have, from the moment they take them
+    // (a switch calculates in its new places before its view is on show).
+    Vista lugaresDe = Vista::General;
     // The diagram that stands over the others: the inset of the view.
     Diagrama encima = Diagrama::TS;
     SinCalcular sinCalcular;
@@ -144,6 +147,11 @@ void ClickDiagrama(Flujo& f, Diagrama d, const CalculoCiclo& calcular);
 void MenuDiagrama(Flujo& f, Diagrama d, const CalculoCiclo& calcular);
 // The overview again, with no calculation: the pictures stay as drawn.
 void mnuVerTodo_Click(Flujo& f);
+// The window took another size: every control in view stands again in
+// proportion to it, in the view on show, with nothing calculated (the window
+// draws its pictures again at their new sizes). The hidden h-s diagram of the
+// overview keeps its share of the window.
+void NuevoTamano(Flujo& f, const TamanoVentana& ventana);
 
 // What the main window says over the results while the last calculation
 // failed: the figures are the last complete calculation's, and why the

@@ -10,6 +10,7 @@
 #include "gui/comparison/VentanaComparacion.h"
 #include "gui/database/EntradasCalculo.h"
 #include "gui/services/Controles.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
@@ -48,7 +49,7 @@ VentanaElegirRegistros::VentanaElegirRegistros(const std::vector<std::string>& n
     columna->addWidget(lblElija);
     columna->addWidget(lstRegistros_, 1);
     columna->addLayout(botones);
-    resize(640, 420);
+    CuidarVentana(this, QStringLiteral("elegirRegistros"), {640, 420}, false);
     AlMarcar(nullptr);
 }
 

@@ -17,6 +17,7 @@
 #include "core/comparison/TablaComparacion.h"
 #include "gui/comparison/VentanaExportar.h"
 #include "gui/services/Controles.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/services/SuperficieImagen.h"
 
@@ -110,7 +111,7 @@ VentanaComparacion::VentanaComparacion(std::vector<CalculoComparado> calculos, c
     auto* columna = new QVBoxLayout(this);
     columna->addLayout(barra);
     columna->addWidget(division, 1);
-    resize(1400, 820);
+    CuidarVentana(this, QStringLiteral("comparacion"), {1400, 820}, true);
     Rehacer();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -13,6 +14,7 @@
 #include <algorithm>
 
 #include "gui/services/Controles.h"
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 
@@ -77,6 +79,7 @@ VentanaExportar::VentanaExportar(Hacer hacer, UnidadPresion presion, const std::
     columna->addWidget(lstFiguras_, 1);
     columna->addLayout(formulario);
     columna->addLayout(botones);
+    RecordarOpciones(this, QStringLiteral("exportar"), {cboFormato_, txtAncho_, txtAlto_});
 }
 
 std::vector<size_t> VentanaExportar::Elegidas() const {
@@ -134,16 +137,22 @@ void VentanaExportar::cmdGuardar_Click() {
     const FormatoFigura formato = Formato();
     const QString extension = ExtensionFigura(formato);
     QString ruta;
+    // The dialogs open in the folder of the last figures saved.
+    const QString clave = QStringLiteral("figuras");
+    const QString carpeta = CarpetaRecordada(clave);
     if (formato == FormatoFigura::PDF || elegidas.size() == 1) {
         const QString nombre =
             elegidas.size() == 1 ? Figuras()[elegidas.front()].nombre : QStringLiteral("figuras");
         ruta = QFileDialog::getSaveFileName(
-            this, QStringLiteral("Guardar figura"), nombre + QLatin1Char('.') + extension,
+            this, QStringLiteral("Guardar figura"),
+            QDir(carpeta).filePath(nombre + QLatin1Char('.') + extension),
             extension.toUpper() + QStringLiteral(" (*.") + extension + QLatin1Char(')'));
     } else {
-        ruta = QFileDialog::getExistingDirectory(this, QStringLiteral("Carpeta de las figuras"));
+        ruta = QFileDialog::getExistingDirectory(this, QStringLiteral("Carpeta de las figuras"), carpeta);
     }
-    if (!ruta.isEmpty()) Guardar(ruta);
+    if (ruta.isEmpty()) return;
+    RecordarCarpeta(clave, ruta);
+    Guardar(ruta);
 }
 
 void VentanaExportar::cmdCopiar_Click() {

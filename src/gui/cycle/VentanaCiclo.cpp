@@ -1,10 +1,12 @@
 #include "gui/cycle/VentanaCiclo.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -65,6 +67,13 @@ void Forma::paintEvent(QPaintEvent*) {
     p.setPen(pluma);
     const qreal medio = ancho_ / 2.0;
     p.drawRect(QRectF(rect()).adjusted(medio, medio, -medio, -medio));
+    // The picture that has the keyboard's focus, dotted inside its border.
+    const QWidget* foco = QApplication::focusWidget();
+    if (foco && isAncestorOf(foco)) {
+        p.setPen(QPen(palette().color(QPalette::WindowText), 1, Qt::DotLine));
+        const int dentro = ancho_ + 1;
+        p.drawRect(rect().adjusted(dentro, dentro, -dentro - 1, -dentro - 1));
+    }
 }
 
 // ---- The window ------------------------------------------------------------------------
@@ -168,6 +177,10 @@ void VentanaCiclo::CrearControles() {
         img->setToolTip(QString::fromUtf8(ayuda));
         img->setPixmap(stock_[i][0]);
         img->setCursor(Qt::PointingHandCursor);
+        // Chosen from the keyboard too: Tab reaches it, Space chooses it.
+        img->setFocusPolicy(Qt::StrongFocus);
+        img->setAccessibleName(img->toolTip());
+        img->setAccessibleDescription(QStringLiteral("Pulse Espacio para elegirlo"));
         auto* l = new QVBoxLayout(forma);
         l->setContentsMargins(kMargenForma, kMargenForma, kMargenForma, kMargenForma);
         l->addWidget(img);
@@ -194,6 +207,7 @@ void VentanaCiclo::CrearControles() {
     imgSeleccinar_->setObjectName(QStringLiteral("imgSeleccinar"));
     imgSeleccinar_->setAlignment(Qt::AlignCenter);
     imgSeleccinar_->setPixmap(DibujoElegirCiclo(kTamanoSeleccionar, dpr));
+    OrdenarPrimeroImagenes();
 
     // What the window shows when it opens: the options of the defaults, the
     // pictures and the panel, the frames hidden.
@@ -332,7 +346,26 @@ void VentanaCiclo::showEvent(QShowEvent* evento) {
     QDialog::showEvent(evento);
 }
 
+void VentanaCiclo::OrdenarPrimeroImagenes() {
+    QList<QWidget*> cadena = {imgOtto_, imgDiesel_, imgMixto_};
+    for (QWidget* w = nextInFocusChain(); w != this; w = w->nextInFocusChain())
+        if ((w->focusPolicy() & Qt::TabFocus) && !cadena.contains(w)) cadena << w;
+    for (qsizetype i = 0; i + 1 < cadena.size(); ++i) setTabOrder(cadena[i], cadena[i + 1]);
+}
+
 bool VentanaCiclo::eventFilter(QObject* objeto, QEvent* evento) {
+    const bool imagen = objeto == imgOtto_ || objeto == imgDiesel_ || objeto == imgMixto_;
+    if (imagen && (evento->type() == QEvent::FocusIn || evento->type() == QEvent::FocusOut))
+        static_cast<QWidget*>(objeto)->parentWidget()->update();
+    if (imagen && evento->type() == QEvent::KeyPress) {
+        const int tecla = static_cast<QKeyEvent*>(evento)->key();
+        if (tecla == Qt::Key_Space || tecla == Qt::Key_Select) {
+            if (objeto == imgOtto_) imgOtto_Click();
+            if (objeto == imgDiesel_) imgDiesel_Click();
+            if (objeto == imgMixto_) imgMixto_Click();
+            return true;
+        }
+    }
     if (evento->type() == QEvent::MouseButtonRelease) {
         if (objeto == imgOtto_) imgOtto_Click();
         if (objeto == imgDiesel_) imgDiesel_Click();

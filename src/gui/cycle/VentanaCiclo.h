@@ -86,6 +86,9 @@ protected:
 
 private:
     void CrearControles();
+    // The three pictures of the cycles first in the Tab order, as they are
+    // first in reading order.
+    void OrdenarPrimeroImagenes();
     void Distribuir();
     // The frames and pictures of the cycle chosen.
     void MostrarCiclo(const VistaCiclo& v);

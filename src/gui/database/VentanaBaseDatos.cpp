@@ -23,6 +23,7 @@
 #include "gui/database/ControlImagen.h"
 #include "gui/database/GuardarBaseDatos.h"
 #include "gui/database/VentanaAmpliador.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
@@ -82,6 +83,7 @@ VentanaBaseDatos::VentanaBaseDatos(Dialogos& dlg, QWidget* padre)
     else
         resize(kTamanoDiseno);
     ampliador_ = new VentanaAmpliador(this);
+    CuidarVentana(this, QStringLiteral("baseDatos"), size(), false);
 }
 
 void VentanaBaseDatos::AjustarAPantalla(const QRect& libre) {

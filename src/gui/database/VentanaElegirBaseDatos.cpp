@@ -7,10 +7,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
-#include <QStandardPaths>
 
 #include "core/database/Direccion.h"
 #include "core/database/Registro.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
@@ -18,14 +18,6 @@ namespace vanta {
 namespace {
 
 const char* const kClaveAjuste = "baseDatos/direccion";
-
-// ~/.config/vanta/vanta.conf, named whole so that it follows the standard
-// paths at each use.
-QSettings Ajustes() {
-    return QSettings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                         QStringLiteral("/vanta/vanta.conf"),
-                     QSettings::IniFormat);
-}
 
 }  // namespace
 

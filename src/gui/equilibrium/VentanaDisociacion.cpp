@@ -16,6 +16,7 @@
 #include "core/warnings/Cifras.h"
 #include "gui/comparison/Figuras.h"
 #include "gui/comparison/VentanaComparacion.h"
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 
@@ -136,8 +137,8 @@ VentanaDisociacion::VentanaDisociacion(QWidget* padre) : QWidget(padre, Qt::Wind
     division->setStretchFactor(0, 1);
     division->setStretchFactor(1, 1);
     (new QVBoxLayout(this))->addWidget(division);
-    resize(1280, 760);
     division->setSizes({700, 580});
+    CuidarVentana(this, QStringLiteral("disociacion"), {1280, 760}, true);
 }
 
 void VentanaDisociacion::Mostrar(std::shared_ptr<const CalculoComparado> calculo,

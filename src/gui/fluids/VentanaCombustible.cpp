@@ -12,6 +12,7 @@
 
 #include "gui/services/Controles.h"
 #include "gui/services/EnlaceEntradas.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/SuperficieQt.h"
 #include "gui/services/TextosVentanas.h"
 
@@ -147,6 +148,7 @@ VentanaCombustible::VentanaCombustible(Estado& e, Dialogos& dlg, Superficie& pct
     connect(cmdCal_, &QPushButton::clicked, this, &VentanaCombustible::cmdCal_Click);
     connect(optFOR_, &QRadioButton::clicked, this, &VentanaCombustible::optFOR_Click);
     connect(optMasa_, &QRadioButton::clicked, this, &VentanaCombustible::optMasa_Click);
+    NombrarControles(this);
 }
 
 VentanaCombustible::~VentanaCombustible() = default;

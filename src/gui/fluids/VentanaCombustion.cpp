@@ -13,6 +13,7 @@
 
 #include "gui/services/Controles.h"
 #include "gui/services/EnlaceEntradas.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/TextosVentanas.h"
 
 namespace vanta {
@@ -54,6 +55,7 @@ VentanaCombustion::VentanaCombustion(Estado& e, Dialogos& dlg, Superficie& pct3,
     connect(txtLambda_, &QLineEdit::textChanged, this, &VentanaCombustion::txtLambda_Change);
     txtFr_->installEventFilter(this);
     txtLambda_->installEventFilter(this);
+    NombrarControles(this);
 }
 
 VentanaCombustion::~VentanaCombustion() = default;

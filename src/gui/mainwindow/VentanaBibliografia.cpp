@@ -7,6 +7,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "gui/services/Escritorio.h"
+
 namespace vanta {
 
 const std::vector<Libro>& Bibliografia() {
@@ -102,7 +104,7 @@ VentanaBibliografia::VentanaBibliografia(QWidget* padre) : QDialog(padre) {
     capa->addWidget(cabecera);
     capa->addWidget(lstLibros_, 1);
     capa->addWidget(botones);
-    resize(1040, 520);
+    CuidarVentana(this, QStringLiteral("bibliografia"), {1040, 520}, false);
 }
 
 }  // namespace vanta

@@ -142,6 +142,7 @@ VentanaPrincipal::VentanaPrincipal(Estado& e, Dialogos* dlg, QSize tamano, QWidg
     ventanaCiclo_ = new VentanaCiclo(e_, *dlg_, diagramas_, *this, this);
 
     resize(tamano.isEmpty() ? TamanoInicial(this) : tamano);
+    PrepararEscritorio(tamano.isEmpty());
     Form_Load();
 }
 
@@ -473,6 +474,7 @@ void VentanaPrincipal::VaciarLectura() {
 }
 
 void VentanaPrincipal::CicloTerminado(const ResultadoCiclo& r, const Entradas& x, const Mensajes& msj) {
+    vistaDibujada_ = flujo_.lugaresDe;
     VaciarLectura();
     // After a failure the readout follows the figures on screen, not the
     // state the failure left.
@@ -583,11 +585,6 @@ void VentanaPrincipal::cmdCarCiclo_Click() {
 // The report window comes with the reports.
 void VentanaPrincipal::cmdInforme_Click() {
     visores_->VerInforme(txtInformeF1_);
-}
-
-std::array<QImage, 7> VentanaPrincipal::Imagenes() const {
-    return {pct1_->Imagen(),  pct2_->Imagen(),  pct3_->Imagen(), pctPV_->Imagen(),
-            pctTV_->Imagen(), pctTS_->Imagen(), pctHS_->Imagen()};
 }
 
 VentanaBaseDatos& VentanaPrincipal::BaseDatos() {

@@ -34,6 +34,7 @@ class QLabel;
 class QLineEdit;
 class QMenu;
 class QPushButton;
+class QTimer;
 
 namespace vanta {
 
@@ -81,6 +82,8 @@ public:
     const std::string& InformeF1() const { return txtInformeF1_; }
 
     Estado& estado() { return e_; }
+    // The report windows and their file dialogs.
+    VisoresInforme& Visores() { return *visores_; }
     Dialogos& dialogos() { return *dlg_; }
     Diagramas& diagramas() { return diagramas_; }
     SuperficieQt* pct1() const { return pct1_; }
@@ -155,6 +158,8 @@ public slots:
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void closeEvent(QCloseEvent* evento) override;
 
 private:
     void CrearControles();
@@ -189,6 +194,14 @@ private:
     void PresentacionInicial();
     // Shows the workflow's value: places, what is enabled, in view and marked.
     void Mostrar();
+    // The window on the desktop: its shortcuts, the names a screen reader
+    // reads, its remembered size; its places follow a new size at once and
+    // its pictures are drawn again at theirs when the size settles.
+    void PrepararEscritorio(bool tamanoRecordado);
+    void CrearAtajos();
+    void NombrarParaLectores();
+    void DistribuirEscritorio();
+    void DibujarAlTamano();
     void PonerInforme(const std::string& texto);
     void MostrarResultados(const TextosResultados& textos);
     // The inputs a stage window calculated with, kept for the next snapshot.
@@ -302,6 +315,13 @@ private:
     // While the last calculation failed: a copy of the state of the figures
     // on screen, which the readout works on.
     std::unique_ptr<Estado> estadoEnPantalla_;
+
+    // The view whose places the pictures on show were drawn in; how many of
+    // the composition charts the stage windows have drawn (1 to 3).
+    Vista vistaDibujada_ = Vista::General;
+    int graficasDibujadas_ = 0;
+    QTimer* redibujo_ = nullptr;
+    QAction* mnuSalir_ = nullptr;
 };
 
 }  // namespace vanta

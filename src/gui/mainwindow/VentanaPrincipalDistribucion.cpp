@@ -1,6 +1,6 @@
 // Where the controls of the main window stand: every one is placed in
-// proportion to the window's size at the moment of the call (the design is a
-// window filling a 1024 × 768 screen). Nothing follows a later resize.
+// proportion to the window's size (the design is a window filling a
+// 1024 × 768 screen), again whenever that size changes.
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -93,7 +93,6 @@ void VentanaPrincipal::Mostrar() {
     mnuTablasActual_->setEnabled(h.mnuTablasActual);
     // The figures of a calculation that failed are not those on screen.
     mnuExportarDiagramas_->setEnabled(h.mnuInforme && !f.intentoFallido);
-    mnuGuardarHTML_->setEnabled(!f.intentoFallido);
     cmdEnvBaseDatos_->setEnabled(h.mnuBDatos);
     mnuCalcular_->setEnabled(h.mnuCalcular);
     mnuVerTodo_->setEnabled(h.mnuVerTodo);
@@ -143,6 +142,7 @@ void VentanaPrincipal::Mostrar() {
     DistribuirEstadoActual();
     DistribuirConfianza();
     DistribuirIntentoFallido();
+    DistribuirEscritorio();
 }
 
 // The two buttons under the results share one letter, the largest that
@@ -193,9 +193,11 @@ void VentanaPrincipal::DistribuirTransformaciones() {
         const double desde = kTransReglaV[c], hasta = c + 1 < 4 ? kTransReglaV[c + 1] : kTransReglaHHasta;
         return std::pair{desde * w, (hasta - desde) * w};
     };
+    // Both edges rounded, so that neighbours meet and never overlap.
     auto celda = [&](QLabel* l, int c, double arriba) {
         const auto [x, ancho] = columna(c);
-        l->setGeometry(qRound(x), qRound(arriba * h), qRound(ancho), alto);
+        const int izquierda = qRound(x);
+        l->setGeometry(izquierda, qRound(arriba * h), qRound(x + ancho) - izquierda, alto);
     };
     celda(lblW12_, kColW, 0.2314);
     celda(lblG12_, kColGamma, 0.2);

@@ -12,6 +12,7 @@
 #include <QTextDocument>
 #include <algorithm>
 
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
@@ -41,7 +42,14 @@ QString DialogosArchivoQt::Mostrar(QWidget* padre, const DialogoArchivo& d, bool
     QFileDialog dialogo(padre);
     dialogo.setAcceptMode(guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogo.setFileMode(guardar ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialogo.setDirectory(carpeta_.isEmpty() ? QDir::currentPath() : carpeta_);
+    // Each kind of file (the first extension of its filters) opens where the
+    // last of its kind was saved or opened, in this run or an earlier one.
+    const QString clave = (guardar ? QStringLiteral("guardar-") : QStringLiteral("abrir-")) +
+                          (filtros.empty() ? QString() : ATexto(filtros.front().extension));
+    const QString recordada = CarpetaRecordada(clave);
+    dialogo.setDirectory(!recordada.isEmpty() ? recordada
+                         : carpeta_.isEmpty() ? QDir::currentPath()
+                                              : carpeta_);
     dialogo.setNameFilters(etiquetas);
     // A name typed without extension takes that of the filter in view.
     const auto alFiltrar = [&](const QString& etiqueta) {
@@ -59,6 +67,7 @@ QString DialogosArchivoQt::Mostrar(QWidget* padre, const DialogoArchivo& d, bool
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
     const QString nombre = dialogo.selectedFiles().constFirst();
     carpeta_ = QFileInfo(nombre).absolutePath();
+    RecordarCarpeta(clave, nombre);
     return nombre;
 }
 

@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 
 #include "gui/reports/VisoresInforme.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
@@ -20,12 +21,15 @@ VentanaInforme::VentanaInforme(VisoresInforme& visores, QWidget* padre)
       txtInforme_(CrearCaja("txtInforme")) {
     setObjectName(QStringLiteral("VentanaInforme"));
     txtInforme_->setReadOnly(true);
-    connect(Entrada("cmdGuardar", QStringLiteral("&Guardar como")), &QAction::triggered, this,
-            &VentanaInforme::cmdGuardar_Click);
+    CuidarVentana(this, QStringLiteral("informe"), kTamanoInforme, true);
+    QAction* guardar = Entrada("cmdGuardar", QStringLiteral("&Guardar como"));
+    guardar->setShortcuts(QKeySequence::Save);
+    connect(guardar, &QAction::triggered, this, &VentanaInforme::cmdGuardar_Click);
     connect(Entrada("mnuHTML", QStringLiteral("Guardar como página Web (*.html,*.htm)")), &QAction::triggered,
             this, &VentanaInforme::mnuHTML_Click);
-    connect(Entrada("mnuImprimir", QStringLiteral("Im&primir")), &QAction::triggered, this,
-            &VentanaInforme::mnuImprimir_Click);
+    QAction* imprimir = Entrada("mnuImprimir", QStringLiteral("Im&primir"));
+    imprimir->setShortcuts(QKeySequence::Print);
+    connect(imprimir, &QAction::triggered, this, &VentanaInforme::mnuImprimir_Click);
 }
 
 void VentanaInforme::PonerTexto(const std::string& texto) {

@@ -6,8 +6,8 @@
 #include <QUrl>
 
 #include "gui/reports/VisoresInforme.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
-
 namespace vanta {
 
 namespace {
@@ -36,6 +36,9 @@ VentanaMostrarInforme::VentanaMostrarInforme(VisoresInforme& visores, QWidget* p
       mnuAbrirWeb_(Entrada("mnuAbrirWeb", QStringLiteral("Abrir  informe &Web"))),
       mnuImprimir_(Entrada("mnuImprimir", QStringLiteral("&Imprimir"))) {
     setObjectName(QStringLiteral("VentanaMostrarInforme"));
+    CuidarVentana(this, QStringLiteral("abrirInforme"), kTamanoMostrar, true);
+    mnuAbrirTexto_->setShortcuts(QKeySequence::Open);
+    mnuImprimir_->setShortcuts(QKeySequence::Print);
     int x = kMargen;
     for (QPushButton* boton : {cmdAbriTexto_, cmdIE_}) {
         const int ancho = boton->sizeHint().width() + 2 * kMargen;

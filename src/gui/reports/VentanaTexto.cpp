@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "gui/reports/DialogosInforme.h"
+#include "gui/services/Escritorio.h"
 
 namespace vanta {
 
@@ -30,6 +31,7 @@ VentanaTexto::VentanaTexto(QWidget* padre, const QString& titulo, QSize tamano, 
 QPlainTextEdit* VentanaTexto::CrearCaja(const char* nombre) {
     caja_ = new QPlainTextEdit(interior_);
     caja_->setObjectName(QString::fromLatin1(nombre));
+    caja_->setAccessibleName(windowTitle());
     caja_->setFont(FuenteInforme());
     caja_->setLineWrapMode(QPlainTextEdit::NoWrap);
     caja_->setMouseTracking(true);
@@ -58,6 +60,12 @@ void VentanaTexto::AjustarCaja() {
 bool VentanaTexto::eventFilter(QObject* objeto, QEvent* evento) {
     if (evento->type() == QEvent::MouseMove) AjustarCaja();
     return QMainWindow::eventFilter(objeto, evento);
+}
+
+// The box also follows a resize at once, in the same proportions.
+void VentanaTexto::resizeEvent(QResizeEvent* evento) {
+    QMainWindow::resizeEvent(evento);
+    AjustarCaja();
 }
 
 void VentanaTexto::showEvent(QShowEvent* evento) {

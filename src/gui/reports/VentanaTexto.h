@@ -28,6 +28,7 @@ protected:
 
     bool eventFilter(QObject* objeto, QEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
 
 private:
     void AjustarCaja();

@@ -97,6 +97,8 @@ void CeldaCifra::Ajustar() {
     const bool cabe = ancho <= 0 || AjustarLetra(this, visible, ancho);
     setText(cabe ? cifra_ : QString::fromUtf8(kNoCabe));
     setToolTip(cabe ? QString() : visible);
+    // A screen reader reads the figure whole, whether it fits or not.
+    setAccessibleName(visible);
 }
 
 }  // namespace vanta

@@ -8,7 +8,20 @@
 
 namespace vanta {
 
+namespace {
+
+qreal RazonPantalla() {
+    const QScreen* pantalla = QGuiApplication::primaryScreen();
+    return pantalla ? pantalla->devicePixelRatio() : 1;
+}
+
+}  // namespace
+
+// The places of the overview, as the window has them after it opens.
 SuperficiesSinVentana::SuperficiesSinVentana(int W, int H)
+    : SuperficiesSinVentana(Form_Load({.W = W, .H = H}).lugar, RazonPantalla()) {}
+
+SuperficiesSinVentana::SuperficiesSinVentana(const Lugares& l, qreal dpr)
     : pct1(kFondoBlanco),
       pct2(kFondoBlanco),
       pct3(kFondoBlanco),
@@ -16,10 +29,7 @@ SuperficiesSinVentana::SuperficiesSinVentana(int W, int H)
       pctTV(kFondoBlanco),
       pctTS(kFondoGris),
       pctHS(kFondoGris) {
-    // The places of the overview, as the window has them after it opens.
-    const Lugares l = Form_Load({.W = W, .H = H}).lugar;
     const QScreen* pantalla = QGuiApplication::primaryScreen();
-    const qreal dpr = pantalla ? pantalla->devicePixelRatio() : 1;
     const int dpiX = pantalla ? qRound(pantalla->logicalDotsPerInchX()) : 96;
     const int dpiY = pantalla ? qRound(pantalla->logicalDotsPerInchY()) : 96;
     const QFont letra = LetraSuperficie(QGuiApplication::font());

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <array>
 
+#include "core/workflow/Distribucion.h"
 #include "gui/services/SuperficieImagen.h"
 
 namespace vanta {
@@ -14,6 +15,9 @@ namespace vanta {
 struct SuperficiesSinVentana {
     // Needs the application's screen and letter: a QGuiApplication made.
     SuperficiesSinVentana(int W = 1024, int H = 768);
+    // The boxes at the places given, one pixel a pixel of the picture
+    // whatever the screen's ratio (the pictures of the reports and records).
+    explicit SuperficiesSinVentana(const Lugares& l, qreal dpr = 1);
 
     SuperficieImagen pct1, pct2, pct3, pctPV, pctTV, pctTS, pctHS;
 

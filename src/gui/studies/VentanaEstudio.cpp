@@ -36,6 +36,7 @@
 #include "core/studies/TablaEstudio.h"
 #include "gui/reports/DialogosInforme.h"
 #include "gui/services/Controles.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
@@ -130,7 +131,9 @@ VentanaEstudio::VentanaEstudio(std::function<Entradas()> base, Dialogos& dlg, ch
     temporizador_ = new QTimer(this);
     temporizador_->setInterval(50);
     connect(temporizador_, &QTimer::timeout, this, &VentanaEstudio::Recoger);
-    resize(1000, 760);
+    CuidarVentana(this, QStringLiteral("estudio"), {1000, 760}, false);
+    RecordarOpciones(this, QStringLiteral("estudio"),
+                     {cboEntrada1_, txtValores1_, cboEntrada2_, txtValores2_, lstSalidas_, chkCsvEspanol_});
 }
 
 VentanaEstudio::~VentanaEstudio() {
@@ -161,10 +164,10 @@ void VentanaEstudio::CrearControles() {
     }
     txtValores1_ = NuevaCaja(marcoEntradas, "txtValores1", "");
     txtValores2_ = NuevaCaja(marcoEntradas, "txtValores2", "");
-    for (QLineEdit* caja : {txtValores1_, txtValores2_}) caja->setMinimumWidth(220);
+    for (QLineEdit* caja : {txtValores1_, txtValores2_}) caja->setMinimumWidth(100);
     for (QComboBox* lista : {cboEntrada1_, cboEntrada2_}) {
         lista->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        lista->setMinimumContentsLength(30);
+        lista->setMinimumContentsLength(12);
     }
     const char* ayuda = "INICIO:FIN:PASO (8:14:0.5) o una lista (0.8,0.9,1; Gasolina,Gasoil)";
     txtValores1_->setToolTip(QString::fromUtf8(ayuda));
@@ -196,7 +199,7 @@ void VentanaEstudio::CrearControles() {
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(std::string_view(s.nombre) == "rendimiento" ? Qt::Checked : Qt::Unchecked);
     }
-    lstSalidas_->setMinimumSize(340, 120);
+    lstSalidas_->setMinimumSize(180, 120);
     cajaSalidas->addWidget(lstSalidas_);
     fila->addWidget(marcoSalidas, 2);
     principal->addLayout(fila);

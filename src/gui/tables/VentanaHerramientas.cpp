@@ -12,6 +12,7 @@
 
 #include "core/properties/Especies.h"
 #include "gui/services/Controles.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 #include "gui/tables/VentanaTablas.h"
 
@@ -119,6 +120,7 @@ VentanaHerramientas::VentanaHerramientas(Estado& e, Dialogos& dlg, EnlacesHerram
     connect(optHumos_, &QRadioButton::clicked, this, &VentanaHerramientas::optHumos_Click);
     connect(cmdTablas_, &QPushButton::clicked, this, &VentanaHerramientas::cmdTablas_Click);
     connect(cmdTab_, &QPushButton::clicked, this, &VentanaHerramientas::cmdTab_Click);
+    NombrarControles(this);
 }
 
 VentanaHerramientas::~VentanaHerramientas() = default;

@@ -7,6 +7,7 @@
 
 #include "core/files/EscribirArchivos.h"
 #include "core/reports/ArchivosInforme.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
@@ -34,10 +35,13 @@ VentanaTablas::VentanaTablas(QWidget* padre, DialogosArchivo* archivos)
     setObjectName(QStringLiteral("VentanaTablas"));
     rtfTablas_ = CrearCaja("rtfTablas");
     rtfTablas_->setUndoRedoEnabled(false);
-    connect(Entrada("mnuGuardarComo", QStringLiteral("&Guardar como")), &QAction::triggered, this,
-            &VentanaTablas::mnuGuardarComo_Click);
-    connect(Entrada("mnuImprimir", QStringLiteral("&Imprimir")), &QAction::triggered, this,
-            &VentanaTablas::mnuImprimir_Click);
+    CuidarVentana(this, QStringLiteral("tablas"), kTamanoTablas, true);
+    QAction* guardar = Entrada("mnuGuardarComo", QStringLiteral("&Guardar como"));
+    guardar->setShortcuts(QKeySequence::Save);
+    connect(guardar, &QAction::triggered, this, &VentanaTablas::mnuGuardarComo_Click);
+    QAction* imprimir = Entrada("mnuImprimir", QStringLiteral("&Imprimir"));
+    imprimir->setShortcuts(QKeySequence::Print);
+    connect(imprimir, &QAction::triggered, this, &VentanaTablas::mnuImprimir_Click);
     desdeUltimoVaciado_.start();
 }
 

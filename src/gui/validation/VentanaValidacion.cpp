@@ -10,6 +10,7 @@
 #include <set>
 
 #include "core/services/Numeros.h"
+#include "gui/services/Escritorio.h"
 #include "gui/services/PuertosQt.h"
 
 namespace vanta {
@@ -41,6 +42,7 @@ QWidget* Pestana(const DescripcionGrupo& g, const TablaValidacion& t, QWidget* p
         if (f.grupo == g.grupo) filas.push_back(&f);
     auto* tabla = new QTableWidget(static_cast<int>(filas.size()), 6, pagina);
     tabla->setObjectName(QStringLiteral("lstComprobaciones"));
+    tabla->setAccessibleName(QStringLiteral("Comprobaciones"));
     tabla->setHorizontalHeaderLabels({QStringLiteral("Comprobación"), QStringLiteral("Programa"),
                                       QStringLiteral("Referencia"), QStringLiteral("Diferencia"),
                                       QStringLiteral("Tolerancia"), QStringLiteral("Resultado")});
@@ -123,7 +125,7 @@ VentanaValidacion::VentanaValidacion(char separador, QWidget* padre)
     capa->addWidget(cabecera);
     capa->addWidget(pestanas_, 1);
     capa->addWidget(botones);
-    resize(980, 620);
+    CuidarVentana(this, QStringLiteral("validacion"), {980, 620}, false);
 }
 
 QTableWidget* VentanaValidacion::Tabla(GrupoValidacion g) const {

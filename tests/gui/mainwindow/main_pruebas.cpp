@@ -1,6 +1,7 @@
 // The window tests: offscreen unless a platform is given, numbers with the C
 // library's point and the program's separator pinned to '.'.
 #include <QApplication>
+#include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
 #include <clocale>
@@ -19,6 +20,10 @@ std::vector<Fabrica>& Registro() {
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What the windows remember goes to a folder of this run: never the
+    // user's settings, and none left from an earlier run.
+    QTemporaryDir configuracion;
+    qputenv("XDG_CONFIG_HOME", configuracion.path().toLocal8Bit());
     QApplication aplicacion(argc, argv);
     QApplication::setApplicationName(vanta::NombrePrograma());
     std::setlocale(LC_NUMERIC, "C");

@@ -340,10 +340,10 @@ private slots:
               Caso{m, m->rtfMostrar(), kAjusteMostrarAlto, kAjusteMostrarAncho}}) {
             QVERIFY(QTest::qWaitForWindowExposed(caso.ventana));
             caso.ventana->resize(520, 430);
-            QTest::qWait(20);
             QWidget* interior = caso.ventana->centralWidget();
-            // No resize handler: the box keeps its size until the pointer moves.
-            QVERIFY(caso.caja->width() != qRound(interior->width() * caso.ancho));
+            // The box follows a resize at once, and the pointer keeps it there.
+            QTRY_COMPARE(caso.caja->size(), QSize(qRound(interior->width() * caso.ancho),
+                                                  qRound(interior->height() * caso.alto)));
             QTest::mouseMove(caso.ventana->windowHandle(),
                              interior->mapTo(caso.ventana, QPoint(2, interior->height() - 2)));
             QTRY_COMPARE(caso.caja->size(), QSize(qRound(interior->width() * caso.ancho),

@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -24,6 +25,7 @@
 #include "core/services/Numeros.h"
 #include "core/studies/TablaEstudio.h"
 #include "gui/reports/DialogosInforme.h"
+#include "gui/services/Escritorio.h"
 #include "gui/studies/VentanaEstudio.h"
 #include "tests/gui/mainwindow/Programa.h"
 #include "tests/gui/mainwindow/Pruebas.h"
@@ -77,6 +79,13 @@ class PruebaEstudio : public QObject {
     Q_OBJECT
 
 private slots:
+    // Each case from the window as it first opens, with nothing remembered.
+    void init() {
+        QSettings ajustes = Ajustes();
+        ajustes.remove(QStringLiteral("opciones"));
+        ajustes.remove(QStringLiteral("ventanas"));
+    }
+
     void seAbreDesdeHerramientasSobreElCalculoActual() {
         Programa p;
         QVERIFY(p.Etapa1() && p.Etapa2(QStringLiteral("Gasoil")) && p.Etapa3());
@@ -101,6 +110,9 @@ private slots:
 
     void calculaDibujaConHuecosYExporta() {
         EstudioAbierto v;
+        // Wider than the test screen of 800 pixels: the two plots side by
+        // side, whole, as on a screen of 1024.
+        v.f.setMinimumWidth(1000);
         v.base.rpm = "3000";
         v.Entradas("rc", "8, 0.5, 10, 12", "combustible", "Gasolina,Gasoil");
         v.Salidas({"rendimiento", "potencia"});
