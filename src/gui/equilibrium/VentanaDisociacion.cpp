@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QSplitter>
+#include <QStyle>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -114,6 +115,9 @@ VentanaDisociacion::VentanaDisociacion(QWidget* padre) : QWidget(padre, Qt::Wind
     auto* rejilla = new QGridLayout(diagramas);
     for (size_t i = 0; i < lienzos_.size(); ++i) {
         lienzos_[i] = new LienzoFigura(diagramas);
+        // Smaller than the comparison's, so that the table fits beside them
+        // on a screen of 1024 pixels.
+        lienzos_[i]->setMinimumSize(200, 150);
         rejilla->addWidget(lienzos_[i], static_cast<int>(i / 2), static_cast<int>(i % 2));
     }
     auto* lado = new QWidget(this);
@@ -131,13 +135,12 @@ VentanaDisociacion::VentanaDisociacion(QWidget* padre) : QWidget(padre, Qt::Wind
     columna->addWidget(lblIdeal_);
     columna->addWidget(lblEspecies_);
     columna->addWidget(especies_, 2);
-    auto* division = new QSplitter(this);
-    division->addWidget(diagramas);
-    division->addWidget(lado);
-    division->setStretchFactor(0, 1);
-    division->setStretchFactor(1, 1);
-    (new QVBoxLayout(this))->addWidget(division);
-    division->setSizes({700, 580});
+    division_ = new QSplitter(this);
+    division_->addWidget(diagramas);
+    division_->addWidget(lado);
+    division_->setStretchFactor(0, 1);
+    division_->setStretchFactor(1, 0);
+    (new QVBoxLayout(this))->addWidget(division_);
     CuidarVentana(this, QStringLiteral("disociacion"), {1280, 760}, true);
 }
 
@@ -170,6 +173,11 @@ void VentanaDisociacion::Mostrar(std::shared_ptr<const CalculoComparado> calculo
         }
     }
     tblCifras_->resizeColumnsToContents();
+    // The table whole beside the diagrams, which take the rest.
+    int ancho = tblCifras_->verticalHeader()->sizeHint().width() + 2 * tblCifras_->frameWidth() +
+                tblCifras_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    for (int k = 0; k < tblCifras_->columnCount(); ++k) ancho += tblCifras_->columnWidth(k);
+    tblCifras_->setMinimumWidth(ancho);
 
     QString ideal;
     if (const std::string r = equilibrio::RendimientoIdealTexto(e); !r.empty())

@@ -14,6 +14,7 @@
 #include "core/equilibrium/CicloEquilibrio.h"
 
 class QLabel;
+class QSplitter;
 class QTableWidget;
 
 namespace vanta {
@@ -55,6 +56,7 @@ public:
     GraficaEspecies* Especies() const { return especies_; }
 
 private:
+    QSplitter* division_ = nullptr;
     std::array<LienzoFigura*, 4> lienzos_{};
     QTableWidget* tblCifras_ = nullptr;
     QLabel* lblIdeal_ = nullptr;
