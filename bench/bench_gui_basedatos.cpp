@@ -64,7 +64,7 @@ void BM_AbrirNavegador(benchmark::State& estado) {
     QDir::setCurrent(Carpeta().path());
     DialogosGrabados dlg;
     for (auto _ : estado) {
-        VentanaBaseDatos f(dlg, [] { return std::string(); });
+        VentanaBaseDatos f(dlg);
         if (!f.Cargar()) estado.SkipWithError("no se abre");
         f.show();
         QApplication::processEvents();
@@ -78,7 +78,7 @@ void BM_SiguienteRegistro(benchmark::State& estado) {
     Aplicacion();
     QDir::setCurrent(Carpeta().path());
     DialogosGrabados dlg;
-    VentanaBaseDatos f(dlg, [] { return std::string(); });
+    VentanaBaseDatos f(dlg);
     if (!f.Cargar()) estado.SkipWithError("no se abre");
     f.show();
     QApplication::processEvents();

@@ -1,10 +1,13 @@
 #include "app/LineaEstudio.h"
 
+#include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <chrono>
 #include <filesystem>
 #include <ostream>
 #include <set>
+#include <span>
 
 #include "app/LineaCluster.h"
 #include "app/LineaComandos.h"
@@ -204,6 +207,55 @@ std::string NombresEntradas() {
     return t + linea;
 }
 
+// The outputs as the help names them: the states' series as p1…p5, those
+// that need the speed together.
+std::string NombresSalidas() {
+    const std::span<const SalidaEstudio> salidas = SalidasEstudio();
+    std::string t;
+    for (size_t i = 0; i < salidas.size(); ++i) {
+        const std::string n = salidas[i].nombre;
+        std::string nombre = n;
+        if (n.size() == 2 && std::isdigit(static_cast<unsigned char>(n[1]))) {
+            if (n[1] != '1') continue;
+            nombre = n + "…" + n[0] + "5";
+        } else if (salidas[i].conRegimen) {
+            while (i + 1 < salidas.size() && salidas[i + 1].conRegimen)
+                nombre += std::string(" y ") + salidas[++i].nombre;
+            nombre += " (con --rpm)";
+        }
+        t += (t.empty() ? "" : ", ") + nombre;
+    }
+    return t;
+}
+
+// The help's lines are at most this wide, in characters; a line that goes
+// on starts under the text of its option.
+constexpr size_t kAnchoAyuda = 99;
+constexpr size_t kSangriaAyuda = 22;
+
+size_t Caracteres(const std::string& s) {
+    return static_cast<size_t>(std::count_if(s.begin(), s.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+// The text in lines of at most `ancho` characters, broken between words.
+std::string Envolver(const std::string& texto, size_t ancho, size_t sangria) {
+    std::string t, linea;
+    size_t desde = 0;
+    while (desde < texto.size()) {
+        size_t hasta = texto.find(' ', desde + 1);
+        if (hasta == std::string::npos) hasta = texto.size();
+        const std::string palabra = texto.substr(desde, hasta - desde);
+        if (!linea.empty() && Caracteres(linea + palabra) > ancho) {
+            t += linea + "\n";
+            linea = std::string(sangria, ' ') + palabra.substr(1);
+        } else {
+            linea += palabra;
+        }
+        desde = hasta;
+    }
+    return t + linea + "\n";
+}
+
 }  // namespace
 
 std::string TextoUsoEstudio() {
@@ -223,12 +275,9 @@ std::string TextoUsoEstudio() {
            "       Las entradas: " +
            NombresEntradas() +
            ".\n"
-           "       Con dos, las filas recorren la primera para cada valor de la segunda.\n"
-           "  --salidas S1,S2,…   las cifras de cada punto (rendimiento): rendimiento, wciclo, qciclo, q23,\n"
-           "                      q34, w12, w34, w45, p1…p5, v1…v5, t1…t5, h1…h5, s1…s5, presion-maxima,\n"
-           "                      temperatura-maxima, consumo-kwh, consumo-mj, potencia y potencia-cv (con\n"
-           "                      --rpm), gamma-medio-compresion, gamma-medio-expansion, gamma1, gamma2,\n"
-           "                      gamma4, gamma5, masa-aire, masa-combustible\n"
+           "       Con dos, las filas recorren la primera para cada valor de la segunda.\n" +
+           Envolver("  --salidas S1,S2,…   las cifras de cada punto (rendimiento): " + NombresSalidas(),
+                    kAnchoAyuda, kSangriaAyuda) +
            "  --csv ARCHIVO|-     la tabla en CSV (RFC 4180), en el archivo o en la salida estándar (-, por\n"
            "                      defecto): una columna por entrada y por salida, con su unidad, y los "
            "mensajes\n"
