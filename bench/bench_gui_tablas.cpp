@@ -9,9 +9,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <clocale>
-#include <memory>
 
-#include "app/LineaComandos.h"
+#include "core/sequence/Calculo.h"
 #include "core/services/Numeros.h"
 #include "core/tables/TablasPropiedades.h"
 #include "gui/tables/VentanaHerramientas.h"
@@ -21,25 +20,27 @@ namespace {
 
 using namespace vanta;
 
+// The application lives as long as the process: destroyed among the static
+// objects at exit, after Qt's own, it would crash the run that went well.
 QApplication& Aplicacion() {
     static int argc = 1;
     static char nombre[] = "bench_gui_tablas";
     static char* argv[] = {nombre, nullptr};
-    static std::unique_ptr<QApplication> app = [] {
+    static QApplication* app = [] {
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-        auto a = std::make_unique<QApplication>(argc, argv);
+        auto* a = new QApplication(argc, argv);
         std::setlocale(LC_NUMERIC, "C");
-
         return a;
     }();
     return *app;
 }
 
-void FluidoDeLasPantallas(Estado& e, Dialogos& dlg) {
-    SuperficieNula pct1, pct2, pct3;
-    DiagramasNulos d;
-    SuperficiesCalculo s{pct1, pct2, pct3, d.Todos()};
-    DefinirFluido(e, *cli::ParsearCalcular({}).opciones, dlg, s, true);
+// The air, the fuel and the combustion as the screens start.
+void FluidoDeLasPantallas(Estado& e) {
+    SuperficiesNulas nulas;
+    SuperficiesCalculo s = nulas.Todas();
+    Mensajes msj;
+    DefinirFluido(e, msj, Entradas(), s, true);
 }
 
 constexpr int kFilas = 47001;
@@ -48,7 +49,7 @@ void BM_TablaAireEnElVisor(benchmark::State& estado) {
     Aplicacion();
     Estado e;
     DialogosGrabados dlg;
-    FluidoDeLasPantallas(e, dlg);
+    FluidoDeLasPantallas(e);
     VentanaHerramientas f(e, dlg, {});
     f.MostrarCicloActual();
     f.findChild<QLineEdit*>(QStringLiteral("txtAT"))->setText(QStringLiteral("0.1"));
@@ -65,22 +66,15 @@ BENCHMARK(BM_TablaAireEnElVisor)->Unit(benchmark::kMillisecond)->MinTime(3);
 
 void BM_TablaAireComoTexto(benchmark::State& estado) {
     Estado e;
-    DialogosGrabados dlg;
-    FluidoDeLasPantallas(e, dlg);
-    CajaTextoSimple at("0.1"), ti(kTextoTinicial), tf(kTextoTfinal), cbo(kTextoElegir);
-    InterruptorSimple mol(true), kg(false), aire(true), humos(false);
-    ControlesHerramientas c{.txtAT = at,
-                            .txtTinicial = ti,
-                            .txtTfinal = tf,
-                            .optMol = mol,
-                            .optKg = kg,
-                            .optAire = aire,
-                            .optHumos = humos,
-                            .cboElemento = cbo};
+    FluidoDeLasPantallas(e);
+    EntradasHerramientas c;
+    c.incremento = "0.1";
+    c.porMol = c.aire = true;
     MiembrosHerramientas m;
+    Mensajes msj;
     for (auto _ : estado) {
         VisorTablasTexto v;
-        cmdTablas_Click(e, dlg, c, m, v, "Gasolina");
+        cmdTablas_Click(e, msj, c, m, v, "Gasolina");
         benchmark::DoNotOptimize(v.texto.data());
     }
 }
