@@ -277,4 +277,42 @@ void NuevoTamano(Flujo& f, const TamanoVentana& ventana) {
     ColocarCambiarTamaño(l, ventana);
 }
 
+BanderasNombradas PorNombre(const Habilitados& h) {
+    return {{"cmdElegirComburente", h.cmdElegirComburente},
+            {"cmdCombustible", h.cmdCombustible},
+            {"cmdCarCombustion", h.cmdCarCombustion},
+            {"cmdCarCiclo", h.cmdCarCiclo},
+            {"mnuInforme", h.mnuInforme},
+            {"mnuBDatos", h.mnuBDatos},
+            {"mnuGuardar", h.mnuGuardar},
+            {"mnuTablasActual", h.mnuTablasActual},
+            {"mnuCalcular", h.mnuCalcular},
+            {"mnuVerTodo", h.mnuVerTodo},
+            {"mnuVerCiclo", h.mnuVerCiclo}};
+}
+
+BanderasNombradas PorNombre(const Visibles& v) {
+    return {{"imgPresentacion", v.imgPresentacion},
+            {"fraBotonera", v.fraBotonera},
+            {"pct1", v.pct1},
+            {"pct2", v.pct2},
+            {"pct3", v.pct3},
+            {"pctPV", v.pctPV},
+            {"pctTV", v.pctTV},
+            {"pctTS", v.pctTS},
+            {"pctHS", v.pctHS},
+            {"fraPuntos", v.fraPuntos},
+            {"fraTransformaciones", v.fraTransformaciones},
+            {"fraPotencia", v.fraPotencia},
+            {"fraEstadoActual", v.fraEstadoActual},
+            {"cmdInforme", v.cmdInforme},
+            {"cmdEnvBaseDatos", v.cmdEnvBaseDatos},
+            {"chkVerHs", v.chkVerHs}};
+}
+
+BanderasNombradas PorNombre(const Marcas& m) {
+    return {{"mnuVerTodo", m.mnuVerTodo}, {"mnuPV", m.mnuPV}, {"mnuTV", m.mnuTV},
+            {"mnuTS", m.mnuTS},           {"mnuHS", m.mnuHS}, {"chkVerHs", m.chkVerHs}};
+}
+
 }  // namespace vanta

@@ -170,4 +170,11 @@ inline bool EtapaCicloAbierta(const Flujo& f) {
     return f.habilitado.cmdCarCiclo;
 }
 
+// Each flag by the name of the control it governs, in the order of its
+// struct: what the window shows, and what the tests compare.
+using BanderasNombradas = std::vector<std::pair<const char*, bool>>;
+BanderasNombradas PorNombre(const Habilitados& h);
+BanderasNombradas PorNombre(const Visibles& v);
+BanderasNombradas PorNombre(const Marcas& m);
+
 }  // namespace vanta

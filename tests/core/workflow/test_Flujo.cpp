@@ -16,7 +16,7 @@ using namespace vanta::pruebas;
 
 namespace {
 
-std::string Nombres(std::initializer_list<std::pair<const char*, bool>> campos) {
+std::string Nombres(const BanderasNombradas& campos) {
     std::string s;
     for (auto [nombre, si] : campos)
         if (si) s += std::string(s.empty() ? "" : " ") + nombre;
@@ -34,45 +34,9 @@ std::string Volcado(const Flujo& f) {
     std::string s = std::string("  etapa ") + etapas[static_cast<int>(f.etapa)] + ", vista " +
                     vistas[static_cast<int>(f.vista)] + ", encima " + diagramas[static_cast<int>(f.encima)] +
                     "\n";
-    s += "  habilitados: " +
-         Nombres({{"cmdElegirComburente", h.cmdElegirComburente},
-                  {"cmdCombustible", h.cmdCombustible},
-                  {"cmdCarCombustion", h.cmdCarCombustion},
-                  {"cmdCarCiclo", h.cmdCarCiclo},
-                  {"mnuInforme", h.mnuInforme},
-                  {"mnuBDatos", h.mnuBDatos},
-                  {"mnuGuardar", h.mnuGuardar},
-                  {"mnuTablasActual", h.mnuTablasActual},
-                  {"mnuCalcular", h.mnuCalcular},
-                  {"mnuVerTodo", h.mnuVerTodo},
-                  {"mnuVerCiclo", h.mnuVerCiclo}}) +
-         "\n";
-    s += "  visibles: " +
-         Nombres({{"imgPresentacion", v.imgPresentacion},
-                  {"fraBotonera", v.fraBotonera},
-                  {"pct1", v.pct1},
-                  {"pct2", v.pct2},
-                  {"pct3", v.pct3},
-                  {"pctPV", v.pctPV},
-                  {"pctTV", v.pctTV},
-                  {"pctTS", v.pctTS},
-                  {"pctHS", v.pctHS},
-                  {"fraPuntos", v.fraPuntos},
-                  {"fraTransformaciones", v.fraTransformaciones},
-                  {"fraPotencia", v.fraPotencia},
-                  {"fraEstadoActual", v.fraEstadoActual},
-                  {"cmdInforme", v.cmdInforme},
-                  {"cmdEnvBaseDatos", v.cmdEnvBaseDatos},
-                  {"chkVerHs", v.chkVerHs}}) +
-         "\n";
-    s += "  marcas: " +
-         Nombres({{"mnuVerTodo", m.mnuVerTodo},
-                  {"mnuPV", m.mnuPV},
-                  {"mnuTV", m.mnuTV},
-                  {"mnuTS", m.mnuTS},
-                  {"mnuHS", m.mnuHS},
-                  {"chkVerHs", m.chkVerHs}}) +
-         "\n  lugares:";
+    s += "  habilitados: " + Nombres(PorNombre(h)) + "\n";
+    s += "  visibles: " + Nombres(PorNombre(v)) + "\n";
+    s += "  marcas: " + Nombres(PorNombre(m)) + "\n  lugares:";
     const Lugares& l = f.lugar;
     const std::pair<const char*, const Lugar*> lugares[] = {{"pct1", &l.pct1},
                                                             {"pct2", &l.pct2},

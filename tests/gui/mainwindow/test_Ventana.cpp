@@ -28,43 +28,13 @@ QString Diferencias(Programa& p) {
     auto ver = [&](const char* nombre, bool esperado, bool visto) {
         if (esperado != visto) d += QStringLiteral(" %1=%2").arg(QLatin1String(nombre)).arg(visto);
     };
-    const Visibles& v = f.visible;
-    const std::pair<const char*, bool> visibles[] = {{"imgPresentacion", v.imgPresentacion},
-                                                     {"fraBotonera", v.fraBotonera},
-                                                     {"pct1", v.pct1},
-                                                     {"pct2", v.pct2},
-                                                     {"pct3", v.pct3},
-                                                     {"pctPV", v.pctPV},
-                                                     {"pctTV", v.pctTV},
-                                                     {"pctTS", v.pctTS},
-                                                     {"pctHS", v.pctHS},
-                                                     {"fraPuntos", v.fraPuntos},
-                                                     {"fraTransformaciones", v.fraTransformaciones},
-                                                     {"fraPotencia", v.fraPotencia},
-                                                     {"fraEstadoActual", v.fraEstadoActual},
-                                                     {"cmdInforme", v.cmdInforme},
-                                                     {"cmdEnvBaseDatos", v.cmdEnvBaseDatos},
-                                                     {"chkVerHs", v.chkVerHs}};
-    for (auto [nombre, visible] : visibles) ver(nombre, visible, !p.Control(nombre)->isHidden());
-    const Habilitados& h = f.habilitado;
-    const std::pair<const char*, bool> botones[] = {{"cmdElegirComburente", h.cmdElegirComburente},
-                                                    {"cmdCombustible", h.cmdCombustible},
-                                                    {"cmdCarCombustion", h.cmdCarCombustion},
-                                                    {"cmdCarCiclo", h.cmdCarCiclo}};
-    for (auto [nombre, habilitado] : botones) ver(nombre, habilitado, p.Boton(nombre)->isEnabled());
-    const std::pair<const char*, bool> menus[] = {
-        {"mnuInforme", h.mnuInforme},           {"mnuBDatos", h.mnuBDatos},     {"mnuGuardar", h.mnuGuardar},
-        {"mnuTablasActual", h.mnuTablasActual}, {"mnuCalcular", h.mnuCalcular}, {"mnuVerTodo", h.mnuVerTodo},
-        {"mnuVerCiclo", h.mnuVerCiclo}};
-    for (auto [nombre, habilitado] : menus) ver(nombre, habilitado, p.Menu(nombre)->isEnabled());
-    const Marcas& m = f.marcado;
-    const std::pair<const char*, bool> marcas[] = {{"mnuVerTodo", m.mnuVerTodo},
-                                                   {"mnuPV", m.mnuPV},
-                                                   {"mnuTV", m.mnuTV},
-                                                   {"mnuTS", m.mnuTS},
-                                                   {"mnuHS", m.mnuHS}};
-    for (auto [nombre, marcada] : marcas) ver(nombre, marcada, p.Menu(nombre)->isChecked());
-    ver("chkVerHs marcada", m.chkVerHs, Hijo<QCheckBox>(&p.f, "chkVerHs")->isChecked());
+    for (auto [nombre, visible] : PorNombre(f.visible)) ver(nombre, visible, !p.Control(nombre)->isHidden());
+    for (auto [nombre, habilitado] : PorNombre(f.habilitado))
+        ver(nombre, habilitado,
+            nombre[0] == 'c' ? p.Boton(nombre)->isEnabled() : p.Menu(nombre)->isEnabled());
+    for (auto [nombre, marcada] : PorNombre(f.marcado))
+        ver(nombre, marcada,
+            nombre[0] == 'c' ? Hijo<QCheckBox>(&p.f, nombre)->isChecked() : p.Menu(nombre)->isChecked());
     const Lugares& l = f.lugar;
     const std::pair<const char*, const Lugar*> lugares[] = {{"pct1", &l.pct1},
                                                             {"pct2", &l.pct2},
