@@ -16,22 +16,6 @@ struct PuntoCiclo {
     double V, p, T, h, s;
 };
 
-// The enthalpy of a mixture without that of the formation of its gases: the
-// program's gases carry no chemical energy, their heat of combustion is
-// added as heat.
-double EntalpiaSensible(const Mezcla& m) {
-    static const Moles formacion = [] {
-        PropiedadesGases g;
-        EvaluarGases(kTemperaturaFormacion, g);
-        Moles h{};
-        for (int j = 0; j < kGases; ++j) h[j] = g.h[j] * kR * kTemperaturaFormacion;
-        return h;
-    }();
-    double H = m.H;
-    for (int j = 0; j < kGases; ++j) H -= m.n[j] * formacion[j];
-    return H;
-}
-
 // The program's state 2 and the equilibrium's, to carry h and s across.
 struct Escalas {
     double h2, s2;        // the program's, J/mol and J/(mol·K)
@@ -66,6 +50,19 @@ std::vector<PuntoCiclo> Recorrido(const Estado& e, const CicloEquilibrio& c, boo
 }
 
 }  // namespace
+
+double EntalpiaSensible(const Mezcla& m) {
+    static const Moles formacion = [] {
+        PropiedadesGases g;
+        EvaluarGases(kTemperaturaFormacion, g);
+        Moles h{};
+        for (int j = 0; j < kGases; ++j) h[j] = g.h[j] * kR * kTemperaturaFormacion;
+        return h;
+    }();
+    double H = m.H;
+    for (int j = 0; j < kGases; ++j) H -= m.n[j] * formacion[j];
+    return H;
+}
 
 CurvasCiclo CurvasDisociacion(const Estado& e, const CicloEquilibrio& c, bool equilibrio, int32_t color) {
     CurvasCiclo curvas;

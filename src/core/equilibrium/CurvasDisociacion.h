@@ -18,6 +18,11 @@ namespace vanta::equilibrio {
 // Points of the expansion's isentrope between 4 and 5.
 inline constexpr int kPuntosExpansion = 40;
 
+// The enthalpy of a mixture without that of the formation of its gases (J),
+// zero at 298.15 K: the program's gases carry no chemical energy, their heat
+// of combustion is added as heat.
+double EntalpiaSensible(const Mezcla& m);
+
 // The curves of a cycle that ended well, in the units of the state, with the
 // colour given; equilibrio: the cycle in equilibrium (else its products are
 // those of complete combustion, held along the expansion).

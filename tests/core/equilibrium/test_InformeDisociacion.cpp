@@ -94,3 +94,13 @@ TEST(CurvasDisociacion, ParteDelEstado2YVuelveAl1EnLaEscalaDelPrograma) {
     EXPECT_TRUE(
         CurvasDisociacion(e, CicloConDisociacion(Estado()).equilibrio, true, 0).De(Diagrama::PV).empty());
 }
+
+TEST(CurvasDisociacion, LaEntalpiaSensibleEmpiezaA29815K) {
+    Moles n{};
+    n[CO2] = 1, n[H2O] = 2, n[OH] = 0.1, n[NO] = 0.05, n[N2] = 7;
+    EXPECT_NEAR(EntalpiaSensible(Evaluar(n, 298.15, 1e5, true)), 0, 1e-6);
+    // N2 from 298.15 to 1000 K: 21.460 kJ/mol in the NIST-JANAF tables.
+    Moles nitrogeno{};
+    nitrogeno[N2] = 1;
+    EXPECT_NEAR(EntalpiaSensible(Evaluar(nitrogeno, 1000, 1e5, true)), 21460, 30);
+}
