@@ -55,6 +55,8 @@ EMSCRIPTEN_BINDINGS(vanta) {
     using vanta::web::EstudioWeb;
     function("entradas", &vanta::web::EntradasJSON);
     function("comparar", &Comparar);
+    function("disociacion", &vanta::web::DisociacionJSON);
+    function("casillaDisociacion", &vanta::web::CasillaDisociacion);
     function("validacion", &vanta::web::ValidacionJSON);
     class_<Calculadora>("Calculadora")
         .constructor<>()

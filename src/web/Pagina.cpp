@@ -11,6 +11,8 @@
 #include "core/cycle/Ciclo.h"
 #include "core/cycle/DibujoDiagramas.h"
 #include "core/diagrams/LecturaRaton.h"
+#include "core/equilibrium/CurvasDisociacion.h"
+#include "core/equilibrium/InformeDisociacion.h"
 #include "core/reports/ArchivosInforme.h"
 #include "core/reports/Informes.h"
 #include "core/services/JSON.h"
@@ -460,6 +462,35 @@ namespace {
 constexpr int kAnchoFigura = 560, kAltoFigura = 420;
 constexpr float kLetraFigura = 12;
 }  // namespace
+
+std::string DisociacionJSON(const std::string& lineas) {
+    OpcionesCalculo o;
+    if (const std::string error = ComprobarEntradas(lineas, o); !error.empty())
+        return Objeto().Logico("bien", false).Texto("mensaje", error).Cerrar();
+    const CalculoComparado c = CalcularComparado(kCalculoActual, o);
+    if (!c.Hay()) return Objeto().Logico("bien", false).Texto("mensaje", c.mensaje).Cerrar();
+    const equilibrio::CiclosConDisociacion ciclos = equilibrio::CicloConDisociacion(*c.estado);
+    const CurvasCiclo curvas =
+        equilibrio::CurvasDisociacion(*c.estado, ciclos.equilibrio, true, ColorComparacion(1));
+    const std::vector<SerieFigura> series = {
+        {c.nombre, &c.curvas, c.estado.get(), true, ColorComparacion(0)},
+        {equilibrio::kSerieEquilibrio, &curvas, nullptr, true, ColorComparacion(1), true}};
+    std::vector<std::string> figuras;
+    for (Diagrama d : {Diagrama::PV, Diagrama::TV, Diagrama::TS, Diagrama::HS}) {
+        SuperficieSVG s(kAnchoFigura, kAltoFigura, kFondoBlanco, kLetraFigura);
+        DibujarFigura(s, kAnchoFigura, kAltoFigura, d, series, {});
+        figuras.push_back(s.SVG());
+    }
+    return Objeto()
+        .Logico("bien", true)
+        .Texto("texto", equilibrio::TextoDisociacion(*c.estado, ciclos, "\n"))
+        .Crudo("figuras", Textos(figuras))
+        .Cerrar();
+}
+
+std::string CasillaDisociacion() {
+    return equilibrio::kCasillaDisociacion;
+}
 
 std::string CompararJSON(const std::vector<std::pair<std::string, std::string>>& calculos, bool enBar) {
     std::vector<CalculoComparado> comparados;

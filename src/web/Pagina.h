@@ -101,6 +101,14 @@ private:
 // Up to six calculations by name and input lines, on common axes: JSON with
 // the four figures as SVG ("figuras"), the table of figures ("tabla") and the
 // message of each that gives no calculation ("calculos").
+// The cycle with dissociation of the inputs given, beside the program's:
+// "bien", "mensaje" (why not), "texto" (the section `vanta calcular
+// --disociacion` writes after the report, lines ended by "\n") and the four
+// diagrams with both cycles as SVG in "figuras".
+std::string DisociacionJSON(const std::string& lineas);
+// The caption of the check box that asks for it.
+std::string CasillaDisociacion();
+
 std::string CompararJSON(const std::vector<std::pair<std::string, std::string>>& calculos, bool enBar);
 
 // The validation tables: the groups with their titles and explanations, and

@@ -351,6 +351,18 @@ comprobar('el informe y la página HTML con sus imágenes se descargan como los 
   }
 });
 
+comprobar('con disociación, la sección de vanta calcular --disociacion y los cuatro diagramas, desde la dirección', async () => {
+  const caso = 'ciclo=Mixto&combustible=Gasoil&rc=18';
+  await abrir(`${caso}&disociacion=1`);
+  const salida = calcular(caso, '--disociacion').salida.replace(/\r\n/g, '\n');
+  igual(await texto(pagina, '#informe-disociacion'), salida.slice(salida.indexOf('CICLO CON DISOCIACIÓN')), 'la sección');
+  cierto((await pagina.$$('#diagramas-disociacion svg')).length === 4, 'los cuatro diagramas');
+  cierto((await texto(pagina, '#mensajes')) === '', 'la dirección no trae nada desconocido');
+  await pagina.click('#disociacion');
+  cierto(await pagina.$eval('#resultado-disociacion', (e) => e.hidden), 'sin la casilla, nada');
+  cierto(!new URL(pagina.url()).searchParams.has('disociacion'), 'ni en la dirección');
+});
+
 comprobar('la validación es la de vanta validar', async () => {
   await abrir('');
   await pagina.evaluate(() => { location.hash = '#validacion'; });

@@ -25,6 +25,9 @@
 
 namespace vanta {
 
+// The name of the calculation on screen beside saved ones.
+inline constexpr const char* kCalculoActual = "Cálculo actual";
+
 struct CalculoComparado {
     std::string nombre;
     OpcionesCalculo entradas;

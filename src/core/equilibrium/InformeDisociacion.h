@@ -14,6 +14,10 @@
 namespace vanta::equilibrio {
 
 inline constexpr const char* kTituloDisociacion = "CICLO CON DISOCIACIÓN (EQUILIBRIO QUÍMICO)";
+// The check box that asks for it with each calculation, and the name of its
+// cycle on the diagrams.
+inline constexpr const char* kCasillaDisociacion = "Calcular también con disociación (equilibrio químico)";
+inline constexpr const char* kSerieEquilibrio = "Equilibrio químico";
 inline constexpr const char* kTextoRendimientoIdeal =
     "Rendimiento del ciclo ideal de aire estándar (gamma 1.4): ";
 inline constexpr const char* kColumnasDisociacion[3] = {"Programa", "Sin disociación", "Equilibrio"};

@@ -14,6 +14,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "core/equilibrium/InformeDisociacion.h"
 #include "gui/resources/Dibujos.h"
 #include "gui/services/Controles.h"
 #include "gui/services/EnlaceEntradas.h"
@@ -110,8 +111,7 @@ VentanaCiclo::~VentanaCiclo() = default;
 
 void VentanaCiclo::CrearControles() {
     chkOcultar_ = NuevaCasilla(this, "chkOcultar", kOcultarAutomaticamente, true);
-    chkDisociacion_ =
-        NuevaCasilla(this, "chkDisociacion", "Calcular también con disociación (equilibrio químico)", false);
+    chkDisociacion_ = NuevaCasilla(this, "chkDisociacion", equilibrio::kCasillaDisociacion, false);
 
     fraDTecnicos_ = NuevoMarco(this, "fraDTecnicos", "Datos técnicos del motor");
     txtCilindrada_ = NuevaCajaEntrada(fraDTecnicos_, "cilindrada");

@@ -24,7 +24,6 @@ namespace vanta {
 namespace {
 
 constexpr const char* kTitulo = "Combustión con disociación";
-constexpr const char* kNombreEquilibrio = "Equilibrio químico";
 // A species of at least this share is drawn on the linear scale.
 constexpr double kFraccionPrincipal = 0.01;
 // The logarithmic scale's decades: 1E-06 to 1E-02.
@@ -150,7 +149,8 @@ void VentanaDisociacion::Mostrar(std::shared_ptr<const CalculoComparado> calculo
     const char sep = e.SeparadorDecimal;
     auto superpuesta = std::make_shared<Superpuesta>();
     superpuesta->curvas = equilibrio::CurvasDisociacion(e, ciclos->equilibrio, true, ColorComparacion(1));
-    superpuesta->serie = {kNombreEquilibrio, &superpuesta->curvas, nullptr, true, ColorComparacion(1), true};
+    superpuesta->serie = {
+        equilibrio::kSerieEquilibrio, &superpuesta->curvas, nullptr, true, ColorComparacion(1), true};
     const std::shared_ptr<const SerieFigura> serie(superpuesta, &superpuesta->serie);
     for (Diagrama d : {Diagrama::PV, Diagrama::TV, Diagrama::TS, Diagrama::HS})
         Lienzo(d)->PonerFigura(FiguraDiagramaSuperpuesto(d, calculo, serie, sep));

@@ -834,7 +834,7 @@ void VentanaPrincipal::AbrirAyuda() {
 void VentanaPrincipal::mnuExportarDiagramas_Click() {
     if (!calculo_) return;
     const auto calculo = std::make_shared<const std::vector<CalculoComparado>>(
-        1, CalculoDeResultado("Cálculo actual", *calculo_));
+        1, CalculoDeResultado(kCalculoActual, *calculo_));
     if (!calculo->front().Hay()) {
         dlg_->MsgBox(calculo->front().mensaje);
         return;
@@ -854,7 +854,7 @@ void VentanaPrincipal::mnuExportarDiagramas_Click() {
 
 void VentanaPrincipal::mnuComparar_Click() {
     std::optional<CalculoComparado> actual;
-    if (flujo_.habilitado.mnuInforme && calculo_) actual = CalculoDeResultado("Cálculo actual", *calculo_);
+    if (flujo_.habilitado.mnuInforme && calculo_) actual = CalculoDeResultado(kCalculoActual, *calculo_);
     VentanaBaseDatos& b = BaseDatos();
     Comparar(this, b.Cargar() ? b.Almacen() : nullptr, std::move(actual), -1, e_.SeparadorDecimal, *dlg_);
 }
@@ -870,7 +870,7 @@ const equilibrio::CiclosConDisociacion& VentanaPrincipal::Disociacion() {
 
 void VentanaPrincipal::mnuDisociacion_Click() {
     if (!calculo_) return;
-    auto calculo = std::make_shared<const CalculoComparado>(CalculoDeResultado("Cálculo actual", *calculo_));
+    auto calculo = std::make_shared<const CalculoComparado>(CalculoDeResultado(kCalculoActual, *calculo_));
     if (!calculo->Hay()) {
         dlg_->MsgBox(calculo->mensaje);
         return;

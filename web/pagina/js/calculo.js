@@ -150,8 +150,13 @@ function ponerValores(valores) {
 
 // ---- Calculating ------------------------------------------------------------------
 
+// The check box of the cycle with dissociation rides in the address under
+// the command line's name of its option.
+const kDisociacion = 'disociacion';
+
 function actualizarDireccion(valores) {
-  const busqueda = direccionDe(valores);
+  const conDisociacion = document.getElementById(kDisociacion).checked;
+  const busqueda = direccionDe(conDisociacion ? { ...valores, [kDisociacion]: '1' } : valores);
   const url = location.pathname + (busqueda ? `?${busqueda}` : '') + location.hash;
   try { history.replaceState(null, '', url); } catch (e) { /* a browser that keeps file addresses fixed */ }
 }
@@ -201,8 +206,21 @@ function mostrarResultado(r, avisosDireccion) {
   mostrarTablas(r);
   mostrarAvisos(r);
   document.getElementById('informe').textContent = r.bien ? r.informe : '';
+  mostrarDisociacion(r);
   ponerJSONDespues();
   for (const id of ['descargar-informe', 'descargar-pagina', 'anadir-comparacion']) document.getElementById(id).disabled = !r.bien;
+}
+
+// The cycle in equilibrium beside the program's, when the box asks for it:
+// its four diagrams and the section `vanta calcular --disociacion` writes.
+function mostrarDisociacion(r) {
+  const caja = document.getElementById('resultado-disociacion');
+  caja.hidden = !(r.bien && document.getElementById(kDisociacion).checked);
+  if (caja.hidden) return;
+  const d = JSON.parse(Vanta.modulo.disociacion(lineasDe(Calculo.valores)));
+  document.getElementById('informe-disociacion').textContent = d.bien ? d.texto : d.mensaje;
+  const diagramas = document.getElementById('diagramas-disociacion');
+  diagramas.replaceChildren(...(d.bien ? d.figuras : []).map((svg) => { const f = el('div', { class: 'imagen' }); f.innerHTML = svg; return f; }));
 }
 
 function mostrarTablas(r) {
@@ -307,6 +325,11 @@ function empezarCalculo() {
   construirFormularios();
   prepararLectura();
   const { valores, desconocidas } = leerDireccion(location.search);
+  const casilla = document.getElementById(kDisociacion);
+  document.getElementById('texto-disociacion').textContent = Vanta.modulo.casillaDisociacion();
+  casilla.checked = desconocidas.includes(kDisociacion);
+  desconocidas.splice(0, desconocidas.length, ...desconocidas.filter((n) => n !== kDisociacion));
+  casilla.addEventListener('change', () => { actualizarDireccion(Calculo.valores); mostrarDisociacion(Calculo.ultimo); });
   ponerValores(valores);
   const avisos = desconocidas.map((n) => `La dirección trae «${n}», que no es una entrada del cálculo: no se tiene en cuenta.`);
   calcular(valoresDados(), avisos, false);
