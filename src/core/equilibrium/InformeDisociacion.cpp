@@ -48,7 +48,7 @@ const DefinicionFila kFilas[] = {
      [](const CicloEquilibrio& c) { return c.trabajo; }},
     {"Rendimiento (%)", kMascaraPorcentaje, [](const Estado& e) { return e.Rendimiento * kPorCiento; },
      [](const CicloEquilibrio& c) { return c.rendimiento * kPorCiento; }},
-    {"NO al final de la combustión (ppm)", kMascaraPpm, nullptr,
+    {"NO en 4 (ppm)", kMascaraPpm, nullptr,
      [](const CicloEquilibrio& c) { return c.estado4.Fraccion(NO) * kPartesPorMillon; }},
 };
 

@@ -55,7 +55,7 @@ struct Superpuesta {
 // ---- GraficaEspecies ------------------------------------------------------------
 
 GraficaEspecies::GraficaEspecies(QWidget* padre) : QWidget(padre) {
-    setMinimumSize(320, 220);
+    setMinimumSize(240, 160);
 }
 
 void GraficaEspecies::PonerMezcla(const equilibrio::Mezcla& m, char separador) {
@@ -116,7 +116,7 @@ VentanaDisociacion::VentanaDisociacion(QWidget* padre) : QWidget(padre, Qt::Wind
         lienzos_[i] = new LienzoFigura(diagramas);
         // Smaller than the comparison's, so that the table fits beside them
         // on a screen of 1024 pixels.
-        lienzos_[i]->setMinimumSize(200, 150);
+        lienzos_[i]->setMinimumSize(180, 140);
         rejilla->addWidget(lienzos_[i], static_cast<int>(i / 2), static_cast<int>(i % 2));
     }
     auto* lado = new QWidget(this);
@@ -125,9 +125,11 @@ VentanaDisociacion::VentanaDisociacion(QWidget* padre) : QWidget(padre, Qt::Wind
     tblCifras_->setObjectName(QStringLiteral("tblCifras"));
     tblCifras_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tblCifras_->setAccessibleName(QString::fromUtf8("Cifras de los tres modelos"));
+
     lblIdeal_ = new QLabel(lado);
     lblIdeal_->setWordWrap(true);
     lblEspecies_ = new QLabel(lado);
+    lblEspecies_->setWordWrap(true);
     especies_ = new GraficaEspecies(lado);
     especies_->setAccessibleName(QString::fromUtf8("Composición en equilibrio al final de la combustión"));
     columna->addWidget(tblCifras_, 3);
@@ -173,11 +175,17 @@ void VentanaDisociacion::Mostrar(std::shared_ptr<const CalculoComparado> calculo
         }
     }
     tblCifras_->resizeColumnsToContents();
-    // The table whole beside the diagrams, which take the rest.
-    int ancho = tblCifras_->verticalHeader()->sizeHint().width() + 2 * tblCifras_->frameWidth() +
-                tblCifras_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    for (int k = 0; k < tblCifras_->columnCount(); ++k) ancho += tblCifras_->columnWidth(k);
-    tblCifras_->setMinimumWidth(ancho);
+    // The row titles' width as their header will take it, with its margins.
+    int titulos = 0;
+    for (int i = 0; i < tblCifras_->rowCount(); ++i)
+        titulos = std::max(
+            titulos, tblCifras_->fontMetrics().horizontalAdvance(tblCifras_->verticalHeaderItem(i)->text()));
+    anchoTabla_ =
+        titulos + 2 * tblCifras_->style()->pixelMetric(QStyle::PM_HeaderMargin) +
+        2 * tblCifras_->frameWidth() + tblCifras_->style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
+        tblCifras_->fontMetrics().horizontalAdvance(QStringLiteral("0000"));  // the cells' own margins
+    for (int k = 0; k < tblCifras_->columnCount(); ++k) anchoTabla_ += tblCifras_->columnWidth(k);
+    Repartir();
 
     QString ideal;
     if (const std::string r = equilibrio::RendimientoIdealTexto(e); !r.empty())
@@ -189,6 +197,18 @@ void VentanaDisociacion::Mostrar(std::shared_ptr<const CalculoComparado> calculo
     lblEspecies_->setText(QString::fromUtf8("Composición en equilibrio al final de la combustión (estado %1)")
                               .arg(otto ? 3 : 4));
     if (ciclos->equilibrio.bien) especies_->PonerMezcla(ciclos->equilibrio.estado4, sep);
+}
+
+// The table whole beside the diagrams, which take the rest, as far as the
+// window's width allows; again at each new size of the window.
+void VentanaDisociacion::Repartir() {
+    if (anchoTabla_ > 0) division_->setSizes({division_->width() - anchoTabla_, anchoTabla_});
+}
+
+void VentanaDisociacion::resizeEvent(QResizeEvent* evento) {
+    QWidget::resizeEvent(evento);
+    layout()->activate();
+    Repartir();
 }
 
 }  // namespace vanta

@@ -55,7 +55,13 @@ public:
     LienzoFigura* Lienzo(Diagrama d) const { return lienzos_[static_cast<size_t>(d)]; }
     GraficaEspecies* Especies() const { return especies_; }
 
+protected:
+    void resizeEvent(QResizeEvent* evento) override;
+
 private:
+    void Repartir();
+
+    int anchoTabla_ = 0;
     QSplitter* division_ = nullptr;
     std::array<LienzoFigura*, 4> lienzos_{};
     QTableWidget* tblCifras_ = nullptr;
